@@ -1,0 +1,87 @@
+// What each routine takes and touches, as data. Made from the three lists beside this header; the tests,
+// the benchmarks and the tool stand on it, the library does not.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace tintvert::catalog {
+
+enum class Arg {
+#define TNTVT_ARGUMENT(name, kind, meaning) name,
+#include "arguments.def"
+#undef TNTVT_ARGUMENT
+};
+
+struct Argument {
+    enum Kind { number, buffer };
+    std::string_view name;
+    Kind kind;
+    std::string_view meaning;
+};
+
+const Argument& describe(Arg argument);
+
+// The values of one call, by argument name; a buffer's value is its address.
+class Arguments {
+public:
+    int64_t& operator[](Arg argument) { return values_[static_cast<size_t>(argument)]; }
+    int64_t operator[](Arg argument) const { return values_[static_cast<size_t>(argument)]; }
+
+    template <class Type>
+    Type as(Arg argument) const
+    {
+        if constexpr (std::is_pointer_v<Type>)
+            return reinterpret_cast<Type>((*this)[argument]);
+        else
+            return static_cast<Type>((*this)[argument]);
+    }
+
+private:
+    static constexpr size_t count = 0
+#define TNTVT_ARGUMENT(name, kind, meaning) +1
+#include "arguments.def"
+#undef TNTVT_ARGUMENT
+        ;
+    std::array<int64_t, count> values_{};
+};
+
+// Bytes [begin, end) from the pointer that was passed; begin may be negative. Empty if nothing is touched.
+struct Range {
+    int64_t begin = 0, end = 0;
+    bool empty() const { return begin >= end; }
+    bool operator==(const Range&) const = default;
+};
+
+// From the lowest to the highest byte that a call reads and writes in one buffer.
+struct Touch {
+    Arg buffer{};
+    Range read, written;
+};
+
+// One entry for each buffer that the call touches.
+class Extents {
+public:
+    void add(Arg buffer, Range read, Range written) { touches_[count_++] = {buffer, read, written}; }
+    const Touch* begin() const { return touches_.data(); }
+    const Touch* end() const { return touches_.data() + count_; }
+
+private:
+    std::array<Touch, 8> touches_{};
+    size_t count_ = 0;
+};
+
+struct Routine {
+    std::string_view chapter, name, shape, from, to, summary;
+    std::span<const Arg> arguments;
+    Extents (*extents)(const Arguments&);
+    int64_t (*call)(const Arguments&);  // 0 from a routine that returns nothing
+};
+
+std::span<const Routine> routines();
+const Routine* find(std::string_view name);  // null if there is none
+
+}  // namespace tintvert::catalog

@@ -1,0 +1,32 @@
+// How far a call reaches: one rule a family, named in routines.def. Each rule says, from the arguments
+// alone, the lowest and the highest byte that the routine reads and writes in each of its buffers.
+#pragma once
+
+#include "catalog.h"
+
+namespace tintvert::catalog::extents {
+
+#define TNTVT_RULE(name) Extents name(const Arguments& call);
+#include "extents.def"
+#undef TNTVT_RULE
+
+// Parts that rules are made of.
+
+inline Range join(Range one, Range other)
+{
+    if (one.empty()) return other;
+    if (other.empty()) return one;
+    return {one.begin < other.begin ? one.begin : other.begin, one.end > other.end ? one.end : other.end};
+}
+
+// `count` lines of `bytes` bytes that begin at `first`, `first` + `stride`, ...
+inline Range lines(int64_t first, int64_t stride, int64_t count, int64_t bytes)
+{
+    if (count < 1 || bytes < 1) return {};
+    const int64_t last = first + (count - 1) * stride;
+    return join({first, first + bytes}, {last, last + bytes});
+}
+
+inline int64_t round_up(int64_t value, int64_t unit) { return (value + unit - 1) / unit * unit; }
+
+}  // namespace tintvert::catalog::extents

@@ -1,0 +1,31 @@
+# Flags that every target of the project is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+# The matrices are double precision in a stated order. A fused multiply-add rounds once where the
+# formulas round twice and moves a truncation by one code, so contraction stays off everywhere.
+add_compile_options(-ffp-contract=off)
+
+# 32-bit products and sums wrap where the interface says so; that is written with unsigned types,
+# and no flag is needed for it.
+
+set(TINTVERT_SANITIZE "" CACHE STRING "Value for -fsanitize=, empty for none")
+if(TINTVERT_SANITIZE)
+  add_compile_options(-fsanitize=${TINTVERT_SANITIZE} -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${TINTVERT_SANITIZE})
+  if(TINTVERT_SANITIZE MATCHES "undefined")
+    add_compile_options(-fno-sanitize-recover=undefined)
+  endif()
+endif()

@@ -1,0 +1,19 @@
+/* What every chapter header stands on: fixed-width integers, the mark of an exported routine, and the
+ * brackets that give a declaration C linkage in both languages. */
+#ifndef TINTVERT_EXPORT_H
+#define TINTVERT_EXPORT_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#define TNTVT_API __attribute__((visibility("default")))
+
+#ifdef __cplusplus
+#define TNTVT_BEGIN extern "C" {
+#define TNTVT_END }
+#else
+#define TNTVT_BEGIN
+#define TNTVT_END
+#endif
+
+#endif

@@ -1,0 +1,41 @@
+// Loads and stores of words at any address, in the byte order of the layouts.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace tintvert {
+
+static_assert(std::endian::native == std::endian::little, "words of the layouts are little-endian");
+
+template <class Word>
+inline Word load(const void* address)
+{
+    Word word;
+    std::memcpy(&word, address, sizeof word);
+    return word;
+}
+
+template <class Word>
+inline void store(void* address, Word word)
+{
+    std::memcpy(address, &word, sizeof word);
+}
+
+inline uint16_t byte_reverse(uint16_t word) { return static_cast<uint16_t>(word << 8 | word >> 8); }
+inline uint32_t byte_reverse(uint32_t word) { return __builtin_bswap32(word); }
+inline uint64_t byte_reverse(uint64_t word) { return __builtin_bswap64(word); }
+
+inline uint8_t* bytes(void* pointer) { return static_cast<uint8_t*>(pointer); }
+
+// Offsets are summed as integers: a routine may be told to stand far outside a buffer, where pointer
+// arithmetic has no meaning of its own.
+template <class Pointer>
+inline Pointer* advance(Pointer* pointer, long offset)
+{
+    return reinterpret_cast<Pointer*>(reinterpret_cast<uintptr_t>(pointer) + static_cast<uintptr_t>(offset));
+}
+
+}  // namespace tintvert

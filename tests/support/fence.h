@@ -1,0 +1,41 @@
+// Memory with a fence: pages that fault, or that may only be read, from a chosen byte on.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+
+#include "catalog.h"
+
+namespace tintvert::test {
+
+enum class Side { below, above };         // which side of the fence is closed
+enum class Closed { wholly, to_writes };  // how
+
+// Holds the bytes of `hull` around pointer(). The fence stands in front of the byte at offset `fence`.
+class FencedBuffer {
+public:
+    FencedBuffer(catalog::Range hull, int64_t fence, Side side, Closed closed);
+    ~FencedBuffer();
+    FencedBuffer(const FencedBuffer&) = delete;
+    FencedBuffer& operator=(const FencedBuffer&) = delete;
+
+    uint8_t* pointer() const { return pointer_; }
+
+private:
+    uint8_t* map_;
+    size_t mapped_;
+    uint8_t* pointer_;
+};
+
+// Whether `work` ends in a memory fault.
+bool faults(const std::function<void()>& work);
+
+// Calls `routine` with `call`, whose buffers are supplied here, and proves that it touches the bytes of its
+// extents rule: none outside, and the outermost ones on either side, reads and writes apart. Both are
+// proved with fences, so nothing rests on the values in the buffers. GoogleTest failures tell what differs.
+// `fill` is called on a buffer before each call, for routines that want a stream of a certain form.
+using Fill = std::function<void(catalog::Arg buffer, uint8_t* pointer, catalog::Range hull)>;
+void expect_exact_extents(const catalog::Routine& routine, catalog::Arguments call, const Fill& fill = {});
+
+}  // namespace tintvert::test

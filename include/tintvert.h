@@ -20,7 +20,11 @@
 
 #include <tintvert/decode.h>
 #include <tintvert/export.h>
+#include <tintvert/field.h>
 #include <tintvert/frame.h>
+#include <tintvert/hdr.h>
+#include <tintvert/rgb.h>
+#include <tintvert/ycbcr10.h>
 #include <tintvert/ycbcr8.h>
 
 #endif

@@ -1,0 +1,145 @@
+// The three source forms: where the samples of a line stand. `pixel` is the definition; `step` converts
+// `step_pixels` of them at once to the same bytes, as far as `sampled` says that every pixel has chroma of
+// its own.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "avx2.h"
+#include "matrix.h"
+
+namespace ycbcr {
+
+YCBCR_AVX2 __m256i load_32(const uint8_t* address)
+{
+    return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(address));
+}
+
+// b0 Cb, b1 Y0, b2 Cr, b3 Y1.
+struct Uyvy {
+    const uint8_t* line;
+
+    void pixel(uint8_t* dst, int x, const Weights& w) const
+    {
+        const uint8_t* pair = line + x / 2 * 4;
+        put(dst, w, luma_8(pair[x % 2 * 2 + 1]), chroma_8(pair[0]), chroma_8(pair[2]));
+    }
+
+    static int sampled(int width) { return width; }
+    static constexpr int step_pixels = 16;
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    {
+        const __m256i words = load_32(line + x * 2);  // luma in the high byte, chroma in the low
+        const __m256i luma = _mm256_sub_epi16(_mm256_and_si256(_mm256_srli_epi16(words, 1), _mm256_set1_epi16(0x7F80)),
+                                              _mm256_set1_epi16(16 * 128));
+        const __m256i centred = _mm256_xor_si256(_mm256_slli_epi16(words, 8), _mm256_set1_epi16(-0x8000));
+        // Both words of a pair take its Cb, then its Cr.
+        const __m256i cb =
+            _mm256_or_si256(_mm256_and_si256(centred, _mm256_set1_epi32(0xFFFF)), _mm256_slli_epi32(centred, 16));
+        const __m256i cr = _mm256_blend_epi16(_mm256_srli_epi32(centred, 16), centred, 0xAA);
+        store_16(dst + x * 4, convert(w, luma, cb, cr));
+    }
+};
+
+//            29 ..... 20  19 ..... 10   9 ...... 0
+//   word 0       Cr0          Y0           Cb0
+//   word 1       Y2           Cb2          Y1
+//   word 2       Cb4          Y3           Cr2
+//   word 3       Y5           Cr4          Y4
+// In the order Cb0, Y0, Cr0, Y1, Cb2 ... sample n stands in word n / 3 from bit 10 * (n % 3) on.
+struct V210 {
+    const uint8_t* line;
+
+    static int sample(const uint8_t* group, int n)
+    {
+        uint32_t word;
+        std::memcpy(&word, group + n / 3 * 4, sizeof word);
+        return static_cast<int>(word >> (n % 3 * 10) & 0x3FF);
+    }
+
+    void pixel(uint8_t* dst, int x, const Weights& w) const
+    {
+        const uint8_t* group = line + x / 6 * 16;
+        const int n = x % 6, pair = n / 2 * 4;
+        put(dst, w, luma_10(sample(group, n * 2 + 1)), chroma_10(sample(group, pair)),
+            chroma_10(sample(group, pair + 2)));
+    }
+
+    // Two groups, one in each half. A field that begins at bit 0, 10 or 20 of its word lies in bytes 0-1, 1-2
+    // or 2-3 from bit 0, 2 or 4 on; a product with 64, 16 or 4 moves it to the top of 16 bits and a mask
+    // clears what lay below. The last two of the eight places stay idle.
+    static int sampled(int width) { return width; }
+    static constexpr int step_pixels = 12;
+    YCBCR_AVX2 static __m256i fields(__m256i words, __m128i bytes, __m128i factors)
+    {
+        const __m256i places = _mm256_shuffle_epi8(words, _mm256_broadcastsi128_si256(bytes));
+        return _mm256_and_si256(_mm256_mullo_epi16(places, _mm256_broadcastsi128_si256(factors)),
+                                _mm256_set1_epi16(-64));
+    }
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    {
+        const __m256i words = load_32(line + x / 6 * 16);
+        const __m256i y = fields(words, _mm_setr_epi8(1, 2, 4, 5, 6, 7, 9, 10, 12, 13, 14, 15, -1, -1, -1, -1),
+                                 _mm_setr_epi16(16, 64, 4, 16, 64, 4, 0, 0));
+        const __m256i cb = fields(words, _mm_setr_epi8(0, 1, 0, 1, 5, 6, 5, 6, 10, 11, 10, 11, -1, -1, -1, -1),
+                                  _mm_setr_epi16(64, 64, 16, 16, 4, 4, 0, 0));
+        const __m256i cr = fields(words, _mm_setr_epi8(2, 3, 2, 3, 8, 9, 8, 9, 13, 14, 13, 14, -1, -1, -1, -1),
+                                  _mm_setr_epi16(4, 4, 64, 64, 16, 16, 0, 0));
+        const __m256i half = _mm256_set1_epi16(-0x8000);
+        const __m256i luma = _mm256_sub_epi16(_mm256_srli_epi16(y, 1), _mm256_set1_epi16(64 * 32));
+        const WidePixels p = convert(w, luma, _mm256_xor_si256(cb, half), _mm256_xor_si256(cr, half));
+        uint8_t* out = dst + x * 4;
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(p.low));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_castsi256_si128(p.high));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 24), _mm256_extracti128_si256(p.low, 1));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 40), _mm256_extracti128_si256(p.high, 1));
+    }
+};
+
+// A luma line and the chroma lines that serve it; null where there is no chroma line.
+struct Planar {
+    const uint8_t* y;
+    const uint8_t* cb;
+    const uint8_t* cr;
+    int samples;  // of a chroma line
+
+    void pixel(uint8_t* dst, int x, const Weights& w) const
+    {
+        const int last = samples - 1, c = x / 2 < last ? x / 2 : last;
+        put(dst, w, luma_8(y[x]), c < 0 ? 0 : chroma_8(cb[c]), c < 0 ? 0 : chroma_8(cr[c]));
+    }
+
+    int sampled(int) const { return samples * 2; }
+    static constexpr int step_pixels = 16;
+    YCBCR_AVX2 static __m256i doubled(const uint8_t* chroma)
+    {
+        const __m128i eight = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(chroma));
+        const __m256i words = _mm256_cvtepu8_epi16(_mm_unpacklo_epi8(eight, eight));
+        return _mm256_xor_si256(_mm256_slli_epi16(words, 8), _mm256_set1_epi16(-0x8000));
+    }
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    {
+        const __m256i bytes = _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(y + x)));
+        const __m256i luma = _mm256_sub_epi16(_mm256_slli_epi16(bytes, 7), _mm256_set1_epi16(16 * 128));
+        store_16(dst + x * 4, convert(w, luma, doubled(cb + x / 2), doubled(cr + x / 2)));
+    }
+};
+
+template <class Form>
+void line_plain(uint8_t* dst, const Form& src, int from, int width, const Weights& w)
+{
+    for (int x = from; x < width; ++x) src.pixel(dst + static_cast<long>(x) * 4, x, w);
+}
+
+template <class Form>
+__attribute__((target("avx2"))) void line_avx2(uint8_t* dst, const Form& src, int width, const Weights& w)
+{
+    const WideWeights wide = widen(w);
+    int x = 0;
+    const int sampled = src.sampled(width);
+    for (; sampled - x >= Form::step_pixels; x += Form::step_pixels) src.step(dst, x, wide);
+    line_plain(dst, src, x, width, w);
+}
+
+}  // namespace ycbcr

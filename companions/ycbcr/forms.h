@@ -31,14 +31,8 @@ struct Uyvy {
     YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
     {
         const __m256i words = load_32(line + x * 2);  // luma in the high byte, chroma in the low
-        const __m256i luma = _mm256_sub_epi16(_mm256_and_si256(_mm256_srli_epi16(words, 1), _mm256_set1_epi16(0x7F80)),
-                                              _mm256_set1_epi16(16 * 128));
-        const __m256i centred = _mm256_xor_si256(_mm256_slli_epi16(words, 8), _mm256_set1_epi16(-0x8000));
-        // Both words of a pair take its Cb, then its Cr.
-        const __m256i cb =
-            _mm256_or_si256(_mm256_and_si256(centred, _mm256_set1_epi32(0xFFFF)), _mm256_slli_epi32(centred, 16));
-        const __m256i cr = _mm256_blend_epi16(_mm256_srli_epi32(centred, 16), centred, 0xAA);
-        store_16(dst + x * 4, convert(w, luma, cb, cr));
+        const __m256i luma = _mm256_and_si256(words, _mm256_set1_epi16(-256));
+        store_16(dst + x * 4, convert(w, luma, centred(_mm256_slli_epi16(words, 8))));
     }
 };
 
@@ -73,22 +67,17 @@ struct V210 {
     static constexpr int step_pixels = 12;
     YCBCR_AVX2 static __m256i fields(__m256i words, __m128i bytes, __m128i factors)
     {
-        const __m256i places = _mm256_shuffle_epi8(words, _mm256_broadcastsi128_si256(bytes));
-        return _mm256_and_si256(_mm256_mullo_epi16(places, _mm256_broadcastsi128_si256(factors)),
-                                _mm256_set1_epi16(-64));
+        const __m256i places = _mm256_shuffle_epi8(words, in_both_halves(bytes));
+        return _mm256_and_si256(_mm256_mullo_epi16(places, in_both_halves(factors)), _mm256_set1_epi16(-64));
     }
     YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
     {
         const __m256i words = load_32(line + x / 6 * 16);
-        const __m256i y = fields(words, _mm_setr_epi8(1, 2, 4, 5, 6, 7, 9, 10, 12, 13, 14, 15, -1, -1, -1, -1),
-                                 _mm_setr_epi16(16, 64, 4, 16, 64, 4, 0, 0));
-        const __m256i cb = fields(words, _mm_setr_epi8(0, 1, 0, 1, 5, 6, 5, 6, 10, 11, 10, 11, -1, -1, -1, -1),
-                                  _mm_setr_epi16(64, 64, 16, 16, 4, 4, 0, 0));
-        const __m256i cr = fields(words, _mm_setr_epi8(2, 3, 2, 3, 8, 9, 8, 9, 13, 14, 13, 14, -1, -1, -1, -1),
-                                  _mm_setr_epi16(4, 4, 64, 64, 16, 16, 0, 0));
-        const __m256i half = _mm256_set1_epi16(-0x8000);
-        const __m256i luma = _mm256_sub_epi16(_mm256_srli_epi16(y, 1), _mm256_set1_epi16(64 * 32));
-        const WidePixels p = convert(w, luma, _mm256_xor_si256(cb, half), _mm256_xor_si256(cr, half));
+        const __m256i luma = fields(words, _mm_setr_epi8(1, 2, 4, 5, 6, 7, 9, 10, 12, 13, 14, 15, -1, -1, -1, -1),
+                                    _mm_setr_epi16(16, 64, 4, 16, 64, 4, 0, 0));
+        const __m256i chroma = fields(words, _mm_setr_epi8(0, 1, 2, 3, 5, 6, 8, 9, 10, 11, 13, 14, -1, -1, -1, -1),
+                                      _mm_setr_epi16(64, 4, 16, 64, 4, 16, 0, 0));
+        const WidePixels p = convert(w, luma, centred(chroma));
         uint8_t* out = dst + x * 4;
         _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(p.low));
         _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_castsi256_si128(p.high));
@@ -112,17 +101,13 @@ struct Planar {
 
     int sampled(int) const { return samples * 2; }
     static constexpr int step_pixels = 16;
-    YCBCR_AVX2 static __m256i doubled(const uint8_t* chroma)
-    {
-        const __m128i eight = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(chroma));
-        const __m256i words = _mm256_cvtepu8_epi16(_mm_unpacklo_epi8(eight, eight));
-        return _mm256_xor_si256(_mm256_slli_epi16(words, 8), _mm256_set1_epi16(-0x8000));
-    }
     YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
     {
-        const __m256i bytes = _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(y + x)));
-        const __m256i luma = _mm256_sub_epi16(_mm256_slli_epi16(bytes, 7), _mm256_set1_epi16(16 * 128));
-        store_16(dst + x * 4, convert(w, luma, doubled(cb + x / 2), doubled(cr + x / 2)));
+        const auto eight = [&](const uint8_t* plane) { return reinterpret_cast<const __m128i*>(plane + x / 2); };
+        const __m128i luma = _mm_loadu_si128(reinterpret_cast<const __m128i*>(y + x));
+        const __m128i pairs = _mm_unpacklo_epi8(_mm_loadl_epi64(eight(cb)), _mm_loadl_epi64(eight(cr)));
+        store_16(dst + x * 4, convert(w, _mm256_slli_epi16(_mm256_cvtepu8_epi16(luma), 8),
+                                      centred(_mm256_slli_epi16(_mm256_cvtepu8_epi16(pairs), 8))));
     }
 };
 

@@ -3,9 +3,10 @@
 
 #include "zkutil.h"
 
+// memmove takes no null pointer, not even for 0 bytes.
 void CopyMemoryFast(void* destination, const void* source, unsigned int bytes)
 {
-    std::memmove(destination, source, bytes);
+    if (bytes != 0) std::memmove(destination, source, bytes);
 }
 
 void* ZKAlloc(unsigned int bytes) { return std::malloc(bytes); }

@@ -1,3 +1,11 @@
 #include "zkutil.h"
 
-unsigned int CPUFeatureFlags(void) { return __builtin_cpu_supports("mmx") ? 0x20u : 0u; }
+unsigned int CPUFeatureFlags(void)
+{
+    unsigned int flags = 0;
+    if (__builtin_cpu_supports("mmx")) flags |= ZKUTIL_CPU_MMX;
+    if (__builtin_cpu_supports("sse2")) flags |= ZKUTIL_CPU_SSE2;
+    if (__builtin_cpu_supports("ssse3")) flags |= ZKUTIL_CPU_SSSE3;
+    if (__builtin_cpu_supports("avx2")) flags |= ZKUTIL_CPU_AVX2;
+    return flags;
+}

@@ -1,0 +1,28 @@
+#include "frame/state.h"
+
+#include <gtest/gtest.h>
+#include <tintvert/frame.h>
+#include <zkutil.h>
+
+#include "frame/failure.h"
+
+namespace tintvert::test {
+namespace {
+
+TEST(State, opens_with_bit_0x20_noted_as_0_or_1)
+{
+    EXPECT_EQ(tnvtt_open(1, 2, 3, 4), 0);
+    EXPECT_EQ(use_MMX, (CPUFeatureFlags() & 0x20) != 0 ? 1 : 0);
+}
+
+TEST(State, has_an_opaque_default_alpha) { EXPECT_EQ(a, 255); }
+
+TEST(Failure, keeps_line_feed_before_carriage_return)
+{
+    testing::internal::CaptureStderr();
+    report_failure("exception-somewhere() ");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "ERROR(Tintvert): exception-somewhere() \n\r");
+}
+
+}  // namespace
+}  // namespace tintvert::test

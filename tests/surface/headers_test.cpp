@@ -18,12 +18,14 @@ Ran compile(const std::string& compiler, const std::string& source)
 const std::string c11 = TINTVERT_C_COMPILER " -std=c11 -x c";
 const std::string cxx20 = TINTVERT_CXX_COMPILER " -std=c++20 -x c++";
 
+// Every header of the library, and of each companion the one that carries its name.
 std::vector<fs::path> headers()
 {
     std::vector<fs::path> found;
-    for (const char* folder : {TINTVERT_INCLUDE, TINTVERT_COMPANIONS})
-        for (const auto& file : fs::recursive_directory_iterator(folder))
-            if (file.path().extension() == ".h") found.push_back(file.path());
+    for (const auto& file : fs::recursive_directory_iterator(TINTVERT_INCLUDE))
+        if (file.path().extension() == ".h") found.push_back(file.path());
+    for (const auto& companion : fs::directory_iterator(TINTVERT_COMPANIONS))
+        if (companion.is_directory()) found.push_back(companion.path() / companion.path().filename() += ".h");
     return found;
 }
 

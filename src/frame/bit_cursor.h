@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdlib>
 
 namespace tintvert {
 
@@ -11,6 +12,16 @@ struct BitCursor {
     uint8_t* limit;      // one past the last byte that may be read or stored
     uint32_t bitsLeft;   // bits left in the byte at `cursor`: 8 for a fresh byte
 };
+
+// One record a call, from malloc and, at its end, to free. The result is not tested: without memory the first
+// store goes through null. The empty statement hides from the optimiser where the pointer comes from, because
+// one that knows keeps the record in registers and drops the allocation.
+inline BitCursor* obtain_bit_cursor()
+{
+    BitCursor* bits = static_cast<BitCursor*>(std::malloc(sizeof(BitCursor)));
+    asm volatile("" : "+r"(bits));
+    return bits;
+}
 
 inline void restart(BitCursor* bits, uint8_t* start, uint8_t* limit)
 {

@@ -1,0 +1,32 @@
+// What these routines touch is told by the stream and not by the arguments: the rules read it, `streamSize`
+// bytes at `src`, and are right for streams that end within it.
+#include "extents.h"
+#include "rle_scan.h"
+
+namespace tintvert::catalog::extents {
+namespace {
+
+std::span<const uint8_t> stream_of(const Arguments& call)
+{
+    return {call.as<const uint8_t*>(Arg::src), call.as<size_t>(Arg::streamSize)};
+}
+
+Extents extents_of(const RleScan& scan)
+{
+    Extents result;
+    result.add(Arg::dst, {}, scan.written);
+    result.add(Arg::src, scan.stream, {});
+    result.add(Arg::palette, scan.palette, {});
+    return result;
+}
+
+}  // namespace
+
+Extents rle8_rgb32(const Arguments& call)
+{
+    return extents_of(scan_rle8_rgb32(stream_of(call), call[Arg::dstStride], call[Arg::height]));
+}
+
+Extents rle8_rgb24(const Arguments& call) { return extents_of(scan_rle8_rgb24(stream_of(call), call[Arg::height])); }
+
+}  // namespace tintvert::catalog::extents

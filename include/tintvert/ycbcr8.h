@@ -1,4 +1,4 @@
-/* 8-bit YCbCr: into `2vuy` from RGB and from other 8-bit layouts.
+/* 8-bit YCbCr: into `2vuy` from RGB, from other 8-bit layouts, and from planes and back.
  *
  * `2vuy` is 4:2:2 in groups of four bytes: Cb, Y of the even pixel, Cr, Y of the odd pixel. */
 #ifndef TINTVERT_YCBCR8_H
@@ -70,6 +70,71 @@ TNTVT_API void tntvt_yuv420_yuv422_8(unsigned char*, unsigned char*, unsigned in
 TNTVT_API void tntvt_yuv422_yuv420_8(unsigned char*, unsigned char*, unsigned int, unsigned int, unsigned int);
 TNTVT_API void tntvt_yuv420_yuv411_8(unsigned char*, unsigned char*, unsigned int, unsigned int, unsigned int);
 TNTVT_API void tntvt_yuv411_yuv420_8(unsigned char*, unsigned char*, unsigned int, unsigned int, unsigned int);
+
+/* 4:2:2 planes to `2vuy` and back. `count` is the number of luma samples; an odd last one is dropped, and
+ * below 2 nothing is done. Planes and packed frame are unbroken runs. The three unnamed numbers are ignored:
+ * they are no strides. */
+TNTVT_API void tntvt_planar_2vuy(unsigned char* dst, unsigned char* y, unsigned char* cb, unsigned char* cr,
+                                 unsigned int, unsigned int, unsigned int, unsigned int count);
+TNTVT_API void tntvt_2vuy_planar(unsigned char* y, unsigned char* cb, unsigned char* cr, unsigned int, unsigned int,
+                                 unsigned int, unsigned char* src, unsigned int count);
+
+/* Two fields of 4:2:2 planes woven into one `2vuy` frame: a line of the first field, a line of the second,
+ * and so on with no gap. `groups` is the number of 4-byte groups in a line, half the width; `total` is groups
+ * times lines of the whole frame. (`total` / 2) / `groups` pairs of lines are written, what is left over is
+ * dropped, and a `groups` of 0 divides by zero. The three unnamed numbers are ignored. */
+TNTVT_API void tntvt_planarfields_2vuy(unsigned char* dst, unsigned char* y1, unsigned char* cb1, unsigned char* cr1,
+                                       unsigned char* y2, unsigned char* cb2, unsigned char* cr2, unsigned int,
+                                       unsigned int, unsigned int, unsigned int groups, unsigned int total);
+
+/* `i420` and `yv12` (4:2:0 in one buffer: luma, then Cb and Cr, in `yv12` Cr and Cb) to `2vuy`. The first
+ * chroma plane begins `width` x `height` bytes into `src` and the second a quarter of that, rounded down,
+ * later; a chroma line serves two lines, and nothing is interpolated.
+ *
+ * `stride` is that of `dst`, whose lines stand at its start; 0 and 0xFFFFFFFF mean `width` x 2. Sizes and line
+ * offsets are kept to 32 bits. A `width` or `height` of 0 writes nothing.
+ *
+ * An odd `width` runs the last group of a line whole: 2 bytes past the line are written, and luma lines are
+ * taken `width` + 1 samples apart, so that the last of them reaches `height` samples into the chroma.
+ *
+ * `interlaced`, of which zero means progressive, gives the lines of a `yv12` frame an order of their own:
+ *
+ *     output line   0  1  2  3  4  5  6  7   even r, 4 and above   odd r, 3 and above
+ *     luma line     0  2  3  2  3  4  5  6   r - 1                 r - 1
+ *     chroma line   0  1  1  0  2  1  3  2   r / 2                 (r - 1) / 2 - 1
+ *
+ * Luma line 1 is never read, and neither is the last one of a frame of 5 lines or more. A frame of 2 or 3
+ * lines reads one line of luma more than it has. Even lines go on in luma where the line before ended; odd
+ * lines are found at a multiple of `width`. */
+TNTVT_API void tntvt_i420_2vuy(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                               unsigned int stride);
+TNTVT_API void tntvt_yv12_2vuy(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                               unsigned int stride, unsigned char interlaced);
+
+/* `2vuy` to `i420` and `yv12`, planes as above. Chroma is taken from lines 0, 2, 4 ... and dropped from the
+ * others.
+ *
+ * `stride` is that of `src`, whose lines stand at its start; 0 and 0xFFFFFFFF mean `width` x 2. A line is all
+ * of its stride, in whole groups of 4 bytes: slack goes into the planes as if it were pixels, and a `stride`
+ * above `width` x 2 makes luma run on into chroma. Pass exactly `width` x 2, or 0. Each plane is filled
+ * without gaps; where luma and chroma meet, the chroma of a group is stored after its luma. A `height` of 0
+ * and a stride that comes to 0 do nothing. */
+TNTVT_API void tntvt_2vuy_i420(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                               unsigned int stride);
+TNTVT_API void tntvt_2vuy_yv12(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                               unsigned int stride);
+
+/* `YUY2` (Y, chroma, Y, chroma) to three 4:2:0 planes. The chroma of two lines is averaged, halves rounded
+ * up; luma is copied. Source first.
+ *
+ * `srcPitch` counts pixels, so source lines are 2 x `srcPitch` bytes apart. `y` lines are `dstPitch` bytes
+ * apart, `cb` and `cr` lines half of that. A `width` or `height` below 1 does nothing.
+ *
+ * An odd `height` takes its last line as a pair: one line beyond it is read and written. An odd `width` takes
+ * its last group whole, one pixel beyond, and makes the lines of each further pair stand 2 bytes later in the
+ * source and 1 byte later in `y` (and in `cb` and `cr` if `dstPitch` is odd) than the pitches say. */
+TNTVT_API void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigned char* cr, int width,
+                          int height, int srcPitch, int dstPitch);
 
 TNTVT_END
 

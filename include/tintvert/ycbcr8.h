@@ -1,4 +1,5 @@
-/* 8-bit YCbCr: into `2vuy` from RGB, from other 8-bit layouts, and from planes and back.
+/* 8-bit YCbCr: into `2vuy` from RGB and from other 8-bit layouts, planes and fields, alpha and luma planes,
+ * and range.
  *
  * `2vuy` is 4:2:2 in groups of four bytes: Cb, Y of the even pixel, Cr, Y of the odd pixel. */
 #ifndef TINTVERT_YCBCR8_H
@@ -135,6 +136,70 @@ TNTVT_API void tntvt_2vuy_yv12(unsigned char* dst, unsigned char* src, unsigned 
  * source and 1 byte later in `y` (and in `cb` and `cr` if `dstPitch` is odd) than the pitches say. */
 TNTVT_API void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigned char* cr, int width,
                           int height, int srcPitch, int dstPitch);
+
+/* `alphay` (one byte a pixel) to `2yuv` (chroma, luma, chroma, luma) with neutral chroma, 0x80.
+ *
+ * Backward: lines stand at the end of their strides on both sides, and the last line and last pair are done
+ * first, so that a frame may grow in place. An odd last pixel is dropped; a `width` below 2 or a `height`
+ * below 1 does nothing. Returns 0. */
+TNTVT_API int tntvt_alphay_to_2yuv(void* dst, long dstStride, void* src, long srcStride, long width, long height);
+
+/* The luma of a `2yuv` frame as `alphay`, and a `2yuv` frame with its chroma set to 0x80 and its luma kept.
+ *
+ * Forward, lines at the start of their strides. `height` + 1 lines are handled: one for a `height` of 0, none
+ * for a negative one. An odd last pixel is dropped, and a `width` below 2 does nothing. Both work in place.
+ * Return 0. */
+TNTVT_API int tntvt_2yuv_to_alphay(void* dst, long dstStride, void* src, long srcStride, long width, long height);
+TNTVT_API int tntvt_2yuv_strip_chroma(void* dst, long dstStride, void* src, long srcStride, long width, long height);
+
+/* An alpha plane, whose pitch is `width`, to `rgba`, each sample in all four bytes of its pixel, and from
+ * `rgba` by byte 0 of each pixel (not byte 3, which the two routines below write). The stride is that of the
+ * `rgba` side in both, at the fourth place; the second argument is ignored. Forward, so only the second works
+ * in place; a `width` or `height` below 1 does nothing. Return 0. */
+TNTVT_API int tntvt_alpha_to_rgba(void* dst, long, void* src, long dstStride, long width, long height);
+TNTVT_API int tntvt_rgba_to_alpha(void* dst, long, void* src, long srcStride, long width, long height);
+
+/* Stores the low byte of `alpha` in byte 3 of each pixel and touches no other byte. Forward; a `width` or
+ * `height` below 1 does nothing. Returns 0. */
+TNTVT_API int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long width, long height);
+
+/* Three bytes a pixel to four: bytes 0 to 2 as they are, the low byte of `alpha` in byte 3. Source first.
+ *
+ * Lines stand at the start of their strides; the last line is done first, but pixels from first to last, so
+ * it does not work in place. A `width` of 0 or a `height` below 1 does nothing; a negative `width` counts as
+ * unsigned, from 2^31 pixels up. Returns 0. */
+TNTVT_API int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dstStride, unsigned int alpha, int width,
+                                  int height);
+
+/* Removes isolated errors in the second luma of the pairs of one `2yuv` line, in place. Returns 0.
+ *
+ * Mode 1 halves the way from the second luma to the first in every pair, truncating. In modes 2 to 6 the
+ * first luma of a pair, `prev`, and that of the next, `cur`, are references: where they agree within 7 and the
+ * second luma `t` between them is 11 or more from `prev`, it is replaced. Other modes do nothing.
+ *
+ *     mode   replacement        where
+ *     2      prev               `prev` below 128
+ *     3      prev               everywhere
+ *     4      (t + prev) >> 1    `prev` below 128
+ *     5      (t + prev) >> 1    everywhere
+ *     6      (cur + prev) >> 1  everywhere
+ *
+ * `bytes` below 2 does nothing. Mode 1 runs its last pair whole, up to index `bytes` + 1. The others run one
+ * round past the end: they read up to index `bytes` + 3 and write up to index `bytes` + 1. */
+TNTVT_API int tntvt_2yuv_average_2y(void* buf, unsigned int bytes, int mode);
+
+/* Scales a `2vuy` buffer in place by tables: from full to video range if `up` is zero, from video to full
+ * range otherwise.
+ *
+ * Down is i x 219 / 255 + 16 for luma and i x 224 / 254 + 16 for chroma, where 255 becomes 241. Up has the two
+ * tables exchanged: chroma bytes take the luma rule, 256 x (i - 16) / 220 + 0.5, and luma bytes the chroma
+ * rule, 256 x (i - 16) / 225 + 0.5, each clamped to 0 and 255. Up is not the inverse of down: a chroma of 128
+ * stays 128 going down and comes back as 130.
+ *
+ * A `bytes` that is no multiple of 4 runs its last group whole, up to 3 bytes past the end. The tables are
+ * filled on the first call. While several threads make their first calls at once, a chroma of 255 may for a
+ * moment be scaled down to 240. */
+TNTVT_API void tntvt_2vuy_scale(unsigned char* buffer, unsigned int bytes, unsigned int up);
 
 TNTVT_END
 

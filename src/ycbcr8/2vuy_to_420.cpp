@@ -1,0 +1,62 @@
+// `2vuy` to `i420` and `yv12`: the chroma of even lines is kept, that of odd lines dropped.
+#include <tintvert/ycbcr8.h>
+
+#include <cstddef>
+
+#include "ycbcr8/planes_420.h"
+
+using namespace tintvert;
+
+namespace {
+
+void part_even_line(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, size_t groups)
+{
+    for (size_t g = 0; g < groups; ++g) {
+        luma[2 * g] = src[4 * g + 1];
+        luma[2 * g + 1] = src[4 * g + 3];
+        byte0[g] = src[4 * g];
+        byte2[g] = src[4 * g + 2];
+    }
+}
+
+void part_odd_line(uint8_t* luma, const uint8_t* src, size_t groups)
+{
+    for (size_t g = 0; g < groups; ++g) {
+        luma[2 * g] = src[4 * g + 1];
+        luma[2 * g + 1] = src[4 * g + 3];
+    }
+}
+
+// DELIBERATE (keeps_slack_as_pixels): a line is all of its stride, so slack is packed into the planes like
+// pixels, and luma that has outgrown its plane runs on into the chroma planes.
+void from_2vuy(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, uint32_t stride, uint32_t height)
+{
+    if (stride == 0) return;
+    const size_t groups = (size_t{stride} + 3) / 4;
+    for (uint32_t r = 0; r < height; ++r, luma += 2 * groups) {
+        const uint8_t* line = advance(src, r * stride);
+        if (r % 2 == 0) {
+            part_even_line(luma, byte0, byte2, line, groups);
+            byte0 += groups;
+            byte2 += groups;
+        } else {
+            part_odd_line(luma, line, groups);
+        }
+    }
+}
+
+}  // namespace
+
+void tntvt_2vuy_i420(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                     unsigned int stride)
+{
+    const Planes420<uint8_t> planes(dst, width, height);
+    from_2vuy(planes.luma, planes.chroma1, planes.chroma2, src, stride_or_default(stride, width), height);
+}
+
+void tntvt_2vuy_yv12(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
+                     unsigned int stride)
+{
+    const Planes420<uint8_t> planes(dst, width, height);
+    from_2vuy(planes.luma, planes.chroma2, planes.chroma1, src, stride_or_default(stride, width), height);
+}

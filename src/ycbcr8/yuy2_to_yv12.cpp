@@ -1,0 +1,44 @@
+// `YUY2` to three 4:2:0 planes, two lines at a time: the one way to 4:2:0 that averages.
+#include <tintvert/ycbcr8.h>
+
+#include "frame/memory.h"
+
+using namespace tintvert;
+
+namespace {
+
+void convert_pair(uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src, long src_pitch, long groups)
+{
+    uint8_t* const y_below = advance(y, y_pitch);
+    const uint8_t* const below = advance(src, src_pitch);
+    for (long g = 0; g < groups; ++g) {
+        y[2 * g] = src[4 * g];
+        y[2 * g + 1] = src[4 * g + 2];
+        y_below[2 * g] = below[4 * g];
+        y_below[2 * g + 1] = below[4 * g + 2];
+        cb[g] = static_cast<uint8_t>((src[4 * g + 1] + below[4 * g + 1] + 1) >> 1);
+        cr[g] = static_cast<uint8_t>((src[4 * g + 3] + below[4 * g + 3] + 1) >> 1);
+    }
+}
+
+}  // namespace
+
+// DELIBERATE (keeps_drift_of_odd_width): every pointer steps from the end of the groups by what `width`
+// leaves of its pitch. An odd `width` has half a group more than that, so pair by pair the source drifts by
+// 2 bytes and luma by 1, and chroma by 1 if `dstPitch` is odd as well. The shift is arithmetic, for pitches
+// below `width`.
+void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigned char* cr, int width, int height,
+                int srcPitch, int dstPitch)
+{
+    if (height < 1 || width < 1) return;
+    const long groups = (width - 1) / 2 + 1;
+    const long src_slack = 2l * srcPitch - width;
+    const long dst_slack = long{dstPitch} - width;
+    for (long line = 0; line < height; line += 2) {
+        convert_pair(y, dstPitch, cb, cr, src, 2l * srcPitch, groups);
+        src = advance(src, 4 * groups + src_slack * 2);
+        y = advance(y, 2 * groups + dst_slack + dstPitch);
+        cb = advance(cb, groups + (dst_slack >> 1));
+        cr = advance(cr, groups + (dst_slack >> 1));
+    }
+}

@@ -2,7 +2,8 @@
 //
 // A pixel form says what one pixel becomes and nothing about lines: `src_bytes`, `dst_bytes`, and
 // `pixel(dst, src)`, whose order of loads and stores is part of the form, because in place that order is
-// the result. The walkers say where a line stands in its stride.
+// the result. The walkers say where a line stands in its stride; a `width` or a count of lines below 1 is
+// no work.
 #pragma once
 
 #include <cstdint>
@@ -23,6 +24,7 @@ struct Frame {
 template <class Form>
 void walk_forward(const Frame& frame, long width, long lines, Form form = {})
 {
+    if (width < 1) return;
     for (long line = 0; line < lines; ++line) {
         uint8_t* dst = advance(bytes(frame.dst), line_offset(line, frame.dst_stride));
         const uint8_t* src = advance(bytes(frame.src), line_offset(line, frame.src_stride));
@@ -34,6 +36,7 @@ void walk_forward(const Frame& frame, long width, long lines, Form form = {})
 template <class Form>
 void walk_backward(const Frame& frame, long width, long lines, Form form = {})
 {
+    if (width < 1) return;
     for (long line = lines; line > 0; --line) {
         uint8_t* dst = advance(bytes(frame.dst), line_offset(line, frame.dst_stride));
         const uint8_t* src = advance(bytes(frame.src), line_offset(line, frame.src_stride));

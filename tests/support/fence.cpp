@@ -114,7 +114,7 @@ bool faults(const std::function<void()>& work)
     return faulted;
 }
 
-void expect_exact_extents(const Routine& routine, Arguments call, const Fill& fill)
+void expect_exact_extents(const Routine& routine, Arguments call, const Fill& fill, int64_t idle)
 {
     const Extents extents = routine.extents(call);
     for (const Touch& touch : extents) {
@@ -125,8 +125,11 @@ void expect_exact_extents(const Routine& routine, Arguments call, const Fill& fi
             };
             EXPECT_FALSE(fault(range.end, Side::above)) << where << ' ' << what << " past " << range.end;
             EXPECT_FALSE(fault(range.begin, Side::below)) << where << ' ' << what << " below " << range.begin;
-            EXPECT_TRUE(fault(range.end - 1, Side::above)) << where << ' ' << what << " not at " << range.end - 1;
-            EXPECT_TRUE(fault(range.begin + 1, Side::below)) << where << ' ' << what << " not at " << range.begin;
+            const int64_t depth = touch.written.empty() ? idle + 1 : 1;
+            EXPECT_TRUE(fault(range.end - depth, Side::above))
+                << where << ' ' << what << " not at " << range.end - depth;
+            EXPECT_TRUE(fault(range.begin + depth, Side::below))
+                << where << ' ' << what << " not at " << range.begin + depth - 1;
         };
         const Range hull = hull_of(touch);
         if (hull.empty()) continue;

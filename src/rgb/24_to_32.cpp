@@ -1,0 +1,110 @@
+// 24-bit pixels widened to 32 bits. Lines stand at the end of their strides; last line first, rightmost
+// pixel first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
+#include <tintvert/rgb.h>
+
+#include "frame/state.h"
+#include "frame/walk.h"
+#include "rgb/mirror.h"
+
+using namespace tintvert;
+
+namespace {
+
+// One byte at a time, in the order that stands here.
+// DELIBERATE (keeps_ascending_writes_in_place): in place at tight strides the first pixels of line 0 read
+// bytes that these stores have just replaced: d1 and d2 of pixel 1 and d2 of pixel 2.
+struct Rgb24ToRgb32 {
+    static constexpr long src_bytes = 3, dst_bytes = 4;
+    static void pixel(uint8_t* dst, const uint8_t* src)
+    {
+        dst[0] = src[0];
+        dst[1] = src[1];
+        dst[2] = src[2];
+        dst[3] = a;
+    }
+};
+
+// DELIBERATE (keeps_descending_writes_in_place): here it is d0 of pixels 0 and 1.
+struct Rgb24ToBgr32 {
+    static constexpr long src_bytes = 3, dst_bytes = 4;
+    static void pixel(uint8_t* dst, const uint8_t* src)
+    {
+        dst[2] = src[0];
+        dst[1] = src[1];
+        dst[0] = src[2];
+        dst[3] = a;
+    }
+};
+
+// Downwards: the one order of the three that harms no byte in place.
+struct MacBgr24ToMacArgb32 {
+    static constexpr long src_bytes = 3, dst_bytes = 4;
+    static void pixel(uint8_t* dst, const uint8_t* src)
+    {
+        dst[3] = src[2];
+        dst[2] = src[1];
+        dst[1] = src[0];
+        dst[0] = a;
+    }
+};
+
+void to_rgb32(const Frame& frame, long width, long height)
+{
+    walk_backward<Rgb24ToRgb32>(frame, width, magnitude(height));
+}
+
+void to_bgr32(const Frame& frame, long width, long height)
+{
+    walk_backward<Rgb24ToBgr32>(frame, width, magnitude(height));
+}
+
+}  // namespace
+
+void tntvt_rgb24_rgba32_inplace(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_rgb32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_rgb24_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_rgb32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_rgb24_rgb32_inplace(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_rgb32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_rgb24_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_rgb32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_rgb24_bgra32_inplace(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_bgr32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_rgb24_bgr32_inplace(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    to_bgr32({dst, dstStride, src, srcStride}, width, height);
+}
+
+void tntvt_macbgr24_macargb32_inplace(void* dst, long dstStride, void* src, long srcStride, long width, long height)
+{
+    walk_backward<MacBgr24ToMacArgb32>({dst, dstStride, src, srcStride}, width, height);
+}
+
+// DELIBERATE (keeps_crossed_pointers): the first pointer is read and the third written, and each goes
+// with the stride behind the other. Written line i ends at `dst` + i strides, so that line 0 lies in
+// front of `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
+//
+// The walker counts the lines r from `lines` down to 1, so i is `lines` - r and the read line
+// r + (`height` - 1 - `lines`).
+void tntvt_rgba24_rgb32_invert(void* src, long dstStride, void* dst, long srcStride, long width, long height)
+{
+    const long lines = magnitude(height);
+    const long first = line_sum(line_sum(height, -1), line_offset(-1, lines));
+    const Frame frame{dst, dstStride, advance(bytes(src), line_offset(first, srcStride)), srcStride};
+    walk_backward<Rgb24ToRgb32>(mirrored(frame, lines), width, lines);
+}

@@ -99,7 +99,7 @@ void unpack_line(BitCursor* bits, uint8_t* dst, long width)
 int tntvt_YCbCr10Packed_to_v210(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height)
 {
     const uint32_t dst_line = v210_line_of_48(width), src_line = width * 20 >> 3;
-    auto* bits = static_cast<BitCursor*>(std::malloc(sizeof(BitCursor)));
+    BitCursor* bits = obtain_bit_cursor();
     restart(bits, src, src + src_line * height);
     for (uint32_t y = 0; y < height; ++y) {
         uint8_t* const line = src + y * src_line;

@@ -94,7 +94,7 @@ int tntvt_v210_frame_to_rtp_4175(void* packet, long packetSize, unsigned short* 
 {
     uint8_t* const frame = bytes(packet);
     const uint32_t line_bytes = v210_line_of_48(width);
-    auto* bits = static_cast<BitCursor*>(std::malloc(sizeof(BitCursor)));
+    BitCursor* bits = obtain_bit_cursor();
     restart(bits, frame, advance(frame, packetSize));
     Stream stream{*seq, timestamp, ssrc, extSeq};
     for (uint32_t y = 0; y < height && width != 0; ++y)

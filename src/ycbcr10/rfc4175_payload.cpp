@@ -9,7 +9,7 @@ using namespace tintvert;
 
 int tntvt_4175_to_v210(void* dst, unsigned char* payload, long payloadSize, long pgroupCount, long startPhase)
 {
-    auto* bits = static_cast<BitCursor*>(std::malloc(sizeof(BitCursor)));
+    BitCursor* bits = obtain_bit_cursor();
     restart(bits, payload, advance(payload, payloadSize));
     uint8_t* group = bytes(dst);
 

@@ -27,6 +27,18 @@ inline Range lines(int64_t first, int64_t stride, int64_t count, int64_t bytes)
     return join({first, first + bytes}, {last, last + bytes});
 }
 
+// One frame on both sides. Buffers that the caller has still to supply are null, and are two.
+inline bool in_place(const Arguments& call) { return call[Arg::dst] != 0 && call[Arg::dst] == call[Arg::src]; }
+
+// A frame `src` read and a frame `dst` written; in place they are one.
+inline Extents two_frames_or_one(const Arguments& call, Range read, Range written)
+{
+    Extents result;
+    result.add(Arg::dst, in_place(call) ? read : Range{}, written);
+    if (!in_place(call)) result.add(Arg::src, read, {});
+    return result;
+}
+
 inline int64_t round_up(int64_t value, int64_t unit) { return (value + unit - 1) / unit * unit; }
 
 }  // namespace tintvert::catalog::extents

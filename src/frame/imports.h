@@ -3,4 +3,6 @@
 // of them throws passes through, so a caller of theirs is never `noexcept`.
 #pragma once
 
+#include <kmrutil.h>
+#include <ycbcr.h>
 #include <zkutil.h>

@@ -64,7 +64,11 @@ bool faults_with_fence(const Routine& routine, Arguments call, const Extents& ex
         const bool here = &touch == &fenced;
         buffers.push_back(here ? std::make_unique<FencedBuffer>(hull, fence, side, closed)
                                : std::make_unique<FencedBuffer>(hull, hull.end, Side::above, Closed::wholly));
-        call[touch.buffer] = reinterpret_cast<int64_t>(buffers.back()->pointer());
+        const int64_t name = call[touch.buffer], address = reinterpret_cast<int64_t>(buffers.back()->pointer());
+        for (const Arg argument : routine.arguments)
+            if (name != 0 && describe(argument).kind == Argument::buffer && call[argument] == name)
+                call[argument] = address;
+        call[touch.buffer] = address;
         if (fill) faults([&] { fill(touch.buffer, buffers.back()->pointer(), hull); });
     }
     return faults([&] { routine.call(call); });

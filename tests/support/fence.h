@@ -34,6 +34,7 @@ bool faults(const std::function<void()>& work);
 // Calls `routine` with `call`, whose buffers are supplied here, and proves that it touches the bytes of its
 // extents rule: none outside, and the outermost ones on either side, reads and writes apart. Both are
 // proved with fences, so nothing rests on the values in the buffers. GoogleTest failures tell what differs.
+// Buffers to which `call` gives one number other than 0 are one buffer: that is a call in place.
 // `fill` is called on a buffer before each call, for routines that want a stream of a certain form. Of a
 // buffer that is only read, the outermost `idle` bytes change no result, and a compiler may leave them out.
 using Fill = std::function<void(catalog::Arg buffer, uint8_t* pointer, catalog::Range hull)>;

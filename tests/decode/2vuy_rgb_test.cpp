@@ -1,0 +1,361 @@
+// `2vuy` to RGB by tables: bytes in, bytes out.
+#include <gtest/gtest.h>
+#include <tintvert.h>
+
+#include <algorithm>
+#include <climits>
+#include <csignal>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+using Memory = std::vector<uint8_t>;
+using Words = std::vector<uint16_t>;
+using Decoder = void (*)(void*, long, void*, long, long, long, long);
+
+struct Geometry {
+    long dstStride, srcStride, width, height, scale;
+};
+
+// What a call leaves of `bytes` bytes of 0xEE; as many in front of them and behind them stay as they are.
+Memory decode(Decoder decoder, Memory src, size_t bytes, const Geometry& g)
+{
+    const auto size = static_cast<ptrdiff_t>(bytes);
+    Memory dst(3 * bytes, 0xEE);
+    decoder(dst.data() + size, g.dstStride, src.data(), g.srcStride, g.width, g.height, g.scale);
+    EXPECT_EQ(Memory(dst.begin(), dst.begin() + size), Memory(bytes, 0xEE));
+    EXPECT_EQ(Memory(dst.end() - size, dst.end()), Memory(bytes, 0xEE));
+    return {dst.begin() + size, dst.end() - size};
+}
+
+Memory rgb24(const Memory& src, size_t bytes, const Geometry& g) { return decode(tntvt_yuv422_rgb24, src, bytes, g); }
+
+Words rgb16(const Memory& src, size_t words, const Geometry& g)
+{
+    const Memory bytes = decode(tntvt_yuv422_rgb16, src, 2 * words, g);
+    Words result(words);
+    std::memcpy(result.data(), bytes.data(), bytes.size());
+    return result;
+}
+
+// Pixels of neutral chroma. Luma 16, 128, 235 and 255 are the greys 0, 130, 254 and 255, and the words
+// 0, 0x4210, 0x7FFF and 0x7FFF.
+Memory greys(const std::vector<int>& luma)
+{
+    Memory bytes;
+    for (const int y : luma) bytes.insert(bytes.end(), {128, static_cast<uint8_t>(y)});
+    return bytes;
+}
+
+// One line after another.
+Memory lines_of(const std::vector<Memory>& lines)
+{
+    Memory bytes;
+    for (const Memory& line : lines) bytes.insert(bytes.end(), line.begin(), line.end());
+    return bytes;
+}
+
+TEST(Yuv422Rgb24, neutral_chroma)
+{
+    const Memory src = greys({16, 128, 235, 255});
+    EXPECT_EQ(rgb24(src, 12, {12, 8, 4, 1, 1}), (Memory{0, 0, 0, 130, 130, 130, 254, 254, 254, 255, 255, 255}));
+    EXPECT_EQ(rgb24(src, 16, {16, 8, 4, 1, 1}),
+              (Memory{0, 0, 0, 255, 130, 130, 130, 255, 254, 254, 254, 255, 255, 255, 255, 255}));
+}
+
+TEST(Yuv422Rgb24, clamps_below_and_above)
+{
+    EXPECT_EQ(rgb24(greys({0, 15, 17, 254}), 12, {12, 8, 4, 1, 1}), (Memory{0, 0, 0, 0, 0, 0, 1, 1, 1, 255, 255, 255}));
+    EXPECT_EQ(rgb24({0, 0, 0, 255}, 6, {6, 4, 2, 1, 1}), (Memory{0, 135, 0, 20, 255, 74}));
+    EXPECT_EQ(rgb24({255, 0, 255, 255}, 6, {6, 4, 2, 1, 1}), (Memory{237, 0, 184, 255, 125, 255}));
+}
+
+TEST(Yuv422Rgb24, primaries_of_video_range)
+{
+    EXPECT_EQ(rgb24({90, 81, 240, 81}, 6, {6, 4, 2, 1, 1}), (Memory{0, 0, 254, 0, 0, 254}));
+    EXPECT_EQ(rgb24({54, 145, 34, 145}, 6, {6, 4, 2, 1, 1}), (Memory{0, 255, 0, 0, 255, 0}));
+    EXPECT_EQ(rgb24({240, 41, 110, 41}, 6, {6, 4, 2, 1, 1}), (Memory{254, 0, 0, 254, 0, 0}));
+}
+
+// The pair shares its chroma; each pixel has its own luma.
+TEST(Yuv422Rgb24, both_lumas_at_scale_1)
+{
+    EXPECT_EQ(rgb24({128, 128, 128, 16, 90, 81, 240, 16}, 12, {12, 8, 4, 1, 1}),
+              (Memory{130, 130, 130, 0, 0, 0, 0, 0, 254, 0, 0, 178}));
+}
+
+// Pixels of one line: twice the pairs, the pairs, and half the pairs of a halved width.
+TEST(Yuv422Rgb24, pixels_a_line)
+{
+    constexpr size_t widths = 13, room = 100;
+    const size_t at_1[widths] = {0, 2, 2, 4, 4, 6, 6, 8, 8, 10, 10, 12, 12};
+    const size_t at_2[widths] = {0, 1, 1, 2, 2, 3, 3, 4, 4, 5, 5, 6, 6};
+    const size_t at_4[widths] = {0, 0, 1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3};
+    const Memory src(80, 128);
+    for (size_t width = 0; width < widths; ++width) {
+        for (const long scale : {1L, 2L, 3L, 4L, 5L}) {
+            const size_t pixels = scale == 2 ? at_2[width] : scale == 4 ? at_4[width] : at_1[width];
+            Memory of_32(room, 0xEE), of_24(room, 0xEE), of_16(room, 0xEE);
+            for (size_t i = 0; i < pixels; ++i) {
+                std::memcpy(&of_32[4 * i], "\x82\x82\x82\xFF", 4);
+                std::memcpy(&of_24[3 * i], "\x82\x82\x82", 3);
+                std::memcpy(&of_16[2 * i], "\x10\x42", 2);
+            }
+            const auto across = static_cast<long>(width);
+            EXPECT_EQ(rgb24(src, room, {1000, 0, across, scale, scale}), of_32) << width << " at " << scale;
+            EXPECT_EQ(rgb24(src, room, {-1, 0, across, scale, scale}), of_24) << width << " at " << scale;
+            EXPECT_EQ(decode(tntvt_yuv422_rgb16, src, room, {1000, 0, across, scale, scale}), of_16)
+                << width << " at " << scale;
+        }
+    }
+}
+
+// Three pixels: the fourth is read and written, four bytes past the end of the line.
+TEST(Yuv422Rgb24, odd_width_runs_its_last_group_whole)
+{
+    const Memory src = greys({16, 128, 235, 255});
+    EXPECT_EQ(rgb24(src, 14, {9, 6, 3, 1, 1}),
+              (Memory{0, 0, 0, 130, 130, 130, 254, 254, 254, 255, 255, 255, 0xEE, 0xEE}));
+    EXPECT_EQ(rgb24(src, 18, {12, 6, 3, 1, 1}),
+              (Memory{0, 0, 0, 255, 130, 130, 130, 255, 254, 254, 254, 255, 255, 255, 255, 255, 0xEE, 0xEE}));
+}
+
+// The surplus of a line lies where the next line begins, and the next line is written later.
+TEST(Yuv422Rgb24, odd_width_in_tight_lines)
+{
+    EXPECT_EQ(rgb24(greys({16, 255, 128, 255}), 12, {3, 4, 1, 2, 1}),
+              (Memory{0, 0, 0, 130, 130, 130, 255, 255, 255, 0xEE, 0xEE, 0xEE}));
+}
+
+TEST(Yuv422Rgb24, scale_2_takes_first_pixels_and_every_second_line)
+{
+    const Memory skipped = greys({255, 255, 255, 255});
+    const Memory src = lines_of({greys({16, 255, 128, 255}), skipped, greys({235, 0, 16, 0}), skipped});
+    EXPECT_EQ(rgb24(src, 12, {6, 8, 4, 4, 2}), (Memory{0, 0, 0, 130, 130, 130, 254, 254, 254, 0, 0, 0}));
+    EXPECT_EQ(rgb24(src, 16, {8, 8, 4, 4, 2}),
+              (Memory{0, 0, 0, 255, 130, 130, 130, 255, 254, 254, 254, 255, 0, 0, 0, 255}));
+}
+
+// Eight pixels a line: groups 0 and 2 are taken, groups 1 and 3 are stepped over.
+TEST(Yuv422Rgb24, scale_4_takes_every_second_group_and_every_fourth_line)
+{
+    const Memory skipped(16, 77);
+    const Memory src = lines_of({greys({128, 255, 255, 255, 235, 255, 255, 255}), skipped, skipped, skipped,
+                                 greys({16, 255, 255, 255, 255, 0, 0, 0}), skipped, skipped, skipped});
+    EXPECT_EQ(rgb24(src, 12, {6, 16, 8, 8, 4}), (Memory{130, 130, 130, 254, 254, 254, 0, 0, 0, 255, 255, 255}));
+}
+
+// Every third line, every pixel of it; the form goes by a third of the width.
+TEST(Yuv422Rgb24, scale_3_takes_every_third_line_and_both_pixels)
+{
+    const Memory skipped(12, 77);
+    const Memory src = lines_of(
+        {greys({16, 128, 235, 255, 16, 128}), skipped, skipped, greys({235, 235, 235, 16, 16, 16}), skipped, skipped});
+    EXPECT_EQ(rgb24(src, 18, {7, 12, 6, 3, 3}),
+              (Memory{0, 0, 0, 130, 130, 130, 254, 254, 254, 255, 255, 255, 0, 0, 0, 130, 130, 130}));
+    EXPECT_EQ(rgb24(src, 24, {8, 12, 6, 3, 3}), (Memory{0,   0,   0,   255, 130, 130, 130, 255, 254, 254, 254, 255,
+                                                        255, 255, 255, 255, 0,   0,   0,   255, 130, 130, 130, 255}));
+    EXPECT_EQ(rgb24(src, 48, {24, 12, 6, 6, 3}),
+              (Memory{0,   0,   0,   255, 130, 130, 130, 255, 254, 254, 254, 255, 255, 255, 255, 255,
+                      0,   0,   0,   255, 130, 130, 130, 255, 254, 254, 254, 255, 254, 254, 254, 255,
+                      254, 254, 254, 255, 0,   0,   0,   255, 0,   0,   0,   255, 0,   0,   0,   255}));
+}
+
+TEST(Yuv422Rgb24, only_whole_groups_of_lines_yield_a_line)
+{
+    const Memory src(64, 128);
+    const auto lines = [&](long height, long scale) {
+        const Memory dst = rgb24(src, 64, {8, 8, 2, height, scale});
+        size_t count = 0;
+        while (count < 8 && dst[8 * count] == 130) ++count;
+        EXPECT_EQ(Memory(dst.begin() + static_cast<ptrdiff_t>(8 * count), dst.end()), Memory(64 - 8 * count, 0xEE));
+        return count;
+    };
+    EXPECT_EQ(lines(3, 1), 3);
+    EXPECT_EQ(lines(1, 2), 0);
+    EXPECT_EQ(lines(3, 2), 1);
+    EXPECT_EQ(lines(4, 2), 2);
+    EXPECT_EQ(lines(3, 4), 0);
+    EXPECT_EQ(lines(4, 4), 1);
+    EXPECT_EQ(lines(7, 4), 1);
+    EXPECT_EQ(lines(2, 3), 0);
+    EXPECT_EQ(lines(8, 3), 2);
+    EXPECT_EQ(lines(5, 0x100000002), 0);
+}
+
+TEST(Yuv422Rgb24, strides_of_either_sign)
+{
+    Memory src = greys({16, 16, 128, 128, 235, 235}), dst(18, 0xEE);
+    tntvt_yuv422_rgb24(dst.data(), 6, src.data() + 8, -4, 2, 3, 1);
+    EXPECT_EQ(dst, (Memory{254, 254, 254, 254, 254, 254, 130, 130, 130, 130, 130, 130, 0, 0, 0, 0, 0, 0}));
+    tntvt_yuv422_rgb24(dst.data() + 12, -6, src.data() + 8, -4, 2, 3, 1);
+    EXPECT_EQ(dst, (Memory{0, 0, 0, 0, 0, 0, 130, 130, 130, 130, 130, 130, 254, 254, 254, 254, 254, 254}));
+}
+
+TEST(Yuv422Rgb24, no_work_touches_no_memory)
+{
+    for (const Decoder decoder : {tntvt_yuv422_rgb24, tntvt_yuv422_rgb16}) {
+        for (const long scale : {1L, 2L, 3L, 4L, LONG_MAX}) {
+            for (const long height : {0L, -1L, -8L, scale - 1, LONG_MIN})
+                decoder(nullptr, 16, nullptr, 16, 4, height, scale);
+            for (const long width : {0L, -1L, -8L}) decoder(nullptr, 16, nullptr, 16, width, 8, scale);
+        }
+        decoder(nullptr, 16, nullptr, 16, 1, 8, 4);
+        decoder(nullptr, 16, nullptr, 16, 4, 8, -1);
+    }
+}
+
+// What is written as `rgb32` is the byte order that the encoders call BGRA: red stays red.
+TEST(Yuv422Rgb24, rgb32_goes_back_through_bgra_to_2vuy)
+{
+    Memory red = rgb24({90, 81, 240, 81, 90, 81, 240, 81}, 16, {16, 8, 4, 1, 1}), back(8);
+    EXPECT_EQ(red, (Memory{0, 0, 254, 255, 0, 0, 254, 255, 0, 0, 254, 255, 0, 0, 254, 255}));
+    bgra_to_2vuy(red.data(), back.data(), 4);
+    EXPECT_EQ(back, (Memory{99, 81, 211, 81, 90, 81, 239, 81}));
+    tntvt_rgb32_2vuy(back.data(), 8, red.data(), 16, 4, 1);
+    EXPECT_EQ(back, (Memory{99, 81, 211, 81, 90, 81, 239, 81}));
+}
+
+TEST(Yuv422Rgb24, first_call_and_later_calls_give_the_same)
+{
+    const Memory src{90, 200, 240, 16}, pair{137, 138, 255, 0, 0, 178};
+    EXPECT_EQ(rgb24(src, 6, {6, 4, 2, 1, 1}), pair);
+    EXPECT_EQ(rgb24(src, 6, {6, 4, 2, 1, 1}), pair);
+    EXPECT_EQ(tnvtt_open(0, 0, 0, 0), 0);
+    EXPECT_EQ(rgb24(src, 6, {6, 4, 2, 1, 1}), pair);
+}
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define TINTVERT_TEST_SANITIZED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define TINTVERT_TEST_SANITIZED 1
+#endif
+#endif
+
+#ifndef TINTVERT_TEST_SANITIZED  // sanitizers report the division in their own way
+TEST(Yuv422Rgb24DeathTest, scale_0_divides_by_zero)
+{
+    Memory src(16, 128), dst(16);
+    const auto decode_at_0 = [&](long width, long height) {
+        tntvt_yuv422_rgb24(dst.data(), 16, src.data(), 16, width, height, 0);
+    };
+    EXPECT_EXIT(decode_at_0(2, 1), testing::KilledBySignal(SIGFPE), "");
+    EXPECT_EXIT(decode_at_0(2, 0), testing::KilledBySignal(SIGFPE), "");
+    EXPECT_EXIT(decode_at_0(0, 1), testing::KilledBySignal(SIGFPE), "");
+    EXPECT_EXIT(decode_at_0(0, 0), testing::KilledBySignal(SIGFPE), "");
+}
+#endif
+
+TEST(Yuv422Rgb16, neutral_chroma)
+{
+    EXPECT_EQ(rgb16(greys({235, 0, 16, 0, 128, 0, 255, 0, 33, 0}), 10, {20, 0, 10, 1, 1}),
+              (Words{0x7FFF, 0x7FFF, 0, 0, 0x4210, 0x4210, 0x7FFF, 0x7FFF, 0x0842, 0x0842}));
+}
+
+// Red in bits 14 to 10, green in 9 to 5, blue in 4 to 0.
+TEST(Yuv422Rgb16, fields_of_the_word)
+{
+    EXPECT_EQ(rgb16({90, 81, 240, 0, 54, 145, 34, 0, 240, 41, 110, 0, 90, 200, 240, 0}, 8, {16, 0, 8, 1, 1}),
+              (Words{0x7C00, 0x7C00, 0x03E0, 0x03E0, 0x001F, 0x001F, 0x7E31, 0x7E31}));
+}
+
+TEST(Yuv422Rgb16, pixels_at_every_scale)
+{
+    const Memory src = greys({16, 255, 128, 255, 235, 255, 33, 255});
+    EXPECT_EQ(rgb16(src, 9, {16, 0, 8, 1, 1}), (Words{0, 0, 0x4210, 0x4210, 0x7FFF, 0x7FFF, 0x0842, 0x0842, 0xEEEE}));
+    EXPECT_EQ(rgb16(src, 5, {16, 0, 8, 2, 2}), (Words{0, 0x4210, 0x7FFF, 0x0842, 0xEEEE}));
+    EXPECT_EQ(rgb16(src, 9, {16, 0, 8, 3, 3}), (Words{0, 0, 0x4210, 0x4210, 0x7FFF, 0x7FFF, 0x0842, 0x0842, 0xEEEE}));
+    EXPECT_EQ(rgb16(src, 3, {16, 0, 8, 4, 4}), (Words{0, 0x7FFF, 0xEEEE}));
+}
+
+TEST(Yuv422Rgb16, odd_width_runs_its_last_group_whole)
+{
+    EXPECT_EQ(rgb16(greys({16, 0, 235, 0}), 5, {6, 0, 3, 1, 1}), (Words{0, 0, 0x7FFF, 0x7FFF, 0xEEEE}));
+}
+
+// The stride has no say in the form: two bytes a pixel with room for any.
+TEST(Yuv422Rgb16, stride_only_moves_lines)
+{
+    const Memory src = lines_of({greys({16, 0}), greys({128, 0})});
+    EXPECT_EQ(rgb16(src, 8, {8, 4, 2, 2, 1}), (Words{0x4210, 0x4210, 0xEEEE, 0xEEEE, 0, 0, 0xEEEE, 0xEEEE}));
+    EXPECT_EQ(rgb16(src, 3, {2, 4, 2, 2, 1}), (Words{0x4210, 0, 0}));
+}
+
+TEST(Yuv422Rgb16, scale_0_counts_as_1)
+{
+    const Memory src = lines_of({greys({16, 0, 128, 0}), greys({235, 0, 33, 0})});
+    const Words exchanged{0x7FFF, 0x7FFF, 0x0842, 0x0842, 0, 0, 0x4210, 0x4210};
+    EXPECT_EQ(rgb16(src, 8, {8, 8, 4, 2, 1}), exchanged);
+    EXPECT_EQ(rgb16(src, 8, {8, 8, 4, 2, 0}), exchanged);
+}
+
+// Source lines 1, 0 at scale 3 are lines 3 and 0 of the picture.
+TEST(Yuv422Rgb16, scale_3_takes_every_third_line_exchanged)
+{
+    const Memory skipped = greys({255, 255});
+    const Memory src = lines_of({greys({16, 0}), skipped, skipped, greys({128, 0}), skipped, skipped});
+    EXPECT_EQ(rgb16(src, 4, {4, 4, 2, 6, 3}), (Words{0x4210, 0x4210, 0, 0}));
+}
+
+TEST(Deliberate, keeps_form_by_stride)
+{
+    const Memory src(64, 128);
+    const auto bytes_a_pixel = [&](long dstStride, long width, long scale) {
+        const Memory dst = rgb24(src, 100, {dstStride, 0, width, scale, scale});
+        EXPECT_EQ(dst[2], 130);
+        return dst[3] == 255 ? 4 : 3;
+    };
+    // Four pixels: 24-bit lines with up to three bytes of slack; with four they come out as 32-bit.
+    EXPECT_EQ(bytes_a_pixel(12, 4, 1), 3);
+    EXPECT_EQ(bytes_a_pixel(15, 4, 1), 3);
+    EXPECT_EQ(bytes_a_pixel(16, 4, 1), 4);
+    EXPECT_EQ(bytes_a_pixel(17, 4, 1), 4);
+    EXPECT_EQ(bytes_a_pixel(0x200000000, 4, 1), 4);
+    EXPECT_EQ(bytes_a_pixel(0, 4, 1), 3);
+    EXPECT_EQ(bytes_a_pixel(-16, 4, 1), 3);
+    // The scaled width decides, truncated.
+    EXPECT_EQ(bytes_a_pixel(6, 4, 2), 3);
+    EXPECT_EQ(bytes_a_pixel(7, 4, 2), 3);
+    EXPECT_EQ(bytes_a_pixel(8, 4, 2), 4);
+    EXPECT_EQ(bytes_a_pixel(8, 5, 2), 4);
+    EXPECT_EQ(bytes_a_pixel(7, 8, 4), 3);
+    EXPECT_EQ(bytes_a_pixel(8, 8, 4), 4);
+    EXPECT_EQ(bytes_a_pixel(7, 6, 3), 3);
+    EXPECT_EQ(bytes_a_pixel(8, 6, 3), 4);
+    // A width below the scale counts as no pixels, so any stride but a negative one has room.
+    EXPECT_EQ(bytes_a_pixel(0, 1, 2), 4);
+    EXPECT_EQ(bytes_a_pixel(-1, 1, 2), 3);
+    EXPECT_EQ(bytes_a_pixel(0, 3, 4), 4);
+    EXPECT_EQ(bytes_a_pixel(-1, 3, 4), 3);
+    // An odd width goes by itself, not by the pixels written.
+    EXPECT_EQ(bytes_a_pixel(11, 3, 1), 3);
+    EXPECT_EQ(bytes_a_pixel(12, 3, 1), 4);
+}
+
+TEST(Deliberate, keeps_first_luma_for_both)
+{
+    for (int luma = 0; luma < 256; ++luma) {
+        const auto second = static_cast<uint8_t>(luma);
+        EXPECT_EQ(rgb16({128, 128, 128, second}, 2, {4, 0, 2, 1, 1}), (Words{0x4210, 0x4210}));
+        EXPECT_EQ(rgb16({90, 81, 240, second}, 2, {4, 0, 2, 1, 1}), (Words{0x7C00, 0x7C00}));
+    }
+}
+
+TEST(Deliberate, keeps_swapped_line_pairs)
+{
+    const Memory four = lines_of({greys({16, 0}), greys({33, 0}), greys({128, 0}), greys({235, 0})});
+    EXPECT_EQ(rgb16(four, 8, {4, 4, 2, 4, 1}), (Words{0x0842, 0x0842, 0, 0, 0x7FFF, 0x7FFF, 0x4210, 0x4210}));
+    // One or three lines: the last shows the line after the last.
+    EXPECT_EQ(rgb16(four, 3, {4, 4, 2, 1, 1}), (Words{0x0842, 0x0842, 0xEEEE}));
+    EXPECT_EQ(rgb16(four, 7, {4, 4, 2, 3, 1}), (Words{0x0842, 0x0842, 0, 0, 0x7FFF, 0x7FFF, 0xEEEE}));
+    // At scale 2 the lines are exchanged after the dropping: lines 2 and 0, then 6 for 4.
+    const Memory skipped = greys({255, 255});
+    const Memory seven =
+        lines_of({greys({16, 0}), skipped, greys({33, 0}), skipped, greys({128, 0}), skipped, greys({235, 0})});
+    EXPECT_EQ(rgb16(seven, 3, {2, 4, 2, 6, 2}), (Words{0x0842, 0, 0x7FFF}));
+}
+
+}  // namespace

@@ -16,9 +16,15 @@ constexpr Argument arguments[] = {
 #undef TNTVT_ARGUMENT
 };
 
+template <class... Args>
+constexpr std::array<Arg, sizeof...(Args)> in_order(Args... arguments_of_shape)
+{
+    return {arguments_of_shape...};
+}
+
 namespace shapes {
 using enum Arg;
-#define TNTVT_SHAPE(name, ...) constexpr Arg name[] = {__VA_ARGS__};
+#define TNTVT_SHAPE(name, ...) constexpr auto name = in_order(__VA_ARGS__);
 #include "shapes.def"
 #undef TNTVT_SHAPE
 }  // namespace shapes

@@ -43,7 +43,7 @@ TNTVT_FIRST_USE void need_v210_tables()
 
 unsigned int* _v210_get_next_4words(unsigned int* src, v210FourWords* out)
 {
-    *out = split(bytes(src));
+    store(out, split(bytes(src)));
     return advance(src, v210::group_bytes);
 }
 

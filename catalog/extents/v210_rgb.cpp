@@ -6,8 +6,8 @@
 namespace tintvert::catalog::extents {
 namespace {
 
-// Sample n of a line is in word n / 3, and a pair has four. Words are read whole; one that holds nothing but
-// an unwanted second luma is not.
+// A pair has four samples; sample n of a line is in field n % 3 of word n / 3 and is read by the two bytes that
+// it spans.
 Extents reduced(const Arguments& call, int64_t scale, int64_t pixel_bytes, bool second_luma)
 {
     Extents result;
@@ -16,7 +16,7 @@ Extents reduced(const Arguments& call, int64_t scale, int64_t pixel_bytes, bool 
     const int64_t pairs = width < 1 ? 0 : scale == 4 ? (width + 3) / 4 : (width + 1) / 2;
     const int64_t last_pair = (pairs - 1) * (scale == 4 ? 2 : 1);
     const int64_t last_sample = 4 * last_pair + (both && second_luma ? 3 : 2);
-    const int64_t line = pairs == 0 ? 0 : (last_sample / 3 + 1) * 4;
+    const int64_t line = pairs == 0 ? 0 : last_sample / 3 * 4 + last_sample % 3 + 2;
     result.add(Arg::dst, {}, lines(0, call[Arg::dstStride], rows, pairs * (both ? 2 : 1) * pixel_bytes));
     result.add(Arg::src, lines(0, call[Arg::srcStride] * scale, rows, line), {});
     return result;

@@ -38,7 +38,7 @@ TNTVT_API void tntvt_yuv422_rgb16(void* dst, long dstStride, void* src, long src
  * their order, where tntvt_yuv422_rgb16 exchanges neighbours. A `scale` of 0 counts as 1.
  *
  * A `width` below 1 and a `height` that yields no output line do nothing. An odd `width` runs its last pair
- * whole. Of the last group only the words that hold a wanted sample are read. */
+ * whole. Of the last group only the bytes that hold a wanted sample are read. */
 TNTVT_API void tntvt_v210_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                 long scale);
 TNTVT_API void tntvt_v210_rgb16(void* dst, long dstStride, void* src, long srcStride, long width, long height,

@@ -11,22 +11,30 @@ using namespace tintvert;
 
 namespace {
 
-// A scale of 4 halves the pixel count here and takes every second group, so a quarter is left.
-long pixels_walked(long width, long scale) { return scale == 4 ? width >> 1 : width; }
-long group_step(long scale) { return scale == 4 ? 8 : 4; }
-bool keeps_second_pixel(long scale) { return scale != 2 && scale != 4; }
+// How a line is walked. At a scale of 4 every second group is taken of half the pixel count, so a quarter
+// is left; at any scale but 2 and 4 both pixels of a group are kept.
+struct Whole {
+    static constexpr bool both = true;
+    static constexpr long group_step = 4;
+};
+struct Half {
+    static constexpr bool both = false;
+    static constexpr long group_step = 4;
+};
+struct Quarter {
+    static constexpr bool both = false;
+    static constexpr long group_step = 8;
+};
 
 // Groups are Cb, Y0, Cr, Y1.
-template <class Form>
-void decode_line(uint8_t* dst, const uint8_t* src, long width, long scale)
+template <class Form, class Walk>
+void decode_line(uint8_t* dst, const uint8_t* src, long limit)
 {
-    const long limit = pixels_walked(width, scale);
-    for (long i = 0; i < limit; i += 2, src += group_step(scale)) {
-        const bool both = keeps_second_pixel(scale);
-        const uint8_t cb = src[0], y0 = src[1], cr = src[2], y1 = both ? src[3] : uint8_t{0};
+    for (long i = 0; i < limit; i += 2, src += Walk::group_step) {
+        const uint8_t cb = src[0], y0 = src[1], cr = src[2], y1 = Walk::both ? src[3] : uint8_t{0};
         Form::put(dst, decode(cb, y0, cr));
         dst += Form::pixel_bytes;
-        if (both) {
+        if constexpr (Walk::both) {
             Form::put(dst, decode(cb, y1, cr));
             dst += Form::pixel_bytes;
         }
@@ -34,19 +42,34 @@ void decode_line(uint8_t* dst, const uint8_t* src, long width, long scale)
 }
 
 // DELIBERATE (keeps_first_luma_for_both): one word a group, from the first luma, written twice at full size.
-void decode_line_rgb16(uint8_t* dst, const uint8_t* src, long width, long scale)
+template <class Walk>
+void decode_line_rgb16(uint8_t* dst, const uint8_t* src, long limit)
 {
-    const long limit = pixels_walked(width, scale);
-    for (long i = 0; i < limit; i += 2, src += group_step(scale)) {
+    for (long i = 0; i < limit; i += 2, src += Walk::group_step) {
         const uint16_t word = rgb16_word(decode(src[0], src[1], src[2]));
         store(dst, word);
         dst += 2;
-        if (keeps_second_pixel(scale)) {
+        if constexpr (Walk::both) {
             store(dst, word);
             dst += 2;
         }
     }
 }
+
+using Line = void (*)(uint8_t* dst, const uint8_t* src, long limit);
+
+template <class Form>
+Line line_at(long scale)
+{
+    return scale == 2 ? decode_line<Form, Half> : scale == 4 ? decode_line<Form, Quarter> : decode_line<Form, Whole>;
+}
+
+Line line_rgb16_at(long scale)
+{
+    return scale == 2 ? decode_line_rgb16<Half> : scale == 4 ? decode_line_rgb16<Quarter> : decode_line_rgb16<Whole>;
+}
+
+long pixels_walked(long width, long scale) { return scale == 4 ? width >> 1 : width; }
 
 }  // namespace
 
@@ -56,10 +79,10 @@ void tntvt_yuv422_rgb24(void* dst, long dstStride, void* src, long srcStride, lo
     const long reduced = width / scale;
     const long rows = height / scale;
     // DELIBERATE (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
-    const auto line = reduced * 4 <= dstStride ? decode_line<Rgb32> : decode_line<Rgb24>;
+    const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
     for (long r = 0; r < rows; ++r)
         line(advance(bytes(dst), line_offset(r, dstStride)),
-             advance(bytes(src), line_offset(r, line_offset(srcStride, scale))), width, scale);
+             advance(bytes(src), line_offset(r, line_offset(srcStride, scale))), pixels_walked(width, scale));
 }
 
 void tntvt_yuv422_rgb16(void* dst, long dstStride, void* src, long srcStride, long width, long height, long scale)
@@ -69,7 +92,8 @@ void tntvt_yuv422_rgb16(void* dst, long dstStride, void* src, long srcStride, lo
     const long rows = height / scale;
     // DELIBERATE (keeps_swapped_line_pairs): output lines 0, 1, 2, 3 show source lines 1, 0, 3, 2, and an
     // odd count reads the line after the last one.
+    const Line line = line_rgb16_at(scale);
     for (long r = 0; r < rows; ++r)
-        decode_line_rgb16(advance(bytes(dst), line_offset(r, dstStride)),
-                          advance(bytes(src), line_offset(r ^ 1, line_offset(srcStride, scale))), width, scale);
+        line(advance(bytes(dst), line_offset(r, dstStride)),
+             advance(bytes(src), line_offset(r ^ 1, line_offset(srcStride, scale))), pixels_walked(width, scale));
 }

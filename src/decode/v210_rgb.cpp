@@ -17,15 +17,15 @@ namespace {
 // How a line is walked: whether both pixels of a pair are kept, and how many pairs on the next one lies.
 struct Whole {
     static constexpr bool both = true;
-    static constexpr int step = 1;
+    static constexpr uint32_t step = 1;
 };
 struct Half {
     static constexpr bool both = false;
-    static constexpr int step = 1;
+    static constexpr uint32_t step = 1;
 };
 struct Quarter {
     static constexpr bool both = false;
-    static constexpr int step = 2;
+    static constexpr uint32_t step = 2;
 };
 
 // The second pixel of a pair shows the first one's luma.
@@ -34,23 +34,21 @@ struct Rgb16 {
     static void put(uint8_t* dst, Bgr pixel) { store(dst, rgb16_word(pixel)); }
 };
 
-// Bits 2 to 9 of a field. Samples count on from group to group.
-template <int sample>
-uint8_t top_eight(const uint8_t* group)
+// Samples count on from group to group.
+uint8_t top_eight(const uint8_t* group, uint32_t sample)
 {
-    const auto word = load<uint32_t>(group + 4 * v210::word_of(sample));
-    return static_cast<uint8_t>(v210::field(word, v210::place_of(sample)) >> 2);
+    return static_cast<uint8_t>(v210_sample(group, sample) >> 2);
 }
 
 // Returns where the next pixel goes.
 // DELIBERATE (keeps_first_luma_of_v210_pairs): `Rgb16` never looks at the second luma.
-template <class Form, class Walk, int pair>
+template <class Form, class Walk, uint32_t pair>
 uint8_t* decode_pair(uint8_t* dst, const uint8_t* group)
 {
-    constexpr int first = pair * v210::pair_samples;
+    constexpr uint32_t n = pair * v210_pair_samples;
     constexpr bool own_second = Walk::both && !std::is_same_v<Form, Rgb16>;
-    const uint8_t cb = top_eight<first>(group), y0 = top_eight<first + 1>(group), cr = top_eight<first + 2>(group);
-    const uint8_t y1 = top_eight<first + (own_second ? 3 : 1)>(group);
+    const uint8_t cb = top_eight(group, n), y0 = top_eight(group, n + 1), cr = top_eight(group, n + 2);
+    const uint8_t y1 = own_second ? top_eight(group, n + 3) : y0;
     Form::put(dst, decode(cb, y0, cr));
     if constexpr (Walk::both) Form::put(dst + Form::pixel_bytes, decode(cb, y1, cr));
     return dst + (Walk::both ? 2 : 1) * Form::pixel_bytes;
@@ -62,7 +60,7 @@ template <class Form, class Walk>
 void decode_line(uint8_t* dst, const uint8_t* src, long width)
 {
     constexpr long pixels = 2 * Walk::step;  // of the source, from one pair to the next
-    for (long i = 0; i < width; i += 3 * pixels, src += Walk::step * v210::group_bytes) {
+    for (long i = 0; i < width; i += 3 * pixels, src += Walk::step * v210_group_bytes) {
         dst = decode_pair<Form, Walk, 0>(dst, src);
         if (i + pixels < width) dst = decode_pair<Form, Walk, Walk::step>(dst, src);
         if (i + 2 * pixels < width) dst = decode_pair<Form, Walk, 2 * Walk::step>(dst, src);

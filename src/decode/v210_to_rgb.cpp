@@ -13,9 +13,8 @@ namespace {
 
 v210FourWords split(const uint8_t* group)
 {
-    const auto at = [=](v210::Sample n) { return static_cast<uint16_t>(v210::sample(group, n)); };
-    return {at(v210::Cb0), at(v210::Y0), at(v210::Cr0), at(v210::Y1), at(v210::Cb2), at(v210::Y2),
-            at(v210::Cr2), at(v210::Y3), at(v210::Cb4), at(v210::Y4), at(v210::Cr4), at(v210::Y5)};
+    const auto at = [=](uint32_t n) { return static_cast<uint16_t>(v210_sample(group, n)); };
+    return {at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7), at(8), at(9), at(10), at(11)};
 }
 
 // Two pixels of B, G, R, 255 or of 255, R, G, B, the same word turned round.
@@ -44,7 +43,7 @@ TNTVT_FIRST_USE void need_v210_tables()
 unsigned int* _v210_get_next_4words(unsigned int* src, v210FourWords* out)
 {
     store(out, split(bytes(src)));
-    return advance(src, v210::group_bytes);
+    return advance(src, v210_group_bytes);
 }
 
 // DELIBERATE (keeps_stride_at_common_multiples): groups and pixels run on across line ends. `dstStride` is
@@ -56,13 +55,13 @@ void _v210_to_rgb(void* src, void* dst, int width, int height, int dstStride, in
     const long total = wrapping_product(height, width);
     const uint8_t* group = bytes(src);
     uint8_t* pixel = nullptr;
-    for (long i = 0; i < total; i += v210::group_pixels) {
+    for (long i = 0; i < total; i += v210_group_pixels) {
         if (i % width == 0) pixel = advance(bytes(dst), wrapping_product(i / width, dstStride));
         const v210FourWords s = split(group);
         put_pair(pixel, s.Cb0, s.Y0, s.Cr0, s.Y1, bgraOrder != 0);
         put_pair(pixel + 8, s.Cb2, s.Y2, s.Cr2, s.Y3, bgraOrder != 0);
         put_pair(pixel + 16, s.Cb4, s.Y4, s.Cr4, s.Y5, bgraOrder != 0);
-        group += v210::group_bytes;
-        pixel += 4 * v210::group_pixels;
+        group += v210_group_bytes;
+        pixel += 4 * v210_group_pixels;
     }
 }

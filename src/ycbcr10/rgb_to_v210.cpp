@@ -114,10 +114,10 @@ void convert_group(uint8_t* dst, const uint8_t* src, Carried& carried)
     }
     carried = {cb[6], cr[6]};
     const auto at = [](const double* around) { return Matrix::filtered(around[0], around[1], around[2]); };
-    store(dst, v210::joined(at(cb), y[0], at(cr)));
-    store(dst + 4, v210::joined(y[1], at(cb + 2), y[2]));
-    store(dst + 8, v210::joined(at(cr + 2), y[3], at(cb + 4)));
-    store(dst + 12, v210::joined(y[4], at(cr + 4), y[5]));
+    store(dst, v210_word(at(cb), y[0], at(cr)));
+    store(dst + 4, v210_word(y[1], at(cb + 2), y[2]));
+    store(dst + 8, v210_word(at(cr + 2), y[3], at(cb + 4)));
+    store(dst + 12, v210_word(y[4], at(cr + 4), y[5]));
 }
 
 template <class Matrix, class Order>
@@ -125,10 +125,10 @@ void convert_line(unsigned int* dst, const uint8_t* src, int width)
 {
     Carried carried;
     uint8_t* group = bytes(dst);
-    for (long i = 0; i < width; i += v210::group_pixels) {
+    for (long i = 0; i < width; i += v210_group_pixels) {
         convert_group<Matrix, Order>(group, src, carried);
-        group += v210::group_bytes;
-        src += v210::group_pixels * Order::bytes;
+        group += v210_group_bytes;
+        src += v210_group_pixels * Order::bytes;
     }
 }
 
@@ -141,14 +141,14 @@ void convert_frame(void* dst, long dst_stride, void* src, long src_stride, long 
     Carried carried;
     uint8_t* group = nullptr;
     const uint8_t* pixels = nullptr;
-    for (long i = 0; i < total; i += v210::group_pixels) {
-        if (i % width < v210::group_pixels) {
+    for (long i = 0; i < total; i += v210_group_pixels) {
+        if (i % width < v210_group_pixels) {
             group = advance(bytes(dst), line_offset(i / width, dst_stride));
             pixels = advance(bytes(src), line_offset(i / width, src_stride));
         }
         convert_group<Matrix, Bgra>(group, pixels, carried);
-        group += v210::group_bytes;
-        pixels += v210::group_pixels * Bgra::bytes;
+        group += v210_group_bytes;
+        pixels += v210_group_pixels * Bgra::bytes;
     }
 }
 
@@ -169,7 +169,7 @@ void tntvt_rgb32_v210(void* dst, long dstStride, void* src, long srcStride, long
 {
     const long total = wrapping_product(width, height);
     if (total < 1) return;
-    if (dstStride == 0) dstStride = v210::line_of_48s(width);
+    if (dstStride == 0) dstStride = v210_line_of_48(width);
     if (srcStride == 0) srcStride = line_offset(width, 4);
     if (width < 962)
         convert_frame<Narrow601>(dst, dstStride, src, srcStride, width, total);

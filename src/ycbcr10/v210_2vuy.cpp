@@ -26,22 +26,22 @@ void widen_group(uint8_t* dst, const uint8_t* src)
     uint32_t sample[12];
     for (int n = 0; n < 12; ++n) sample[n] = static_cast<uint32_t>(src[n]) << 2;
     for (int word = 0; word < 4; ++word)
-        store(dst + 4 * word, v210::joined(sample[3 * word], sample[3 * word + 1], sample[3 * word + 2]));
+        store(dst + 4 * word, v210_word(sample[3 * word], sample[3 * word + 1], sample[3 * word + 2]));
 }
 
 // Four words in, then three words out. The two low bits of a sample are dropped.
 void narrow_group(uint8_t* dst, const uint8_t* src)
 {
     uint8_t byte[narrow_group_bytes];
-    for (int n = 0; n < 12; ++n) byte[n] = static_cast<uint8_t>(v210::sample(src, n) >> 2);
+    for (uint32_t n = 0; n < 12; ++n) byte[n] = static_cast<uint8_t>(v210_sample(src, n) >> 2);
     std::memcpy(dst, byte, sizeof byte);
 }
 
 void widen_line(uint8_t* dst, const uint8_t* src, long width)
 {
-    for (long i = 0; i < width; i += v210::group_pixels) {
+    for (long i = 0; i < width; i += v210_group_pixels) {
         widen_group(dst, src);
-        dst += v210::group_bytes;
+        dst += v210_group_bytes;
         src += narrow_group_bytes;
     }
 }
@@ -54,7 +54,7 @@ void narrow_line(uint8_t* dst, const uint8_t* src, long width)
     long done = 0;
     do {
         narrow_group(dst + 4 * done, src);
-        src += v210::group_bytes;
+        src += v210_group_bytes;
         done += 3;
     } while (done < width);
 }

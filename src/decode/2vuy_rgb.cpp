@@ -1,6 +1,7 @@
 // `2vuy` to RGB by the shared tables, at full size or reduced by dropping.
 #include <tintvert/decode.h>
 
+#include "decode/forms.h"
 #include "decode/tables.h"
 #include "frame/memory.h"
 #include "frame/number.h"
@@ -9,25 +10,6 @@
 using namespace tintvert;
 
 namespace {
-
-struct Rgb24 {
-    static constexpr long pixel_bytes = 3;
-    static void put(uint8_t* dst, Bgr pixel)
-    {
-        dst[0] = pixel.blue;
-        dst[1] = pixel.green;
-        dst[2] = pixel.red;
-    }
-};
-
-struct Rgb32 {
-    static constexpr long pixel_bytes = 4;
-    static void put(uint8_t* dst, Bgr pixel)
-    {
-        Rgb24::put(dst, pixel);
-        dst[3] = 255;
-    }
-};
 
 // How a line is walked. At a scale of 4 every second group is taken of half the pixel count, so a quarter
 // is left; at any scale but 2 and 4 both pixels of a group are kept.

@@ -1,0 +1,102 @@
+// `v210` to RGB by the shared tables, at full size or reduced by dropping. Ten bits are cut to eight as
+// the samples are picked out; from there on a pixel is the one that `2vuy` gives.
+#include <tintvert/decode.h>
+
+#include <type_traits>
+
+#include "decode/forms.h"
+#include "decode/tables.h"
+#include "frame/memory.h"
+#include "frame/number.h"
+#include "ycbcr10/v210.h"
+
+using namespace tintvert;
+
+namespace {
+
+// How a line is walked: whether both pixels of a pair are kept, and how many pairs on the next one lies.
+struct Whole {
+    static constexpr bool both = true;
+    static constexpr uint32_t step = 1;
+};
+struct Half {
+    static constexpr bool both = false;
+    static constexpr uint32_t step = 1;
+};
+struct Quarter {
+    static constexpr bool both = false;
+    static constexpr uint32_t step = 2;
+};
+
+// The second pixel of a pair shows the first one's luma.
+struct Rgb16 {
+    static constexpr long pixel_bytes = 2;
+    static void put(uint8_t* dst, Bgr pixel) { store(dst, rgb16_word(pixel)); }
+};
+
+// Samples count on from group to group.
+uint8_t top_eight(const uint8_t* group, uint32_t sample)
+{
+    return static_cast<uint8_t>(v210_sample(group, sample) >> 2);
+}
+
+// Returns where the next pixel goes.
+// DELIBERATE (keeps_first_luma_of_v210_pairs): `Rgb16` never looks at the second luma.
+template <class Form, class Walk, uint32_t pair>
+uint8_t* decode_pair(uint8_t* dst, const uint8_t* group)
+{
+    constexpr uint32_t n = pair * v210_pair_samples;
+    constexpr bool own_second = Walk::both && !std::is_same_v<Form, Rgb16>;
+    const uint8_t cb = top_eight(group, n), y0 = top_eight(group, n + 1), cr = top_eight(group, n + 2);
+    const uint8_t y1 = own_second ? top_eight(group, n + 3) : y0;
+    Form::put(dst, decode(cb, y0, cr));
+    if constexpr (Walk::both) Form::put(dst + Form::pixel_bytes, decode(cb, y1, cr));
+    return dst + (Walk::both ? 2 : 1) * Form::pixel_bytes;
+}
+
+// Three pairs a round, so that every pair stands at its own fixed place: pairs 0, 1, 2 of a group, or pairs
+// 0, 2, 4 of two groups.
+template <class Form, class Walk>
+void decode_line(uint8_t* dst, const uint8_t* src, long width)
+{
+    constexpr long pixels = 2 * Walk::step;  // of the source, from one pair to the next
+    for (long i = 0; i < width; i += 3 * pixels, src += Walk::step * v210_group_bytes) {
+        dst = decode_pair<Form, Walk, 0>(dst, src);
+        if (i + pixels < width) dst = decode_pair<Form, Walk, Walk::step>(dst, src);
+        if (i + 2 * pixels < width) dst = decode_pair<Form, Walk, 2 * Walk::step>(dst, src);
+    }
+}
+
+using Line = void (*)(uint8_t* dst, const uint8_t* src, long width);
+
+template <class Form>
+Line line_at(long scale)
+{
+    return scale == 2 ? decode_line<Form, Half> : scale == 4 ? decode_line<Form, Quarter> : decode_line<Form, Whole>;
+}
+
+}  // namespace
+
+void tntvt_v210_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height, long scale)
+{
+    need_tables();
+    const long reduced = width / scale;
+    const long rows = height / scale;
+    // DELIBERATE (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
+    const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
+    for (long r = 0; r < rows; ++r)
+        line(advance(bytes(dst), line_offset(r, dstStride)),
+             advance(bytes(src), line_offset(r, line_offset(srcStride, scale))), width);
+}
+
+// DELIBERATE (keeps_line_order): lines stand as they come; only tntvt_yuv422_rgb16 exchanges neighbours.
+void tntvt_v210_rgb16(void* dst, long dstStride, void* src, long srcStride, long width, long height, long scale)
+{
+    need_tables();
+    if (scale == 0) scale = 1;
+    const long rows = height / scale;
+    const Line line = line_at<Rgb16>(scale);
+    for (long r = 0; r < rows; ++r)
+        line(advance(bytes(dst), line_offset(r, dstStride)),
+             advance(bytes(src), line_offset(r, line_offset(srcStride, scale))), width);
+}

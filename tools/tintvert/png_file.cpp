@@ -23,7 +23,7 @@ namespace {
 constexpr long most_pixels = 1L << 28;
 
 // What libpng's callbacks share with the code around it.
-struct Session {
+struct Transfer {
     png_structp png = nullptr;
     png_infop info = nullptr;
     std::FILE* source = nullptr;
@@ -34,8 +34,8 @@ struct Session {
 
 [[noreturn]] void on_error(png_structp png, png_const_charp text)
 {
-    Session& session = *static_cast<Session*>(png_get_error_ptr(png));
-    if (session.error.empty()) session.error = text;
+    Transfer& transfer = *static_cast<Transfer*>(png_get_error_ptr(png));
+    if (transfer.error.empty()) transfer.error = text;
     png_longjmp(png, 1);
 }
 
@@ -43,47 +43,47 @@ void on_warning(png_structp, png_const_charp) {}
 
 void read_bytes(png_structp png, png_bytep to, size_t count)
 {
-    Session& session = *static_cast<Session*>(png_get_io_ptr(png));
-    if (std::fread(to, 1, count, session.source) == count) return;
-    session.error = std::ferror(session.source) != 0 ? std::strerror(errno) : "the file ends too early";
-    png_error(png, session.error.c_str());
+    Transfer& transfer = *static_cast<Transfer*>(png_get_io_ptr(png));
+    if (std::fread(to, 1, count, transfer.source) == count) return;
+    transfer.error = std::ferror(transfer.source) != 0 ? std::strerror(errno) : "the file ends too early";
+    png_error(png, transfer.error.c_str());
 }
 
 void write_bytes(png_structp png, png_bytep from, size_t count)
 {
-    Session& session = *static_cast<Session*>(png_get_io_ptr(png));
+    Transfer& transfer = *static_cast<Transfer*>(png_get_io_ptr(png));
     try {
-        session.target->write(from, count);
+        transfer.target->write(from, count);
         return;
     } catch (...) {
-        session.thrown = std::current_exception();
+        transfer.thrown = std::current_exception();
     }
     png_error(png, "write");
 }
 
 void flush_nothing(png_structp) {}
 
-struct Reader : Session {
+struct Reader : Transfer {
     explicit Reader(std::FILE* file)
     {
         source = file;
-        png = png_create_read_struct(PNG_LIBPNG_VER_STRING, static_cast<Session*>(this), on_error, on_warning);
+        png = png_create_read_struct(PNG_LIBPNG_VER_STRING, static_cast<Transfer*>(this), on_error, on_warning);
         info = png_create_info_struct(png);
         if (info == nullptr) throw std::bad_alloc();
-        png_set_read_fn(png, static_cast<Session*>(this), read_bytes);
+        png_set_read_fn(png, static_cast<Transfer*>(this), read_bytes);
     }
     ~Reader() { png_destroy_read_struct(&png, &info, nullptr); }
     Reader(const Reader&) = delete;
 };
 
-struct Writer : Session {
+struct Writer : Transfer {
     explicit Writer(OutputFile& file)
     {
         target = &file;
-        png = png_create_write_struct(PNG_LIBPNG_VER_STRING, static_cast<Session*>(this), on_error, on_warning);
+        png = png_create_write_struct(PNG_LIBPNG_VER_STRING, static_cast<Transfer*>(this), on_error, on_warning);
         info = png_create_info_struct(png);
         if (info == nullptr) throw std::bad_alloc();
-        png_set_write_fn(png, static_cast<Session*>(this), write_bytes, flush_nothing);
+        png_set_write_fn(png, static_cast<Transfer*>(this), write_bytes, flush_nothing);
     }
     ~Writer() { png_destroy_write_struct(&png, &info); }
     Writer(const Writer&) = delete;

@@ -70,7 +70,7 @@ constexpr Layout all[] = {
  plane Cb   Cb0   Cb2   ...
  plane Cr   Cr0   Cr2   ...
 )"},
-    {"fields422", "Planar 4:2:2 for each of two fields, six planes", "", "", "", "", bytes_a_pixel<1>,
+    {"field_planes", "Planar 4:2:2 for each of two fields, six planes", "", "", "", "", bytes_a_pixel<1>,
      Planes::fields422,
      R"(
  first field    plane Y1, plane Cb1, plane Cr1      frame lines 0, 2, 4 ...
@@ -92,7 +92,7 @@ constexpr Layout all[] = {
  Cr   from n on, lines of `width` / 2, each for two luma lines
  Cb   from n + (n >> 2) on
 )"},
-    {"yv12planes", "8-bit 4:2:0 in three planes: what YUY2toYV12 writes", "yuv420p", "I420", "", "I420",
+    {"planar420", "8-bit 4:2:0 in three planes: what YUY2toYV12 writes", "yuv420p", "I420", "", "I420",
      bytes_a_pixel<1>, Planes::yuv420,
      R"(
  plane Y    lines `dstPitch` apart

@@ -1,0 +1,71 @@
+// What the tool answers to a command line: exit codes, one line of error, suggestions.
+#include "tool/run.h"
+
+namespace tintvert::test {
+namespace {
+
+TEST(CommandLine, tells_its_version)
+{
+    const Result result = run({"--version"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.out, "tintvert " TINTVERT_VERSION "\n");
+    EXPECT_EQ(result.err, "");
+}
+
+TEST(CommandLine, helps_on_stdout)
+{
+    const Result result = run({"--help"});
+    EXPECT_EQ(result.code, 0);
+    for (const char* command : {"demo", "list", "show"}) EXPECT_NE(result.out.find(command), std::string::npos);
+    EXPECT_EQ(result.err, "");
+}
+
+TEST(CommandLine, refuses_what_makes_no_sense)
+{
+    const std::vector<std::vector<std::string>> wrong = {
+        {}, {"convrt"}, {"--colour"}, {"show"}, {"list", "--jsn"}, {"list", "frame", "hdr"}, {"demo", "--input"}};
+    for (const auto& arguments : wrong) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.code, 2) << result.err;
+        EXPECT_TRUE(result.has_one_line_of_error()) << result.err;
+        EXPECT_EQ(result.out, "");
+    }
+}
+
+void expect_suggestion(const std::vector<std::string>& arguments, const std::string& name)
+{
+    const Result result = run(arguments);
+    EXPECT_EQ(result.code, 2);
+    EXPECT_TRUE(result.has_one_line_of_error()) << result.err;
+    EXPECT_NE(result.err.find("; did you mean '" + name + "'?"), std::string::npos) << result.err;
+}
+
+TEST(CommandLine, suggests_the_nearest_name)
+{
+    expect_suggestion({"lst"}, "list");
+    expect_suggestion({"list", "ycbcr_8"}, "ycbcr8");
+    expect_suggestion({"show", "bgra_to_2vyu"}, "bgra_to_2vuy");
+    expect_suggestion({"show", "rgb32_2vuy"}, "tntvt_rgb32_2vuy");
+    expect_suggestion({"show", "tntvt_yuv422_rgb23"}, "tntvt_yuv422_rgb24");
+}
+
+TEST(CommandLine, suggests_nothing_far_fetched)
+{
+    const Result result = run({"show", "photograph"});
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.err, "tintvert: there is no routine 'photograph'\n");
+}
+
+// Data that nobody received is no success.
+TEST(CommandLine, notices_that_stdout_is_full)
+{
+    const Result result = run({"list"}, [] {
+        std::FILE* full = std::fopen("/dev/full", "w");
+        dup2(fileno(full), STDOUT_FILENO);
+    });
+    EXPECT_EQ(result.code, 3);
+    EXPECT_TRUE(result.has_one_line_of_error()) << result.err;
+}
+
+}  // namespace
+}  // namespace tintvert::test

@@ -1,0 +1,101 @@
+// list and show tell everything that the catalogue and the headers hold.
+#include <nlohmann/json.hpp>
+
+#include "catalog.h"
+#include "tool/run.h"
+
+namespace tintvert::test {
+namespace {
+
+using nlohmann::json;
+
+json json_of(std::vector<std::string> arguments)
+{
+    const Result result = run(std::move(arguments));
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    const json parsed = json::parse(result.out, nullptr, false);
+    EXPECT_FALSE(parsed.is_discarded()) << result.out;
+    EXPECT_EQ(parsed["schema"], 1);
+    return parsed;
+}
+
+json layout(std::string_view name) { return name == "none" ? json() : json(name); }
+
+void expect_same(const json& told, const catalog::Routine& routine)
+{
+    EXPECT_EQ(told["name"], routine.name);
+    EXPECT_EQ(told["chapter"], routine.chapter);
+    EXPECT_EQ(told["summary"], routine.summary);
+    EXPECT_EQ(told["reads"], layout(routine.from));
+    EXPECT_EQ(told["writes"], layout(routine.to));
+}
+
+TEST(List, json_holds_every_routine_in_order)
+{
+    const json told = json_of({"list", "--json"});
+    ASSERT_EQ(told["routines"].size(), catalog::routines().size());
+    for (size_t i = 0; i < catalog::routines().size(); ++i) expect_same(told["routines"][i], catalog::routines()[i]);
+}
+
+TEST(List, a_chapter_holds_its_own)
+{
+    const json told = json_of({"list", "decode", "--json"});
+    EXPECT_FALSE(told["routines"].empty());
+    for (const json& routine : told["routines"]) EXPECT_EQ(routine["chapter"], "decode");
+}
+
+TEST(List, text_names_every_routine)
+{
+    const Result result = run({"list"});
+    EXPECT_EQ(result.code, 0);
+    for (const catalog::Routine& routine : catalog::routines())
+        EXPECT_NE(result.out.find("\n  " + std::string(routine.name) + " "), std::string::npos) << routine.name;
+}
+
+// Also holds the headers to having a comment above every routine.
+TEST(Show, json_holds_prototype_arguments_and_documentation)
+{
+    for (const catalog::Routine& routine : catalog::routines()) {
+        const json told = json_of({"show", std::string(routine.name), "--json"})["routine"];
+        expect_same(told, routine);
+        const std::string prototype = told["prototype"];
+        EXPECT_NE(prototype.find(std::string(routine.name) + "("), std::string::npos) << routine.name;
+        EXPECT_TRUE(prototype.ends_with(");")) << prototype;
+        EXPECT_GT(told["documentation"].get<std::string>().size(), 20u) << routine.name;
+        ASSERT_EQ(told["arguments"].size(), routine.arguments.size());
+        for (size_t i = 0; i < routine.arguments.size(); ++i) {
+            const catalog::Argument& argument = catalog::describe(routine.arguments[i]);
+            const char* kind = argument.kind == catalog::Argument::buffer ? "buffer" : "number";
+            EXPECT_EQ(told["arguments"][i],
+                      (json{{"name", argument.name}, {"kind", kind}, {"meaning", argument.meaning}}));
+        }
+    }
+}
+
+TEST(Show, text_carries_the_header_comment)
+{
+    const Result result = run({"show", "free_own_cache_lines"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_NE(result.out.find("\nvoid free_own_cache_lines(void** raw, void** aligned);\n"), std::string::npos);
+    EXPECT_NE(
+        result.out.find("\n  Releases `*raw` if it is not null, and sets both pointers to null; calling it again is "
+                        "harmless.\n"),
+        std::string::npos)
+        << result.out;
+    EXPECT_EQ(result.out.find("/*"), std::string::npos);
+    EXPECT_EQ(result.out.find("*/"), std::string::npos);
+}
+
+// Two declarations under one comment share it.
+TEST(Show, a_comment_holds_for_all_declarations_below_it)
+{
+    const auto documentation = [](const char* name) {
+        return json_of({"show", name, "--json"})["routine"]["documentation"];
+    };
+    EXPECT_EQ(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_yuv422_rgb16"));
+    EXPECT_NE(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_rgb32_2vuy"));
+}
+
+}  // namespace
+}  // namespace tintvert::test

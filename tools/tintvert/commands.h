@@ -1,0 +1,21 @@
+// The commands, one file each under commands/. Each is added to the command line by a function that gives
+// back what to run if the caller named it.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+
+#include "failure.h"
+
+namespace tintvert::tool {
+
+struct Command {
+    CLI::App* app;
+    std::function<Exit()> run;  // data to stdout, everything else to stderr
+};
+
+Command add_demo(CLI::App& tool);
+Command add_list(CLI::App& tool);
+Command add_show(CLI::App& tool);
+
+}  // namespace tintvert::tool

@@ -1,0 +1,86 @@
+// tintvert show: one routine, from the catalogue and from its header.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "catalog.h"
+#include "commands.h"
+#include "headers.h"
+#include "json.h"
+#include "nearest.h"
+
+namespace tintvert::tool {
+namespace {
+
+struct Options {
+    std::string name;
+    bool json = false;
+};
+
+const catalog::Routine& routine_named(const std::string& name)
+{
+    if (const catalog::Routine* routine = catalog::find(name)) return *routine;
+    std::vector<std::string_view> names;
+    for (const catalog::Routine& routine : catalog::routines()) names.push_back(routine.name);
+    throw Failure(Exit::usage, "there is no routine '{}'{}", name, suggestion(name, names));
+}
+
+void print_json(const catalog::Routine& routine, const Declaration& declaration)
+{
+    Json arguments = Json::array();
+    for (const catalog::Arg place : routine.arguments) {
+        const catalog::Argument& argument = catalog::describe(place);
+        const bool is_buffer = argument.kind == catalog::Argument::buffer;
+        arguments.push_back(
+            {{"name", argument.name}, {"kind", is_buffer ? "buffer" : "number"}, {"meaning", argument.meaning}});
+    }
+    Json about = to_json(routine);
+    about["prototype"] = declaration.prototype;
+    about["arguments"] = arguments;
+    about["documentation"] = declaration.documentation;
+    fmt::print("{}\n", Json{{"schema", json_schema}, {"routine", about}}.dump(2));
+}
+
+void print_indented(std::string_view text)
+{
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        fmt::print("{}{}\n", line.empty() ? "" : "  ", line);
+    }
+}
+
+void print_text(const catalog::Routine& routine, const Declaration& declaration)
+{
+    fmt::print("{}\n  {}\n\n{}\n", routine.name, routine.summary, declaration.prototype);
+    for (const catalog::Arg place : routine.arguments)
+        fmt::print("  {:<10}  {}\n", catalog::describe(place).name, catalog::describe(place).meaning);
+    fmt::print("\nchapter  {}\n", routine.chapter);
+    if (routine.from != "none") fmt::print("reads    {}\n", routine.from);
+    if (routine.to != "none") fmt::print("writes   {}\n", routine.to);
+    fmt::print("\n");
+    print_indented(declaration.documentation);
+}
+
+Exit run(const Options& options)
+{
+    const catalog::Routine& routine = routine_named(options.name);
+    const Declaration declaration = declaration_of(routine.chapter, routine.name);
+    options.json ? print_json(routine, declaration) : print_text(routine, declaration);
+    return Exit::done;
+}
+
+}  // namespace
+
+Command add_show(CLI::App& tool)
+{
+    CLI::App* const app = tool.add_subcommand("show", "One routine: its arguments, its layouts and what it does.");
+    const auto options = std::make_shared<Options>();
+    app->add_option("routine", options->name, "a name that `tintvert list` gives")->required();
+    app->add_flag("--json", options->json, "JSON instead of text");
+    return {app, [options] { return run(*options); }};
+}
+
+}  // namespace tintvert::tool

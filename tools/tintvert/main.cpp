@@ -1,0 +1,84 @@
+// The command line: what was asked for, and one line and an exit code for whatever goes wrong.
+#include <fmt/format.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <iostream>
+#include <new>
+#include <string_view>
+#include <vector>
+
+#include "commands.h"
+#include "interrupt.h"
+#include "nearest.h"
+
+namespace tintvert::tool {
+namespace {
+
+// A word that is no command gets a better answer than the parser's.
+std::string complaint(const CLI::ParseError& error, int argc, char** argv, const std::vector<Command>& commands)
+{
+    if (argc < 2 || argv[1][0] == '-') return error.what();
+    std::vector<std::string> names;
+    for (const Command& command : commands) {
+        if (command.app->get_name() == argv[1]) return error.what();
+        names.push_back(command.app->get_name());
+    }
+    const std::vector<std::string_view> candidates(names.begin(), names.end());
+    return fmt::format("there is no command '{}'{}", argv[1], suggestion(argv[1], candidates));
+}
+
+Exit run(int argc, char** argv)
+{
+    CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
+    tool.set_version_flag("--version", "tintvert " TINTVERT_VERSION);
+    tool.require_subcommand(1);
+    const std::vector<Command> commands = {add_demo(tool), add_list(tool), add_show(tool)};
+    try {
+        tool.parse(argc, argv);
+    } catch (const CLI::Success& asked_for_help_or_version) {
+        tool.exit(asked_for_help_or_version);
+        return Exit::done;
+    } catch (const CLI::ParseError& error) {
+        throw Failure(Exit::usage, "{} (tintvert --help tells more)", complaint(error, argc, argv, commands));
+    }
+    for (const Command& command : commands)
+        if (command.app->parsed()) return command.run();
+    return Exit::usage;
+}
+
+// stdout is the last file to be written.
+Exit run_and_flush(int argc, char** argv)
+{
+    const Exit code = run(argc, argv);
+    std::cout.flush();
+    if (!std::cout || std::fflush(stdout) != 0)
+        throw Failure(Exit::no_file, "cannot write the output: {}", std::strerror(errno));
+    return code;
+}
+
+int main(int argc, char** argv)
+{
+    catch_interrupts();
+    Exit code = Exit::no_file;
+    std::string line;
+    try {
+        return static_cast<int>(run_and_flush(argc, argv));
+    } catch (const Failure& failure) {
+        code = failure.code();
+        line = failure.what();
+    } catch (const std::bad_alloc&) {
+        line = "there is not enough memory";
+    } catch (const std::exception& error) {
+        line = error.what();
+    }
+    std::fprintf(stderr, "tintvert: %s\n", line.c_str());
+    return static_cast<int>(code);
+}
+
+}  // namespace
+}  // namespace tintvert::tool
+
+int main(int argc, char** argv) { return tintvert::tool::main(argc, argv); }

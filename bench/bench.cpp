@@ -29,7 +29,7 @@ struct Prepared {
     std::vector<std::vector<uint8_t>> buffers;
     int64_t moved = 0;  // bytes read and written
 
-    Prepared(const Routine& routine, const Size& size) : call(plain_call(routine, size.width, size.height))
+    Prepared(const Routine& routine, const Size& size) : call(plain_call(routine, {size.width, size.height}))
     {
         for (const Touch& touch : routine.extents(call)) {
             const Range read = touch.read, written = touch.written;

@@ -14,8 +14,11 @@ struct Command {
     std::function<Exit()> run;  // data to stdout, everything else to stderr
 };
 
+Command add_convert(CLI::App& tool);
 Command add_demo(CLI::App& tool);
+Command add_layouts(CLI::App& tool);
 Command add_list(CLI::App& tool);
 Command add_show(CLI::App& tool);
+Command add_st2084(CLI::App& tool);
 
 }  // namespace tintvert::tool

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "failure.h"
+
 namespace tintvert::tool {
 namespace {
 
@@ -41,6 +43,14 @@ std::string suggestion(std::string_view typed, std::span<const std::string_view>
         candidates, {}, [&](std::string_view candidate) { return distance(typed, candidate); });
     if (nearest == candidates.end() || distance(typed, *nearest) > 1 + typed.size() / 3) return {};
     return fmt::format("; did you mean '{}'?", *nearest);
+}
+
+const catalog::Routine& routine_named(const std::string& name)
+{
+    if (const catalog::Routine* routine = catalog::find(name)) return *routine;
+    std::vector<std::string_view> names;
+    for (const catalog::Routine& routine : catalog::routines()) names.push_back(routine.name);
+    throw Failure(Exit::usage, "there is no routine '{}'{}", name, suggestion(name, names));
 }
 
 }  // namespace tintvert::tool

@@ -19,14 +19,6 @@ struct Options {
     bool json = false;
 };
 
-const catalog::Routine& routine_named(const std::string& name)
-{
-    if (const catalog::Routine* routine = catalog::find(name)) return *routine;
-    std::vector<std::string_view> names;
-    for (const catalog::Routine& routine : catalog::routines()) names.push_back(routine.name);
-    throw Failure(Exit::usage, "there is no routine '{}'{}", name, suggestion(name, names));
-}
-
 void print_json(const catalog::Routine& routine, const Declaration& declaration)
 {
     Json arguments = Json::array();

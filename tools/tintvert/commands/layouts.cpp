@@ -1,0 +1,120 @@
+// tintvert layouts: the memory layouts, byte by byte, with their names elsewhere.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "commands.h"
+#include "json.h"
+#include "layouts.h"
+#include "nearest.h"
+
+namespace tintvert::tool {
+namespace {
+
+using catalog::Layout;
+
+struct Options {
+    std::string name;
+    bool json = false, markdown = false;
+};
+
+std::vector<Layout> chosen(const std::string& name)
+{
+    const auto all = catalog::layouts();
+    if (name.empty()) return {all.begin(), all.end()};
+    if (const Layout* layout = catalog::find_layout(name)) return {*layout};
+    std::vector<std::string_view> names;
+    for (const Layout& layout : all) names.push_back(layout.name);
+    throw Failure(Exit::usage, "there is no layout '{}'{}", name, suggestion(name, names));
+}
+
+std::string names_elsewhere(const Layout& layout)
+{
+    std::string text;
+    const auto add = [&](const char* who, std::string_view name) {
+        if (!name.empty()) text += fmt::format("{}{} {}", text.empty() ? "" : ", ", who, name);
+    };
+    add("FFmpeg", layout.ffmpeg);
+    add("GStreamer", layout.gstreamer);
+    add("FourCC", layout.fourcc);
+    add("libyuv", layout.libyuv);
+    return text.empty() ? "no name elsewhere" : text;
+}
+
+std::string_view picture_of(const Layout& layout) { return layout.picture.substr(1); }
+
+void print_json(const std::vector<Layout>& layouts)
+{
+    Json list = Json::array();
+    for (const Layout& layout : layouts)
+        list.push_back({{"name", layout.name},
+                        {"summary", layout.summary},
+                        {"ffmpeg", layout.ffmpeg},
+                        {"gstreamer", layout.gstreamer},
+                        {"fourcc", layout.fourcc},
+                        {"libyuv", layout.libyuv},
+                        {"line_bytes_1920", layout.line_bytes(1920)},
+                        {"picture", picture_of(layout)}});
+    fmt::print("{}\n", Json{{"schema", json_schema}, {"layouts", list}}.dump(2));
+}
+
+constexpr std::string_view introduction = R"(# Layouts
+
+Every memory layout that the routines read and write, as `tintvert layouts` prints it. This page is made by
+`tintvert layouts --markdown`.
+
+Bytes are counted from the lowest address, b0 first; bits are drawn from the highest to the lowest. Words are
+little-endian unless a layout says otherwise. No layout needs its lines to be aligned, and a line has no
+padding of its own. The channel letters in a name follow three different readings (word order, memory order,
+and the order of the line routines), so trust the picture and not the name: `rgb32` is FFmpeg's `bgra`, and
+`bgra32` is not the `BGRA` of the line routines. Range, video or full, is a property of the routine that
+writes.
+
+Three default line lengths of `v210` stand beside each other: 128 bytes for each 48 pixels
+(`tntvt_rgb32_v210`, `tntvt_YCbCr10Packed_to_v210`, `tntvt_v210_frame_to_rtp_4175`, the `tntvt_yuv422_10_`
+entries), `width` x 16 / 6 rounded up to 64 bytes (`tntvt_2vuy_v210`), and `width` x 16 / 6 truncated
+(`tntvt_v210_2vuy`). At 1920 pixels all give 5120; at 1280 they give 3456, 3456 and 3413; at 100 they give
+384, 320 and 266. `_v210_to_rgb` reads groups with no padding between lines at all.
+)";
+
+void print_markdown(const std::vector<Layout>& layouts)
+{
+    fmt::print("{}", introduction);
+    for (const Layout& layout : layouts)
+        fmt::print("\n## {}\n\n{}. Elsewhere: {}.\n\n```text\n{}```\n", layout.name, layout.summary,
+                   names_elsewhere(layout), picture_of(layout));
+}
+
+void print_text(const std::vector<Layout>& layouts)
+{
+    for (const Layout& layout : layouts)
+        fmt::print("{}\n  {}\n  {}\n\n{}\n", layout.name, layout.summary, names_elsewhere(layout), picture_of(layout));
+}
+
+Exit run(const Options& options)
+{
+    const std::vector<Layout> layouts = chosen(options.name);
+    if (options.json)
+        print_json(layouts);
+    else if (options.markdown)
+        print_markdown(layouts);
+    else
+        print_text(layouts);
+    return Exit::done;
+}
+
+}  // namespace
+
+Command add_layouts(CLI::App& tool)
+{
+    CLI::App* const app = tool.add_subcommand("layouts", "The memory layouts, byte by byte.");
+    const auto options = std::make_shared<Options>();
+    app->add_option("layout", options->name, "one of them; without it, all");
+    app->add_flag("--json", options->json, "JSON instead of text");
+    app->add_flag("--markdown", options->markdown, "the page docs/layouts.md");
+    return {app, [options] { return run(*options); }};
+}
+
+}  // namespace tintvert::tool

@@ -58,6 +58,7 @@ void without_memory(const std::function<void()>& work)
 }  // namespace tintvert::test
 
 #ifndef TINTVERT_TEST_SANITIZED
+#pragma GCC visibility push(default)  // the library binds to these only if the program exports them
 extern "C" {
 
 void* __libc_malloc(size_t bytes);
@@ -66,4 +67,5 @@ void __libc_free(void* block);
 void* malloc(size_t bytes) noexcept { return tintvert::test::take(bytes, __libc_malloc); }
 void free(void* block) noexcept { tintvert::test::give_back(block, __libc_free); }
 }
+#pragma GCC visibility pop
 #endif

@@ -17,8 +17,8 @@ TNTVT_BEGIN
  * pixel 0. Then `pgroupCount` pgroups follow, three a group; a negative count is none.
  *
  * `payloadSize` bounds the reads alone: samples past it are 0 and are written like any others. A pgroup
- * stores its own four samples and keeps the other fields of the group, so calls may share one; bits 30 and
- * 31 of a word that it completes become 0. */
+ * stores its own four samples and keeps the other fields of the group, so calls may share one; bits
+ * 30 and 31 of the words that it writes become 0, but for the second word of a group under its first pgroup. */
 TNTVT_API int tntvt_4175_to_v210(void* dst, unsigned char* payload, long payloadSize, long pgroupCount,
                                  long startPhase);
 

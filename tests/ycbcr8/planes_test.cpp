@@ -55,12 +55,6 @@ TEST(PlanarFields, lines_alternate)
     EXPECT_EQ(weave(2, 3), Bytes(32, 0xEE));
 }
 
-TEST(PlanarFieldsDeathTest, keeps_fault_of_no_groups)
-{
-    EXPECT_DEATH(tntvt_planarfields_2vuy(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, 0, 0, 0, 0, 8),
-                 "");
-}
-
 TEST(I420, chroma_line_serves_two_lines)
 {
     Bytes src = counting(12), dst(16, 0xEE);

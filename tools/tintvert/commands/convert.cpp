@@ -231,7 +231,8 @@ Command add_convert(CLI::App& tool)
     app->add_option("--layout", options->layout, "what frames hold, for routines that take any")->capture_default_str();
     app->add_option("--planes", options->planes,
                     "the files of the planes, or of the fields, in the order of the arguments")
-        ->delimiter(',');
+        ->delimiter(',')
+        ->allow_extra_args(false);
     app->add_option("--offset", options->offset, "bytes to skip at the head of raw files")
         ->check(CLI::NonNegativeNumber);
     app->add_option("--frames", options->frames, "A:B, from frame A up to frame B, or A alone");

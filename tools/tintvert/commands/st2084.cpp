@@ -93,23 +93,30 @@ void print_plot(const Table& table)
                curve(table, table.size - 1));
 }
 
-// The table in white over the curve in red, 512 x 512.
+// The table in white over the curve in red, 512 x 512, steps joined.
 void write_plot(const Table& table, const std::string& path)
 {
     constexpr long side = 512;
     Picture picture(side, side);
-    for (long x = 0; x < side; ++x) {
+    for (long x = 0; x < side; ++x)
         for (long y = 0; y < side; ++y) picture.pixel(x, y)[3] = 255;
-        const int code = static_cast<int>(x * table.size / side);
-        const auto mark = [&](double value, uint8_t green_and_blue) {
-            const long y = std::clamp<long>(side - 1 - static_cast<long>(value * side / table.size), 0, side - 1);
-            uint8_t* const pixel = picture.pixel(x, y);
-            pixel[0] = 255;
-            pixel[1] = pixel[2] = green_and_blue;
-        };
-        mark(curve(table, code), 0);
-        mark(table.entries()[code], 255);
-    }
+    const auto row_of = [&](double value) {
+        return std::clamp<long>(side - 1 - static_cast<long>(value * side / table.size), 0, side - 1);
+    };
+    const auto draw = [&](auto value_of, uint8_t green_and_blue) {
+        long before = row_of(value_of(0));
+        for (long x = 0; x < side; ++x) {
+            const long row = row_of(value_of(static_cast<int>(x * table.size / side)));
+            for (long y = std::min(before, row); y <= std::max(before, row); ++y) {
+                uint8_t* const pixel = picture.pixel(x, y);
+                pixel[0] = 255;
+                pixel[1] = pixel[2] = green_and_blue;
+            }
+            before = row;
+        }
+    };
+    draw([&](int code) { return curve(table, code); }, 0);
+    draw([&](int code) { return static_cast<double>(table.entries()[code]); }, 255);
     write_png(path, picture);
 }
 

@@ -334,6 +334,7 @@ TEST_F(FieldCopies, scratch_is_not_tested)
         EXPECT_THROW(routine(), Thrown);
         EXPECT_EQ(calls().log.size(), 1u);
         SetUp();
+        calls().allocate = [&](unsigned int) -> void* { return src.data(); };
         calls().throw_at("ZKFree", 1);
         EXPECT_THROW(routine(), Thrown);
         EXPECT_EQ(calls().log.size(), 5u);

@@ -46,6 +46,7 @@ std::string text_of(const char* routine, Numbers... numbers)
 
 // Odd numbers from nowhere for the arguments that no routine reads.
 inline unsigned int unread(Random& random) { return static_cast<unsigned int>(random.next()); }
+inline int number(Random& random, long low, long high) { return static_cast<int>(random.between(low, high)); }
 inline unsigned int count(Random& random, long low, long high)
 {
     return static_cast<unsigned int>(random.between(low, high));
@@ -78,8 +79,8 @@ inline FieldCall deinterlace_rgb(Random& random)
 {
     const int modes[] = {2, 16, 17, 0, 1, 3, -2, 18}, squares[] = {0, 1, 74, 75, 46340, 46341, 65536, -46341};
     const int mode = modes[random.between(0, 7)];
-    const int threshold = random.between(0, 3) == 0 ? squares[random.between(0, 7)] : count(random, -300, 300);
-    const int softness = random.between(0, 1) == 0 ? squares[random.between(0, 7)] : count(random, -100, 100);
+    const int threshold = random.between(0, 3) == 0 ? squares[random.between(0, 7)] : number(random, -300, 300);
+    const int softness = random.between(0, 1) == 0 ? squares[random.between(0, 7)] : number(random, -100, 100);
     const unsigned int width = count(random, 0, 6), height = count(random, 0, 9), stride = count(random, 0, 60);
     const long eighth = static_cast<long>(random.next());
     const int64_t dst = random.between(0, 15), src = beside(random, dst);
@@ -95,7 +96,7 @@ inline FieldCall deinterlace_rgb(Random& random)
 inline FieldCall flip_vert(Random& random)
 {
     const int64_t dst = random.between(0, 15), src = beside(random, dst);
-    const int height = static_cast<int>(random.between(dst == src ? 0 : -2, 12));
+    const int height = number(random, dst == src ? 0 : -2, 12);
     const unsigned int third = unread(random), stride = count(random, 0, 60);
     const auto with = [=](auto* routine) {
         return [=](uint8_t* memory) { return routine(memory + dst, memory + src, third, height, stride), 0; };
@@ -106,12 +107,12 @@ inline FieldCall flip_vert(Random& random)
 inline FieldCall flip_vert_flags(Random& random)
 {
     const int64_t dst = random.between(0, 15), src = beside(random, dst);
-    const int height = static_cast<int>(random.between(dst == src ? 0 : -2, 12));
+    const int height = number(random, dst == src ? 0 : -2, 12);
     const unsigned int third = unread(random), fourth = unread(random);
     const unsigned int dst_stride = count(random, 0, 60), src_stride = count(random, 0, 60);
     const unsigned int one_bit = 0x1000000u << random.between(0, 3), other_bits = unread(random) & 0xF0FFFFFF;
     const unsigned int flags = (random.between(0, 3) == 0 ? unread(random) : one_bit) | other_bits;
-    const int keep_margins = static_cast<int>(random.between(-1, 1));
+    const int keep_margins = number(random, -1, 1);
     const auto with = [=](auto* routine) {
         return [=](uint8_t* memory) {
             routine(memory + dst, memory + src, third, fourth, height, dst_stride, src_stride, flags, keep_margins);
@@ -125,8 +126,8 @@ inline FieldCall flip_vert_flags(Random& random)
 inline FieldCall flip_horz(Random& random)
 {
     const int64_t dst = random.between(0, 15), src = beside(random, dst);
-    const int width = static_cast<int>(random.between(dst == src ? 0 : -2, 20));
-    const int height = static_cast<int>(random.between(-2, 9));
+    const int width = number(random, dst == src ? 0 : -2, 20);
+    const int height = number(random, -2, 9);
     const unsigned int stride =
         random.between(0, 2) == 0 ? static_cast<unsigned int>(width * 4 & 0xFF) : count(random, 0, 100);
     const auto with = [=](auto* routine) {

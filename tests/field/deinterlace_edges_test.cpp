@@ -108,8 +108,12 @@ TEST(DeinterlaceEdges, a_value_between_its_neighbours_counts_against)
 
 // 0, 5, 251: the measure is 614653 for K = 5476 and 614664 for 5500, around 784 squared = 614656.
 // 0, 5, 22: it is 3721 for 5500, which is 61 squared, and 3723 for 5625.
+// 0, 8, 151: 213444 for 5500, which is 462 squared, and 213446 for 5501. 0, 11, 253: 599080 for 5500, and
+// 599076 for 5499, which is 774 squared.
 TEST(DeinterlaceEdges, softness_is_capped_at_5500)
 {
+    EXPECT_FALSE(combed({0, 0, 0}, {151, 151, 151}, {8, 8, 8}, 462, 75));
+    EXPECT_TRUE(combed({0, 0, 0}, {253, 253, 253}, {11, 11, 11}, 774, 75));
     for (const int sign : {1, -1}) {
         EXPECT_FALSE(combed({0, 0, 0}, {251, 251, 251}, {5, 5, 5}, 784, 74 * sign));
         EXPECT_TRUE(combed({0, 0, 0}, {251, 251, 251}, {5, 5, 5}, 784, 75 * sign));

@@ -1,5 +1,7 @@
 #include "recorder.h"
 
+#include <kmrutil.h>
+#include <ycbcr.h>
 #include <zkutil.h>
 
 #include <algorithm>
@@ -69,6 +71,14 @@ int belongs_to(const char* predicate, unsigned int fourcc)
     return calls().fourcc_class == predicate ? 1 : 0;
 }
 
+// None of the decoders writes anything, and all answer a number that is of no use.
+int decode(const char* decoder, const void* dst, const void* src, int width, int height, int dstStride, int srcStride,
+           unsigned int matrix, unsigned int flags)
+{
+    calls().note(decoder, dst, src, width, height, dstStride, srcStride, matrix, flags);
+    return -7;
+}
+
 }  // namespace
 }  // namespace tintvert::test
 
@@ -112,3 +122,21 @@ int fccIsYCbCr8(unsigned int fourcc) { return tintvert::test::belongs_to("fccIsY
 int fccIsYCbCr10(unsigned int fourcc) { return tintvert::test::belongs_to("fccIsYCbCr10", fourcc); }
 int fccIsDPX(unsigned int fourcc) { return tintvert::test::belongs_to("fccIsDPX", fourcc); }
 int fccIsRGB(unsigned int fourcc) { return tintvert::test::belongs_to("fccIsRGB", fourcc); }
+
+unsigned int GetMatrixBySize(int width, int height, int zero)
+{
+    calls().note("GetMatrixBySize", width, height, zero);
+    return calls().matrix;
+}
+
+#define TNTVT_DECODER(name)                                                                                  \
+    int name(void* dst, void* src, int width, int height, int dstStride, int srcStride, unsigned int matrix, \
+             unsigned int flags)                                                                             \
+    {                                                                                                        \
+        return tintvert::test::decode(#name, dst, src, width, height, dstStride, srcStride, matrix, flags);  \
+    }
+
+TNTVT_DECODER(cycbcr_uyvy_to_rgb32)
+TNTVT_DECODER(cycbcr_012v_to_rgb32)
+TNTVT_DECODER(cycbcr_i420_to_rgb32)
+TNTVT_DECODER(cycbcr_yv12_to_rgb32)

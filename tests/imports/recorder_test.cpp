@@ -2,6 +2,8 @@
 #include "recorder.h"
 
 #include <dlfcn.h>
+#include <kmrutil.h>
+#include <ycbcr.h>
 #include <zkutil.h>
 
 #include <array>
@@ -16,7 +18,8 @@ TEST_F(RecorderTest, stands_before_the_companions)
 {
     Dl_info where = {}, here = {};
     for (const char* name : {"CPUFeatureFlags", "CopyMemoryFast", "ZKAlloc", "ZKFree", "ErrFmtOut", "fccIsYCbCr8",
-                             "fccIsYCbCr10", "fccIsDPX", "fccIsRGB"}) {
+                             "fccIsYCbCr10", "fccIsDPX", "fccIsRGB", "GetMatrixBySize", "cycbcr_uyvy_to_rgb32",
+                             "cycbcr_012v_to_rgb32", "cycbcr_i420_to_rgb32", "cycbcr_yv12_to_rgb32"}) {
         void* const first = dlsym(RTLD_DEFAULT, name);
         ASSERT_NE(first, nullptr) << name;
         ASSERT_NE(dladdr(first, &where), 0) << name;
@@ -60,6 +63,22 @@ TEST_F(RecorderTest, answers_for_one_class_of_codes)
     EXPECT_EQ(fccIsYCbCr8(7) + fccIsYCbCr10(7) + fccIsRGB(7), 0);
     EXPECT_EQ(fccIsDPX(7), 1);
     EXPECT_EQ(calls().log, (Log{"fccIsYCbCr8(7)", "fccIsYCbCr10(7)", "fccIsRGB(7)", "fccIsDPX(7)"}));
+}
+
+TEST_F(RecorderTest, answers_with_the_matrix_and_logs_the_decoders)
+{
+    std::array<uint8_t, 8> bytes{};
+    calls().name("frame", bytes.data(), bytes.size());
+    calls().matrix = 0xFFFFFFFF;
+    EXPECT_EQ(GetMatrixBySize(1, -2, 3), 0xFFFFFFFFu);
+    cycbcr_uyvy_to_rgb32(bytes.data(), &bytes[1], 1, 2, 3, 4, 5, 6);
+    cycbcr_012v_to_rgb32(bytes.data(), &bytes[2], 1, -2, 3, 4, 5, 6);
+    cycbcr_i420_to_rgb32(bytes.data(), &bytes[3], 1, 2, -3, 4, 5, 6);
+    cycbcr_yv12_to_rgb32(bytes.data(), &bytes[4], 1, 2, 3, -4, 0xFFFFFFFF, 0x8000);
+    EXPECT_EQ(calls().log, (Log{"GetMatrixBySize(1, -2, 3)", "cycbcr_uyvy_to_rgb32(frame, frame+1, 1, 2, 3, 4, 5, 6)",
+                                "cycbcr_012v_to_rgb32(frame, frame+2, 1, -2, 3, 4, 5, 6)",
+                                "cycbcr_i420_to_rgb32(frame, frame+3, 1, 2, -3, 4, 5, 6)",
+                                "cycbcr_yv12_to_rgb32(frame, frame+4, 1, 2, 3, -4, 4294967295, 32768)"}));
 }
 
 }  // namespace

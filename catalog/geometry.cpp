@@ -117,6 +117,7 @@ Arguments plain_call(const Routine& routine, const Geometry& geometry)
     call[Arg::srcStride] = line_of(from, width);
     call[Arg::stride] = any_layout(routine) ? line_of(from, width) : width * 2;
     call[Arg::fieldStride] = call[Arg::stride];
+    if (routine.shape == "comb_repair") call[Arg::width] = call[Arg::stride] / 8;  // elements of 8 bytes
     call[Arg::count] = width * height;
     call[Arg::groups] = width / 2;
     call[Arg::total] = width / 2 * height;
@@ -129,6 +130,9 @@ Arguments plain_call(const Routine& routine, const Geometry& geometry)
     call[Arg::mode] = 1;
     call[Arg::bgra] = call[Arg::bgraOrder] = call[Arg::hasAlpha] = 1;
     call[Arg::fourcc] = fourcc_of(from);
+    // Buffers that differ from each other and from null.
+    for (const Arg argument : routine.arguments)
+        if (describe(argument).kind == Argument::buffer) call[argument] = static_cast<int64_t>(argument) + 1;
     call[Arg::payloadSize] = line_of("pgroups", width);
     call[Arg::pgroupCount] = width / 2;
     return call;
@@ -144,7 +148,7 @@ std::vector<Content> contents(const Routine& routine, const Arguments& call)
         Content content{argument, false, false, 0, bytes};
         for (const Touch& touch : routine.extents(call)) {
             if (touch.buffer != argument) continue;
-            content.in = !touch.read.empty() && (argument != Arg::dst || works_on_destination(routine));
+            content.in = argument == Arg::dst ? works_on_destination(routine) : !touch.read.empty();
             content.out = !touch.written.empty();
             // Each pointer stands one line behind its frame's first byte.
             if (routine.shape == "strided_crossed")

@@ -83,6 +83,24 @@ TEST_F(Convert, every_routine_as_by_hand)
     EXPECT_GT(converted, 110);
 }
 
+TEST_F(Convert, every_field_mode_as_by_hand)
+{
+    const Routine& routine = *catalog::find("tntvt_change_field_rgb");
+    save("in.raw", noise(12, 2 * 48 * 4 * 8));
+    for (int mode = 1; mode <= 14; ++mode) {
+        catalog::Arguments call = catalog::plain_call(routine, {48, 8});
+        call[Arg::mode] = mode;
+        const std::string input =
+            load("in.raw").substr(0, static_cast<size_t>(bytes_in(catalog::contents(routine, call))));
+        save("frames.raw", input);
+        EXPECT_EQ(input.size(), (mode < 5 ? 1u : 2u) * 48 * 4 * 8) << mode;
+        const Result result = run({"convert", "tntvt_change_field_rgb", path("frames.raw"), path("out.raw"), "-s",
+                                   "48x8", "--mode", std::to_string(mode)});
+        EXPECT_EQ(result.code, 0) << mode << ' ' << result.err;
+        EXPECT_TRUE(load("out.raw") == by_hand(routine, call, input)) << mode;
+    }
+}
+
 TEST_F(Convert, refuses_what_turns_no_picture_into_another)
 {
     save("in.raw", "1234");

@@ -1,42 +1,15 @@
-// `yuv2`, `yuvu` and `yuvs` to `2vuy`: the two bytes of a pixel change places and go from full to video range.
+// `yuv2`, `yuvu` and `yuvs` to `2vuy`.
 #include <tintvert/ycbcr8.h>
 
 #include "frame/number.h"
+#include "ycbcr8/full_range.h"
 
 using namespace tintvert;
 
-namespace {
-
-// 0 to 255 becomes 16 to 235; nothing lies outside, so nothing is clamped.
-constexpr uint8_t video_luma(uint32_t y) { return static_cast<uint8_t>(y * 219 / 255 + 16); }
-
-// 1 to 255 becomes 16 to 240 about 128. DELIBERATE (keeps_zero_chroma_like_one): the scale begins at 1,
-// and 0 counts as 1.
-constexpr uint8_t video_chroma(uint32_t c) { return static_cast<uint8_t>((c == 0 ? 0 : c - 1) * 224 / 254 + 16); }
-
-static_assert(video_luma(0) == 16 && video_luma(128) == 125 && video_luma(255) == 235);
-static_assert(video_chroma(0) == 16 && video_chroma(1) == 16 && video_chroma(2) == 16 && video_chroma(3) == 17);
-static_assert(video_chroma(128) == 128 && video_chroma(255) == 240);
-
-// Cb stands on even pixels and Cr on odd ones, before and after. Both bytes of a pixel are read before
-// either is written, so a run may be converted in place.
-template <uint8_t sign>
-void convert_run(uint8_t* dst, const uint8_t* src, int pixels)
-{
-    for (long i = 0; i < pixels; ++i) {
-        const uint8_t y = src[2 * i];
-        const uint8_t c = src[2 * i + 1] ^ sign;
-        dst[2 * i + 1] = video_luma(y);
-        dst[2 * i] = video_chroma(c);
-    }
-}
-
-}  // namespace
-
 // Signed chroma: the top bit turned over makes it an offset from 0.
-void yuv2_to_2vuy(unsigned char* src, unsigned char* dst, int pixels) { convert_run<0x80>(dst, src, pixels); }
+void yuv2_to_2vuy(unsigned char* src, unsigned char* dst, int pixels) { to_video_range<0x80>(dst, src, pixels); }
 
-void yuvs_to_2vuy(unsigned char* src, unsigned char* dst, int pixels) { convert_run<0>(dst, src, pixels); }
+void yuvs_to_2vuy(unsigned char* src, unsigned char* dst, int pixels) { to_video_range<0>(dst, src, pixels); }
 
 void tntvt_yuv2_2vuy(unsigned char* dst, unsigned char* src, int width, int height)
 {

@@ -40,7 +40,8 @@ Conversion::Conversion(const catalog::Routine& routine, catalog::Arguments call)
         for (const catalog::Content& content : contents_)
             if (content.buffer == argument) include({content.origin, content.origin + content.bytes});
         if (argument == Arg::palette) include({0, 1024});
-        Buffer& buffer = buffers_.emplace_back(argument, begin, std::vector<uint8_t>(static_cast<size_t>(end - begin)));
+        Buffer& buffer =
+            buffers_.emplace_back(Buffer{argument, begin, std::vector<uint8_t>(static_cast<size_t>(end - begin))});
         call_[argument] = reinterpret_cast<int64_t>(buffer.bytes.data() - begin);
     }
 }

@@ -6,12 +6,12 @@ namespace tintvert::tool::capture {
 
 uint64_t SegmentCounts::all_refused() const { return std::accumulate(refused.begin(), refused.end(), uint64_t{0}); }
 
-void Assembler::take(const RtpPacket& packet, const Payload& payload)
+void Assembler::take(const RtpPacket& packet, const Payload& payload, bool follows)
 {
     if (in_picture_ && packet.timestamp != timestamp_) end_picture();
     in_picture_ = true;
     timestamp_ = packet.timestamp;
-    for (const Segment& segment : payload.segments) take(segment);
+    for (const Segment& segment : payload.segments) take(segment, follows);
     if (packet.marker) end_picture();
 }
 
@@ -21,13 +21,13 @@ void Assembler::finish()
     has_frame_ = false;
 }
 
-void Assembler::take(const Segment& segment)
+void Assembler::take(const Segment& segment, bool follows)
 {
     if (segment.refusal == Refusal::none && segment.length == 0) {
         ++counts_.empty;
         return;
     }
-    if (has_frame_ && first_field_ended_ && !segment.second_field) finish();
+    if (begins_frame(segment, follows)) finish();
     if (!has_frame_) {
         frame_.clear();
         has_frame_ = true;
@@ -41,6 +41,14 @@ void Assembler::take(const Segment& segment)
     }
     ++counts_.taken;
     ++counts_.at_phase[segment.offset % 6 / 2];
+}
+
+// Of two fields, the first has ended.
+bool Assembler::begins_frame(const Segment& segment, bool follows) const
+{
+    if (!first_field_ended_ || has_second_field_) return false;
+    const bool is_first_of_field = segment.offset == 0 && segment.line == (scan_ == Scan::by_frame ? 1 : 0);
+    return !segment.second_field || (!follows && is_first_of_field);
 }
 
 Refusal Assembler::store(const Segment& segment)

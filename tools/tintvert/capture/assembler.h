@@ -24,7 +24,9 @@ enum class Scan {
 };
 
 // A picture ends with the marker or before another time stamp. A progressive frame is one picture. An
-// interlaced one is a picture of both fields, or one of the first field (F clear) and then one of the second.
+// interlaced one is a picture of both fields, or one of the first field (F clear) and then one of the second;
+// not, though, a second field that is there from its first sample on while packets are missing before it, since
+// whole fields are lost then.
 class Assembler {
 public:
     using Done = std::function<void(const Frame&)>;
@@ -33,11 +35,13 @@ public:
         : frame_(size), scan_(scan), counts_(counts), done_(std::move(done))
     {}
 
-    void take(const RtpPacket& packet, const Payload& payload);
+    // `follows`: no packet is missing before this one.
+    void take(const RtpPacket& packet, const Payload& payload, bool follows);
     void finish();
 
 private:
-    void take(const Segment& segment);
+    void take(const Segment& segment, bool follows);
+    bool begins_frame(const Segment& segment, bool follows) const;
     Refusal store(const Segment& segment);
     void end_picture();
 

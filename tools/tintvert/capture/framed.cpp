@@ -11,12 +11,12 @@ bool FramedSource::next(Datagram& datagram)
     size_t size = 0;
     while (size == 0) {
         const size_t got = input_.read(prefix.data(), prefix.size());
-        ends_early_ = got == 1;
+        ends_early_ |= got == 1;
         if (got < prefix.size()) return false;
         size = be16(prefix, 0);
     }
     const size_t got = input_.read(packet_.data(), size);
-    ends_early_ = got < size;
+    ends_early_ |= got < size;
     datagram = {Bytes(packet_).first(got), size};
     return true;
 }

@@ -15,6 +15,7 @@ public:
     explicit FramedSource(Input& input) : input_(input), packet_(65535) {}
     bool next(Datagram& datagram) override;
     const char* format() const override { return "rfc4571"; }
+    bool has_ports() const override { return false; }
 
 private:
     Input& input_;

@@ -6,7 +6,7 @@
 
 namespace tintvert::tool::capture {
 
-// The frame decoded with ITU-R BT.601, and magenta where samples are missing.
+// The frame in grey, and magenta where samples are missing: colour bars have every other colour too.
 Picture missing_picture(const Frame& frame);
 
 }  // namespace tintvert::tool::capture

@@ -84,7 +84,7 @@ void Order::place(int64_t number, Bytes packet, size_t size)
     seen(number) = true;
     if (is_released_ && number == next_ && held_.empty()) {
         ++next_;
-        deliver_(packet, size);
+        deliver_(packet, size, true);
         return;
     }
     held_.emplace(number, Packet{{packet.begin(), packet.end()}, size});
@@ -95,9 +95,10 @@ void Order::release(size_t most_held)
 {
     while (!held_.empty() && (held_.size() > most_held || (is_released_ && held_.begin()->first == next_))) {
         const auto node = held_.extract(held_.begin());
+        const bool follows = is_released_ && node.key() == next_;
         is_released_ = true;
         next_ = node.key() + 1;
-        deliver_(node.mapped().bytes, node.mapped().size);
+        deliver_(node.mapped().bytes, node.mapped().size, follows);
     }
 }
 

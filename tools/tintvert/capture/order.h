@@ -24,7 +24,8 @@ struct OrderCounts {
 // one; a sender that leaves its upper half alone is followed over the wrap by the lower.
 class Order {
 public:
-    using Deliver = std::function<void(Bytes packet, size_t size)>;
+    // `follows`: the packet before it was the last to be delivered.
+    using Deliver = std::function<void(Bytes packet, size_t size, bool follows)>;
 
     Order(OrderCounts& counts, Deliver deliver) : counts_(counts), deliver_(std::move(deliver)) {}
 

@@ -58,10 +58,10 @@ bool PcapSource::next_record(Bytes& captured, size_t& size)
     const size_t got_header = input_.read(header.data(), header.size());
     if (got_header == 0) return false;
     const size_t count = number(header, 8);
-    ends_early_ = got_header < header.size() || count > most_captured;
+    ends_early_ |= got_header < header.size() || count > most_captured;
     if (ends_early_) return false;
     const size_t got = input_.read(record_.data(), count);
-    ends_early_ = got < count;
+    ends_early_ |= got < count;
     captured = Bytes(record_).first(got);
     size = std::max<size_t>(count, number(header, 12));
     return true;

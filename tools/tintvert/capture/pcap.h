@@ -18,6 +18,7 @@ public:
     explicit PcapSource(Input& input);
     bool next(Datagram& datagram) override;
     const char* format() const override { return "pcap"; }
+    bool has_ports() const override { return true; }
 
 private:
     uint32_t number(Bytes bytes, size_t at) const;

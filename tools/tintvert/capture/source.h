@@ -21,6 +21,7 @@ public:
     virtual ~Source() = default;
     virtual bool next(Datagram& datagram) = 0;  // false at the end
     virtual const char* format() const = 0;
+    virtual bool has_ports() const = 0;
 
     bool ends_early() const { return ends_early_; }  // inside a packet, or in something that is none
     uint64_t skipped() const { return skipped_; }    // captured packets that hold no whole UDP header

@@ -5,7 +5,7 @@ namespace tintvert::tool::capture {
 Walker::Walker(const WalkerOptions& options, Assembler::Done done)
     : options_(options),
       assembler_(options.size, options.scan, segments_, std::move(done)),
-      order_(packets_.order, [this](Bytes bytes, size_t size) { assemble(bytes, size); })
+      order_(packets_.order, [this](Bytes bytes, size_t size, bool follows) { assemble(bytes, size, follows); })
 {}
 
 void Walker::take(const Datagram& datagram)
@@ -36,11 +36,11 @@ void Walker::finish()
 }
 
 // What was taken has been parsed before, so it is RTP.
-void Walker::assemble(Bytes bytes, size_t size)
+void Walker::assemble(Bytes bytes, size_t size, bool follows)
 {
     const RtpPacket packet = *parse_rtp(bytes, size);
     ++packets_.taken;
-    assembler_.take(packet, parse_payload(packet.payload, packet.payload_size));
+    assembler_.take(packet, parse_payload(packet.payload, packet.payload_size), follows);
 }
 
 }  // namespace tintvert::tool::capture

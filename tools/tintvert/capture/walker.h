@@ -43,7 +43,7 @@ public:
     const SegmentCounts& segments() const { return segments_; }
 
 private:
-    void assemble(Bytes bytes, size_t size);
+    void assemble(Bytes bytes, size_t size, bool follows);
 
     WalkerOptions options_;
     std::optional<Stream> stream_;

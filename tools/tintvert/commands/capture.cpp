@@ -111,6 +111,8 @@ capture::Report walk(const Options& options)
     const std::unique_ptr<capture::Source> source = capture::open_source(input);
     capture::WalkerOptions walker_options{size, scan};
     if (options.port != 0) walker_options.port = options.port;
+    if (walker_options.port && !source->has_ports())
+        throw Failure(Exit::usage, "{} has RFC 4571 framing, which tells no --port", options.input);
 
     Frames frames(options);
     capture::Walker walker(walker_options, [&](const capture::Frame& frame) { frames.take(frame); });
@@ -164,7 +166,7 @@ Command add_capture(CLI::App& tool)
     app->add_flag("--keep-incomplete", options->keeps_incomplete,
                   "write frames with missing samples too, which are 0 there");
     app->add_option("--missing", options->missing,
-                    "a PNG of the frame that lacks most, with magenta where samples are missing");
+                    "a PNG of the frame that lacks most, in grey, with magenta where samples are missing");
     app->add_flag("--json", options->json, "the report on stdout as JSON instead of text on stderr");
     return {app, [options] { return run(*options); }};
 }

@@ -49,6 +49,22 @@ TEST_F(Capture, every_phase_length_and_width)
     }
 }
 
+// Sent from the frame's end to its start, so that a segment comes after the one behind it in the same group.
+TEST_F(Capture, segments_leave_their_neighbours_alone)
+{
+    for (const unsigned pgroups : {1u, 2u, 4u, 5u}) {
+        const Geometry size{26, 3};
+        std::vector<Packet> packets = Sender{size, pgroups}.frames(1);
+        packets.back().marker = false;
+        packets.front().marker = true;
+        std::reverse(packets.begin(), packets.end());
+        for (size_t i = 0; i < packets.size(); ++i) packets[i].number = static_cast<uint32_t>(i);
+        const Captured got = capture(framed(packets), size);
+        EXPECT_EQ(got.report["packets"]["reordered"], 0);
+        expect_complete(got, size, 1);
+    }
+}
+
 TEST_F(Capture, counts_the_phases)
 {
     // One pgroup a packet: each line of 26 pixels begins 5 times at pixel 0 of a group, 4 at 2, 4 at 4.

@@ -14,6 +14,7 @@ struct Command {
     std::function<Exit()> run;  // data to stdout, everything else to stderr
 };
 
+Command add_capture(CLI::App& tool);
 Command add_convert(CLI::App& tool);
 Command add_demo(CLI::App& tool);
 Command add_layouts(CLI::App& tool);

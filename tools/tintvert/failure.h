@@ -11,7 +11,7 @@ namespace tintvert::tool {
 
 enum class Exit {
     done = 0,
-    differs = 1,  // the command ran, and what it compared is not alike
+    differs = 1,  // the command ran, and what it compared is not alike, or what it read not complete
     usage = 2,    // the command line makes no sense
     no_file = 3,  // a file is missing, unreadable, broken, too short, or cannot be written
     unsafe = 4,   // refused, because it could not be done without harm

@@ -91,15 +91,15 @@ TEST(ZimgDecode, tables)
 {
     const ZimgForm ten = ycbcr(ZIMG_MATRIX_BT470_BG, ZIMG_RANGE_LIMITED, 10), eight = ycbcr(ten.matrix, ten.range);
     const Bytes from_ten = interleaved(zimg<float>(repeated(picture()), ten, rgb_full, size));
-    EXPECT_TRUE(within(1, 0.02, decoded_by_v210_to_rgb(picture()), from_ten));
+    EXPECT_TRUE(within(1, 0.01, decoded_by_v210_to_rgb(picture()), from_ten));
 
     const Bytes top_eight = high_bytes(picture());
     const Bytes from_eight = interleaved(zimg<float>(repeated(top_eight), eight, rgb_full, size));
     const Bytes v210 = v210_frame(picture(), size, stride);
-    EXPECT_TRUE(within(1, 0.06, decoded(tntvt_v210_rgb24, v210, stride, 3), from_eight));
-    EXPECT_TRUE(within(1, 0.06, without_alpha(decoded(tntvt_v210_rgb24, v210, stride, 4)), from_eight));
-    EXPECT_TRUE(within(1, 0.06, decoded(tntvt_yuv422_rgb24, top_eight, size.width * 2, 3), from_eight));
-    EXPECT_TRUE(within(1, 0.06, without_alpha(decoded(tntvt_yuv422_rgb24, top_eight, size.width * 2, 4)), from_eight));
+    EXPECT_TRUE(within(1, 0.03, decoded(tntvt_v210_rgb24, v210, stride, 3), from_eight));
+    EXPECT_TRUE(within(1, 0.03, without_alpha(decoded(tntvt_v210_rgb24, v210, stride, 4)), from_eight));
+    EXPECT_TRUE(within(1, 0.03, decoded(tntvt_yuv422_rgb24, top_eight, size.width * 2, 3), from_eight));
+    EXPECT_TRUE(within(1, 0.03, without_alpha(decoded(tntvt_yuv422_rgb24, top_eight, size.width * 2, 4)), from_eight));
 }
 
 // Inside of the RGB cube: outside of it ours wraps where zimg goes on.
@@ -119,7 +119,7 @@ TEST(ZimgDecode, full_range)
             theirs.push_back(static_cast<uint8_t>(code));
         }
     EXPECT_GT(ours.size(), size.pixels());
-    EXPECT_TRUE(within(1, 0.01, ours, theirs));
+    EXPECT_TRUE(within(1, 0.001, ours, theirs));
 }
 
 // libycbcr rounds, as zimg does; the mean is the share of channels that lie near a half.
@@ -191,12 +191,12 @@ TEST_F(Gstreamer, tables)
         return without_alpha(gstreamer(v210, {"v210", size.width, size.height},
                                        {"chroma-mode=none", "chroma-resampler=nearest"}, "BGRA"));
     };
-    EXPECT_TRUE(within(1, 0.3, decoded_by_v210_to_rgb(picture()), theirs(v210_frame(picture(), size, stride))));
+    EXPECT_TRUE(within(1, 0.2, decoded_by_v210_to_rgb(picture()), theirs(v210_frame(picture(), size, stride))));
     Samples cut_short = picture();
     for (uint16_t& sample : cut_short) sample &= 0x3FC;
     const Bytes v210 = v210_frame(cut_short, size, stride);
-    EXPECT_TRUE(within(1, 0.3, decoded(tntvt_v210_rgb24, v210, stride, 3), theirs(v210)));
-    EXPECT_TRUE(within(1, 0.3, decoded(tntvt_yuv422_rgb24, high_bytes(cut_short), size.width * 2, 3), theirs(v210)));
+    EXPECT_TRUE(within(1, 0.2, decoded(tntvt_v210_rgb24, v210, stride, 3), theirs(v210)));
+    EXPECT_TRUE(within(1, 0.2, decoded(tntvt_yuv422_rgb24, high_bytes(cut_short), size.width * 2, 3), theirs(v210)));
 }
 
 }  // namespace

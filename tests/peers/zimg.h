@@ -101,6 +101,7 @@ Planes<To> zimg(const Planes<From>& planes, const ZimgForm& from, const ZimgForm
     zimg_graph_builder_params_default(&parameters, ZIMG_API_VERSION);
     parameters.nominal_peak_luminance = 10000;
     parameters.allow_approximate_gamma = 0;
+    parameters.cpu_type = ZIMG_CPU_NONE;  // the same figures on every machine
     const zimg_image_format src_format = detail::format_of<From>(from, size);
     const zimg_image_format dst_format = detail::format_of<To>(to, size);
     const std::unique_ptr<zimg_filter_graph, decltype(&zimg_filter_graph_free)> graph(

@@ -35,7 +35,7 @@ Exit run(int argc, char** argv)
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
     tool.set_version_flag("--version", "tintvert " TINTVERT_VERSION);
     tool.require_subcommand(1);
-    const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool), add_layouts(tool),
+    const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool),  add_layouts(tool),
                                            add_list(tool),    add_show(tool),    add_st2084(tool)};
     try {
         tool.parse(argc, argv);

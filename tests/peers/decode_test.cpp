@@ -76,7 +76,7 @@ Bytes interleaved(const Planes<Value>& rgb)
 {
     Bytes bytes;
     for (size_t i = 0; i < rgb[0].size(); ++i)
-        for (const size_t plane : {2, 1, 0}) {
+        for (size_t plane = 3; plane-- > 0;) {
             if constexpr (std::is_same_v<Value, float>)
                 bytes.push_back(static_cast<uint8_t>(std::clamp(rgb[plane][i] * 255.0f, 0.0f, 255.0f)));
             else
@@ -112,7 +112,7 @@ TEST(ZimgDecode, full_range)
     const Planes<float> rgb = zimg<float>(planes, ycbcr(ZIMG_MATRIX_BT470_BG, ZIMG_RANGE_FULL), rgb_full, size);
     Bytes ours, theirs;
     for (size_t i = 0; i < size.pixels(); ++i)
-        for (const size_t plane : {2, 1, 0}) {
+        for (size_t plane = 3; plane-- > 0;) {
             const double code = static_cast<double>(rgb[plane][i]) * 255;
             if (code < 0.01 || code > 255.99) continue;
             ours.push_back(dst[i * 4 + 2 - plane]);

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
+#include <algorithm>
+
 #include "peers/compare.h"
 #include "peers/frames.h"
 #include "peers/program.h"

@@ -20,12 +20,6 @@ constexpr int pixels = static_cast<int>(size.width * size.height);
 // B, G, R and whatever.
 Bytes picture() { return noise(101, size.pixels() * 4); }
 
-Bytes turned_round(Bytes bgra)
-{
-    bgra2argb(bgra.data(), bgra.data(), static_cast<unsigned int>(bgra.size() / 4));
-    return bgra;
-}
-
 // The luma of every line of a frame of Cb Y Cr Y, and the chroma of every line from group 1 up to group `end`.
 template <typename Value>
 std::vector<Value> luma_of(const std::vector<Value>& samples)
@@ -45,6 +39,12 @@ std::vector<Value> chroma_of(const std::vector<Value>& samples, long end = size.
 }
 
 #ifdef TINTVERT_PEER_ZIMG
+
+Bytes turned_round(Bytes bgra)
+{
+    bgra2argb(bgra.data(), bgra.data(), static_cast<unsigned int>(bgra.size() / 4));
+    return bgra;
+}
 
 struct Codes {
     double black, luma, neutral, chroma;  // the code of black, and the span from there; the same of chroma

@@ -52,17 +52,6 @@ Image taken_apart(const Bytes& bmp)
     return image;
 }
 
-size_t stretches_of_single_indices(const Bytes& stream)
-{
-    size_t count = 0;
-    for (size_t i = 0; i + 1 < stream.size() && !(stream[i] == 0 && stream[i + 1] == 1); i += 2) {
-        if (stream[i] != 0 || stream[i + 1] < 3) continue;
-        ++count;
-        i += (stream[i + 1] + 1u) / 2 * 2;
-    }
-    return count;
-}
-
 // ImageMagick codes lines up to a multiple of 4 pixels, and the surplus goes on in memory: into slack here, which is
 // cut off.
 Bytes decoded(const Bytes& bmp, const Size& size, bool named_rgb32)
@@ -112,6 +101,17 @@ TEST_F(ImageMagick, run_length_coded_image)
 }
 
 #ifdef TINTVERT_PEER_LIBGD
+
+size_t stretches_of_single_indices(const Bytes& stream)
+{
+    size_t count = 0;
+    for (size_t i = 0; i + 1 < stream.size() && !(stream[i] == 0 && stream[i + 1] == 1); i += 2) {
+        if (stream[i] != 0 || stream[i + 1] < 3) continue;
+        ++count;
+        i += (stream[i + 1] + 1u) / 2 * 2;
+    }
+    return count;
+}
 
 TEST(Libgd, run_length_coded_image_with_single_indices)
 {

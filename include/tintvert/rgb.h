@@ -284,8 +284,9 @@ TNTVT_API void tntvt_rgb12_rgb48_sse4(void* dst, long dstStride, void* src, long
 /* 16-bit words to packed `rgb12`: the low 12 bits of each word in tntvt_rgb48_12_rgb12, the upper 12 in
  * tntvt_rgb48_rgb12. Samples keep their order and are written highest bit first, three bytes for two; the
  * unpackers above read another arrangement. A line stands at the start of its stride and walks 3 x `width`
- * samples, rounded up to a multiple of 8. It never stores behind `dstStride` bytes, whatever its length, and
- * nothing at all in a stride below 1. The sign of `height` says nothing. */
+ * samples, rounded up to a multiple of 8, each read just before its bits are written. It never stores behind
+ * `dstStride` bytes, whatever its length, and nothing at all in a stride below 1. The sign of `height` says
+ * nothing. */
 TNTVT_API void tntvt_rgb48_12_rgb12(void* dst, long dstStride, void* src, long srcStride, long width, long height);
 TNTVT_API void tntvt_rgb48_rgb12(void* dst, long dstStride, void* src, long srcStride, long width, long height);
 

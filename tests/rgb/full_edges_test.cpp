@@ -52,7 +52,7 @@ TEST(RgbaFullEdges, the_quotient_truncates)
 
 TEST(RgbaFullEdges, keeps_block_of_pixels_with_slack)
 {
-    // 12 of two lines of 7 bytes; 16 of two lines of 9; 10 of two lines of 5.
+    // 2 x 2 pixels of 3, 4, 2, 2, 3 and 4 bytes from the start, whatever the stride.
     for (const auto& [stride, copied] : {std::pair{7l, 12u}, {9l, 16u}, {5l, 8u}, {4l, 8u}, {6l, 12u}, {8l, 16u}}) {
         Bytes expected = counting(24);
         std::fill(expected.begin() + copied, expected.end(), uint8_t{0xEE});

@@ -193,7 +193,9 @@ TEST(Cycbcr, stays_in_its_lines)
                 const int64_t read = source(width), written = width * 4;
                 FencedBuffer src({0, read}, side == Side::above ? read : 0, side, Closed::wholly);
                 FencedBuffer dst({0, written}, side == Side::above ? written : 0, side, Closed::wholly);
-                EXPECT_FALSE(faults([&] { routine(dst.pointer(), src.pointer(), width, 1, 0, 0, 709, 0); })) << width;
+                EXPECT_FALSE(faults([&, call = routine] {
+                    call(dst.pointer(), src.pointer(), width, 1, 0, 0, 709, 0);
+                })) << width;
             }
         }
     }

@@ -24,9 +24,9 @@ inline void store(void* address, Word word)
     std::memcpy(address, &word, sizeof word);
 }
 
-inline uint16_t byte_reverse(uint16_t word) { return static_cast<uint16_t>(word << 8 | word >> 8); }
-inline uint32_t byte_reverse(uint32_t word) { return __builtin_bswap32(word); }
-inline uint64_t byte_reverse(uint64_t word) { return __builtin_bswap64(word); }
+constexpr uint16_t byte_reverse(uint16_t word) { return static_cast<uint16_t>(word << 8 | word >> 8); }
+constexpr uint32_t byte_reverse(uint32_t word) { return __builtin_bswap32(word); }
+constexpr uint64_t byte_reverse(uint64_t word) { return __builtin_bswap64(word); }
 
 inline uint8_t* bytes(void* pointer) { return static_cast<uint8_t*>(pointer); }
 

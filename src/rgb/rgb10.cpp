@@ -18,52 +18,78 @@ namespace {
 //   V2      w 21 .. 14   11 10
 //   V3      w 19 .. 12    9  8
 constexpr uint16_t masked(uint32_t word) { return static_cast<uint16_t>(word & 0xFF30); }
-constexpr uint16_t V1(uint32_t word) { return masked(word >> 16); }
-constexpr uint16_t V2(uint32_t word) { return masked(word >> 6); }
-constexpr uint16_t V3(uint32_t word) { return masked(word >> 4); }
 
-static_assert(V1(0xFFFFFFFC) == 0xFF30 && V2(0xFFFFFFFC) == 0xFF30 && V3(0xFFFFFFFC) == 0xFF30);
-static_assert(V1(0xFFC00000) == 0xFF00 && V2(0xFFC00000) == 0 && V3(0xFFC00000) == 0);
-static_assert(V1(0x003FF000) == 0x0030 && V2(0x003FF000) == 0xFF00 && V3(0x003FF000) == 0xFF00);
-static_assert(V1(0x00000FFC) == 0 && V2(0x00000FFC) == 0x0030 && V3(0x00000FFC) == 0x0030);
+struct LittleEndian {
+    static constexpr uint32_t in_order(uint32_t word) { return word; }
+    static constexpr uint16_t V1(uint32_t word) { return masked(word >> 16); }
+    static constexpr uint16_t V2(uint32_t word) { return masked(word >> 6); }
+    static constexpr uint16_t V3(uint32_t word) { return masked(word >> 4); }
+
+    // The top eight bits of each field: field 3 in byte 0, field 2 in byte 1, field 1 in byte 2.
+    static constexpr uint32_t tops(uint32_t word)
+    {
+        return (word >> 4 & 0xFF) | (word >> 6 & 0xFF00) | (word >> 8 & 0xFF0000);
+    }
+};
+
+// The same bits out of a word that was loaded with its bytes the other way about: shifts go four at a time
+// where a byte reverse would not.
+struct BigEndian {
+    static constexpr uint32_t in_order(uint32_t word) { return byte_reverse(word); }
+    static constexpr uint16_t V1(uint32_t word) { return masked((word << 8 & 0xFF00) | (word >> 8 & 0x30)); }
+    static constexpr uint16_t V2(uint32_t word) { return masked((word << 2 & 0xFC00) | (word >> 14 & 0x330)); }
+    static constexpr uint16_t V3(uint32_t word) { return masked((word << 4 & 0xF000) | (word >> 12 & 0xF30)); }
+
+    static constexpr uint32_t tops(uint32_t word)
+    {
+        return (word >> 12 & 0xF0) | word >> 28 | (word << 2 & 0xFC00) | (word >> 14 & 0x300) | (word << 16 & 0xFF0000);
+    }
+};
+
+template <class Order>
+constexpr bool holds(uint32_t word, unsigned first, unsigned second, unsigned third, uint32_t tops)
+{
+    return Order::V1(word) == first && Order::V2(word) == second && Order::V3(word) == third &&
+           Order::tops(word) == tops;
+}
+
+static_assert(holds<LittleEndian>(0xFFFFFFFC, 0xFF30, 0xFF30, 0xFF30, 0xFFFFFF));
+static_assert(holds<LittleEndian>(0xFFC00000, 0xFF00, 0, 0, 0xFF0000));
+static_assert(holds<LittleEndian>(0x003FF000, 0x0030, 0xFF00, 0xFF00, 0x00FF00));
+static_assert(holds<LittleEndian>(0x00000FFC, 0, 0x0030, 0x0030, 0x0000FF));
+static_assert(holds<BigEndian>(0xFCFFFFFF, 0xFF30, 0xFF30, 0xFF30, 0xFFFFFF));
+static_assert(holds<BigEndian>(0x0000C0FF, 0xFF00, 0, 0, 0xFF0000));
+static_assert(holds<BigEndian>(0x00F03F00, 0x0030, 0xFF00, 0xFF00, 0x00FF00));
+static_assert(holds<BigEndian>(0xFC0F0000, 0, 0x0030, 0x0030, 0x0000FF));
 
 // DELIBERATE (keeps_opposite_channel_orders): field 1 is the third channel of `rgba64` and the first of `rgb48`.
+template <class Order>
 struct Rgba64 {
-    static constexpr long bytes = 8, bottom = 0;
-    static void put(uint8_t* dst, uint32_t word)
+    static constexpr long src_bytes = 4, dst_bytes = 8, bottom = 0;
+    static void pixel(uint8_t* dst, const uint8_t* src)
     {
-        const uint64_t low = V3(word) | uint32_t{V2(word)} << 16, high = V1(word) | 0xFFFF0000u;
+        const auto word = load<uint32_t>(src);
+        const uint64_t low = Order::V3(word) | uint32_t{Order::V2(word)} << 16, high = Order::V1(word) | 0xFFFF0000u;
         store(dst, high << 32 | low);
     }
 };
 
+template <class Order>
 struct Rgb48 {
-    static constexpr long bytes = 6, bottom = 0;
-    static void put(uint8_t* dst, uint32_t word)
-    {
-        store(dst, V1(word));
-        store(dst + 2, V2(word));
-        store(dst + 4, V3(word));
-    }
-};
-
-// The top eight bits of each field: field 3 in byte 0, field 2 in byte 1, field 1 in byte 2.
-struct Rgba32 {
-    static constexpr long bytes = 4, bottom = -1;
-    static void put(uint8_t* dst, uint32_t word)
-    {
-        store(dst, (word >> 4 & 0xFF) | (word >> 6 & 0xFF00) | (word >> 8 & 0xFF0000) | 0xFF000000);
-    }
-};
-
-template <class Pixel, bool reversed>
-struct FromRgb10 {
-    static constexpr long src_bytes = 4, dst_bytes = Pixel::bytes;
+    static constexpr long src_bytes = 4, dst_bytes = 6, bottom = 0;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
-        const uint32_t word = load<uint32_t>(src);
-        Pixel::put(dst, reversed ? byte_reverse(word) : word);
+        const uint32_t word = Order::in_order(load<uint32_t>(src));  // six bytes a pixel go one at a time anyhow
+        store(dst, LittleEndian::V1(word));
+        store(dst + 2, LittleEndian::V2(word));
+        store(dst + 4, LittleEndian::V3(word));
     }
+};
+
+template <class Order>
+struct Rgba32 {
+    static constexpr long src_bytes = 4, dst_bytes = 4, bottom = -1;
+    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, Order::tops(load<uint32_t>(src)) | 0xFF000000); }
 };
 
 // A walk down from source line 0, or up from source line `height` + `bottom`.
@@ -71,19 +97,19 @@ struct FromRgb10 {
 // little-endian one if it is clear.
 // DELIBERATE (keeps_start_one_line_below): walking up, the 16-bit forms show source lines `height` to 1 and the
 // 8-bit form `height` - 1 to 0.
-template <class Pixel>
+template <template <class Order> class Form>
 void convert(void* dst, void* src, long width, long height, bool swap, bool flip)
 {
     if (height < 1) return;
     const long line = line_offset(width, 4);
     const bool up = swap == flip;
-    const Frame frame = {dst, line_offset(width, Pixel::bytes),
-                         advance(src, up ? line_offset(height + Pixel::bottom, line) : 0),
+    const Frame frame = {dst, line_offset(width, Form<LittleEndian>::dst_bytes),
+                         advance(src, up ? line_offset(height + Form<LittleEndian>::bottom, line) : 0),
                          up ? line_offset(-1, line) : line};
     if (swap)
-        walk_forward<FromRgb10<Pixel, true>>(frame, width, height);
+        walk_forward<Form<BigEndian>>(frame, width, height);
     else
-        walk_forward<FromRgb10<Pixel, false>>(frame, width, height);
+        walk_forward<Form<LittleEndian>>(frame, width, height);
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ void group_by_words(uint8_t* dst, const uint8_t* src)
 }
 
 // Two groups, one in each half. A sample spans two bytes and begins at bit 0, 2, 4 or 6 of the first; a
-// product with 1, 4, 16 or 64 moves it to the top of 16 bits.
+// product with 1, 4, 16 or 64 moves it to the top of 16 bits, a shift to its place in the word.
 TNTVT_AVX2 void step_avx2(uint8_t* dst, const uint8_t* src)
 {
     const auto half = [](const uint8_t* at) __attribute__((target("avx2")))
@@ -55,11 +55,11 @@ TNTVT_AVX2 void step_avx2(uint8_t* dst, const uint8_t* src)
     const __m256i low_factors = _mm256_broadcastsi128_si256(_mm_setr_epi16(1, 4, 64, 1, 16, 64, 4, 16));
     const __m256i top_places =
         _mm256_broadcastsi128_si256(_mm_setr_epi8(3, 2, -1, -1, 7, 6, -1, -1, 11, 10, -1, -1, 14, 13, -1, -1));
-    const __m256i top_factors = _mm256_broadcastsi128_si256(_mm_setr_epi16(16, 0, 4, 0, 1, 0, 64, 0));
+    const __m256i top_shifts = _mm256_broadcastsi128_si256(_mm_setr_epi32(18, 16, 14, 20));
     const __m256i low = _mm256_srli_epi16(_mm256_mullo_epi16(_mm256_shuffle_epi8(stream, low_places), low_factors), 6);
-    const __m256i top = _mm256_mullo_epi16(_mm256_shuffle_epi8(stream, top_places), top_factors);
+    const __m256i top = _mm256_sllv_epi32(_mm256_shuffle_epi8(stream, top_places), top_shifts);
     const __m256i joined = _mm256_madd_epi16(low, _mm256_set1_epi32(1024 << 16 | 1));
-    const __m256i raised = _mm256_and_si256(_mm256_slli_epi32(top, 14), _mm256_set1_epi32(0x3FF00000));
+    const __m256i raised = _mm256_and_si256(top, _mm256_set1_epi32(0x3FF00000));
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst), _mm256_or_si256(joined, raised));
 }
 

@@ -96,13 +96,13 @@ int tntvt_v210_frame_to_rtp_4175(void* packet, long packetSize, unsigned short* 
     const uint32_t line_bytes = v210_line_of_48(width);
     BitCursor* bits = obtain_bit_cursor();
     restart(bits, frame, advance(frame, packetSize));
-    Stream stream{*seq, timestamp, ssrc, extSeq};
+    Stream stream{load<uint16_t>(seq), timestamp, ssrc, extSeq};
     for (uint32_t y = 0; y < height && width != 0; ++y)
         form_line(bits, frame, frame + y * line_bytes, stream, y + 1, width);
     frame[1] |= 0x80;  // the marker of the last packet
-    *seq = static_cast<uint16_t>(stream.sequence);
-    *outA = 0;
-    *outB = 0;
+    store(seq, static_cast<uint16_t>(stream.sequence));
+    store(outA, uint32_t{0});
+    store(outB, uint32_t{0});
     std::free(bits);
     return 0;
 }

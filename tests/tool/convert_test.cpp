@@ -298,7 +298,7 @@ TEST_F(Convert, planes_in_files_of_their_own)
 std::string little(uint32_t value, int bytes)
 {
     std::string text;
-    for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> (8 * i));
+    for (; bytes > 0; --bytes, value >>= 8) text += static_cast<char>(value);
     return text;
 }
 

@@ -1,14 +1,38 @@
-// When a wide form may stand in for the plain one.
+// How wide a routine may go, and when a wide form may stand in for the plain one.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
-#define TNTVT_AVX2 __attribute__((target("avx2"))) inline
+#define TNTVT_AVX2 __attribute__((target("avx2")))
+#define TNTVT_VBMI __attribute__((target("avx512f,avx512bw,avx512vl,avx512dq,avx512vbmi")))
 
 namespace tintvert {
 
-// One question per call, no state of ours.
-inline bool has_avx2() { return TINTVERT_WIDE && __builtin_cpu_supports("avx2"); }
+// `plain` is the definition; `base` is what every processor of the architecture has.
+enum class Tier { plain, base, avx2, vbmi };
+
+inline Tier tier_of_machine()
+{
+#if !TINTVERT_WIDE
+    return Tier::plain;
+#elif defined(__x86_64__)
+    if (__builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512bw") &&
+        __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq"))
+        return Tier::vbmi;
+    return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::base;
+#else
+    return Tier::base;
+#endif
+}
+
+// Asked once a call; the library keeps no answer. Tests of the forms hold a tier of their own.
+#ifdef TINTVERT_TIER_HELD_BY_TESTS
+extern Tier highest_tier;
+inline Tier tier() { return std::min(highest_tier, tier_of_machine()); }
+#else
+inline Tier tier() { return tier_of_machine(); }
+#endif
 
 // Where two runs of bytes share none, the order of loads and stores cannot show.
 inline bool disjoint(const uint8_t* one, long one_bytes, const uint8_t* other, long other_bytes)

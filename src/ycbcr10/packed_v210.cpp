@@ -40,15 +40,16 @@ void group_by_words(uint8_t* dst, const uint8_t* src)
     store(dst + 12, word(other, 20));
 }
 
+TNTVT_AVX2 inline __m128i load_half(const uint8_t* at)
+{
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+}
+
 // Two groups, one in each half. A sample spans two bytes and begins at bit 0, 2, 4 or 6 of the first; a
 // product with 1, 4, 16 or 64 moves it to the top of 16 bits, a shift to its place in the word.
-TNTVT_AVX2 void step_avx2(uint8_t* dst, const uint8_t* src)
+TNTVT_AVX2 inline void step_avx2(uint8_t* dst, const uint8_t* src)
 {
-    const auto half = [](const uint8_t* at) __attribute__((target("avx2")))
-    {
-        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    };
-    const __m256i stream = _mm256_inserti128_si256(_mm256_castsi128_si256(half(src)), half(src + 15), 1);
+    const __m256i stream = _mm256_inserti128_si256(_mm256_castsi128_si256(load_half(src)), load_half(src + 15), 1);
     // Samples 3k and 3k + 1 of word k, and sample 3k + 2 in the low half of its word.
     const __m256i low_places =
         _mm256_broadcastsi128_si256(_mm_setr_epi8(1, 0, 2, 1, 4, 3, 6, 5, 8, 7, 9, 8, 12, 11, 13, 12));
@@ -64,7 +65,7 @@ TNTVT_AVX2 void step_avx2(uint8_t* dst, const uint8_t* src)
 }
 
 // The second half reads a byte beyond its 15, so the last step leaves a group behind it.
-__attribute__((target("avx2"))) long groups_avx2(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX2 long groups_avx2(uint8_t* dst, const uint8_t* src, long groups)
 {
     long done = 0;
     for (; groups - done > 2; done += 2) step_avx2(dst + done * 16, src + done * 15);
@@ -73,7 +74,7 @@ __attribute__((target("avx2"))) long groups_avx2(uint8_t* dst, const uint8_t* sr
 
 void whole_groups(uint8_t* dst, const uint8_t* src, long groups)
 {
-    long done = has_avx2() ? groups_avx2(dst, src, groups) : 0;
+    long done = tier() >= Tier::avx2 ? groups_avx2(dst, src, groups) : 0;
     for (; done < groups; ++done) group_by_words(dst + done * 16, src + done * 15);
 }
 

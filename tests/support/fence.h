@@ -41,4 +41,7 @@ using Fill = std::function<void(catalog::Arg buffer, uint8_t* pointer, catalog::
 void expect_exact_extents(const catalog::Routine& routine, catalog::Arguments call, const Fill& fill = {},
                           int64_t idle = 0);
 
+// The first half of that: none outside.
+void expect_within_extents(const catalog::Routine& routine, catalog::Arguments call);
+
 }  // namespace tintvert::test

@@ -1,0 +1,28 @@
+// One call at two tiers: the plain form and another must leave the same bytes everywhere.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+#include "catalog.h"
+#include "frame/wide.h"
+#include "support/random.h"
+
+namespace tintvert::test {
+
+// Where the buffers of a call lie.
+struct Placement {
+    int64_t dst = 0, src = 0;  // bytes from an address that 64 divides
+    bool together = false;     // one memory: `src` counts from the destination's pointer
+};
+
+// A call of `routine` over `width` pixels and a few lines, its strides and options at random. False if a
+// careful caller makes no such call.
+bool random_call(Random& random, const catalog::Routine& routine, int64_t width, catalog::Arguments* call);
+
+// Whether `routine` leaves the same bytes at `tier` as in its plain form, all that it should not touch included.
+testing::AssertionResult agrees(const catalog::Routine& routine, const catalog::Arguments& call,
+                                const Placement& placement, Tier tier, uint64_t seed);
+
+}  // namespace tintvert::test

@@ -1,7 +1,8 @@
-// libycbcr beside what a user can put together today: libyuv for 8 bits, libavcodec's v210 decoder followed
-// by libyuv for 10. 1080p frames, one thread.
+// libycbcr, and each of its tiers that the machine has, beside what a user can put together today: libyuv for
+// 8 bits, libavcodec's v210 decoder followed by libyuv for 10. 1080p frames, one thread.
 #include <benchmark/benchmark.h>
 #include <libyuv.h>
+#include <lines.h>
 #include <ycbcr.h>
 
 #include <vector>
@@ -34,11 +35,28 @@ void measure(benchmark::State& state, size_t source_bytes, Work work)
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
+// The frame line by line in one tier.
+template <class FormOfLine>
+void measure_tier(benchmark::State& state, ycbcr::Tier tier, size_t source_bytes, FormOfLine form_of_line)
+{
+    if (!ycbcr::machine_has(tier)) return state.SkipWithError("this machine has no such tier");
+    measure(state, source_bytes, [&](uint8_t* dst, const uint8_t* src) {
+        for (int y = 0; y < height; ++y)
+            ycbcr::line(tier, dst + y * width * 4, form_of_line(src, y), width, ycbcr::bt601);
+    });
+}
+
 void uyvy_ours(benchmark::State& state)
 {
     measure(state, width * height * 2, [](uint8_t* dst, uint8_t* src) {
         cycbcr_uyvy_to_rgb32(dst, src, width, height, width * 4, width * 2, 601, 0);
     });
+}
+
+void uyvy_tier(benchmark::State& state, ycbcr::Tier tier)
+{
+    measure_tier(state, tier, width * height * 2,
+                 [](const uint8_t* src, int y) { return ycbcr::Uyvy{src + y * width * 2}; });
 }
 
 void uyvy_libyuv(benchmark::State& state)
@@ -51,6 +69,14 @@ void i420_ours(benchmark::State& state)
 {
     measure(state, width * height * 3 / 2, [](uint8_t* dst, uint8_t* src) {
         cycbcr_i420_to_rgb32(dst, src, width, height, width * 4, width, 601, 0);
+    });
+}
+
+void i420_tier(benchmark::State& state, ycbcr::Tier tier)
+{
+    measure_tier(state, tier, width * height * 3 / 2, [](const uint8_t* src, int y) {
+        const uint8_t* const cb = src + width * height + y / 2 * (width / 2);
+        return ycbcr::Planar{src + y * width, cb, cb + width * height / 4, width / 2};
     });
 }
 
@@ -70,6 +96,12 @@ void v210_ours(benchmark::State& state)
     measure(state, v210_line * height, [](uint8_t* dst, uint8_t* src) {
         cycbcr_012v_to_rgb32(dst, src, width, height, width * 4, v210_line, 709, 0);
     });
+}
+
+void v210_tier(benchmark::State& state, ycbcr::Tier tier)
+{
+    measure_tier(state, tier, v210_line * height,
+                 [](const uint8_t* src, int y) { return ycbcr::V210{src + y * v210_line}; });
 }
 
 void v210_libavcodec_libyuv(benchmark::State& state)
@@ -100,9 +132,18 @@ void v210_libavcodec_libyuv(benchmark::State& state)
 }  // namespace
 
 BENCHMARK(uyvy_ours);
+BENCHMARK_CAPTURE(uyvy_tier, plain, ycbcr::Tier::plain);
+BENCHMARK_CAPTURE(uyvy_tier, avx2, ycbcr::Tier::avx2);
+BENCHMARK_CAPTURE(uyvy_tier, vbmi, ycbcr::Tier::vbmi);
 BENCHMARK(uyvy_libyuv);
 BENCHMARK(i420_ours);
+BENCHMARK_CAPTURE(i420_tier, plain, ycbcr::Tier::plain);
+BENCHMARK_CAPTURE(i420_tier, avx2, ycbcr::Tier::avx2);
+BENCHMARK_CAPTURE(i420_tier, vbmi, ycbcr::Tier::vbmi);
 BENCHMARK(i420_libyuv);
 BENCHMARK(v210_ours);
+BENCHMARK_CAPTURE(v210_tier, plain, ycbcr::Tier::plain);
+BENCHMARK_CAPTURE(v210_tier, avx2, ycbcr::Tier::avx2);
+BENCHMARK_CAPTURE(v210_tier, vbmi, ycbcr::Tier::vbmi);
 BENCHMARK(v210_libavcodec_libyuv);
 BENCHMARK_MAIN();

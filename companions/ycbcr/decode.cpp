@@ -1,6 +1,6 @@
 #include "ycbcr.h"
 
-#include "forms.h"
+#include "lines.h"
 
 namespace {
 
@@ -30,15 +30,11 @@ template <class LineOf>
 int decode(const Picture& picture, LineOf form_of_line)
 {
     const Weights& w = weights_of(picture.matrix);
-    const bool wide = TINTVERT_WIDE && __builtin_cpu_supports("avx2");
-    for (long line = 0; line < picture.lines; ++line) {
-        const long place = (picture.flags & CYCBCR_BOTTOM_UP) != 0 ? picture.lines - 1 - line : line;
+    const Tier tier = TINTVERT_WIDE ? best_tier() : Tier::plain;
+    for (long y = 0; y < picture.lines; ++y) {
+        const long place = (picture.flags & CYCBCR_BOTTOM_UP) != 0 ? picture.lines - 1 - y : y;
         uint8_t* dst = picture.dst + place * picture.dst_stride;
-        const auto src = form_of_line(line);
-        if (wide)
-            line_avx2(dst, src, picture.width, w);
-        else
-            line_plain(dst, src, 0, picture.width, w);
+        line(tier, dst, form_of_line(y), picture.width, w);
     }
     return 0;
 }

@@ -1,6 +1,6 @@
 // The three source forms: where the samples of a line stand. `pixel` is the definition; `step` converts
-// `step_pixels` of them at once to the same bytes, as far as `sampled` says that every pixel has chroma of
-// its own.
+// `step_pixels` of them at once to the same bytes, and `operands` loads up to `step_pixels_512`, as far as
+// `sampled` says that every pixel has chroma of its own.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,11 @@
 
 #include "avx2.h"
 #include "matrix.h"
+#include "vbmi.h"
 
 namespace ycbcr {
+
+YCBCR_AVX2 __m128i load_8(const uint8_t* address) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(address)); }
 
 YCBCR_AVX2 __m256i load_32(const uint8_t* address)
 {
@@ -32,7 +35,14 @@ struct Uyvy {
     {
         const __m256i words = load_32(line + x * 2);  // luma in the high byte, chroma in the low
         const __m256i luma = _mm256_and_si256(words, _mm256_set1_epi16(-256));
-        store_16(dst + x * 4, convert(w, luma, centred(_mm256_slli_epi16(words, 8))));
+        store_16(dst, convert(w, luma, centred(_mm256_slli_epi16(words, 8))));
+    }
+
+    static constexpr int step_pixels_512 = 32;
+    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    {
+        const __m512i words = load_bytes(line + x * 2, (pixels + 1) / 2 * 4);
+        return {_mm512_and_si512(words, _mm512_set1_epi16(-256)), centred(_mm512_slli_epi16(words, 8))};
     }
 };
 
@@ -78,11 +88,17 @@ struct V210 {
         const __m256i chroma = fields(words, _mm_setr_epi8(0, 1, 2, 3, 5, 6, 8, 9, 10, 11, 13, 14, -1, -1, -1, -1),
                                       _mm_setr_epi16(64, 4, 16, 64, 4, 16, 0, 0));
         const WidePixels p = convert(w, luma, centred(chroma));
-        uint8_t* out = dst + x * 4;
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(p.low));
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_castsi256_si128(p.high));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 24), _mm256_extracti128_si256(p.low, 1));
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 40), _mm256_extracti128_si256(p.high, 1));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(dst), _mm256_castsi256_si128(p.low));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + 16), _mm256_castsi256_si128(p.high));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(dst + 24), _mm256_extracti128_si256(p.low, 1));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + 40), _mm256_extracti128_si256(p.high, 1));
+    }
+
+    static constexpr int step_pixels_512 = 24;
+    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    {
+        const __m512i groups = load_bytes(line + x / 6 * 16, (pixels + 5) / 6 * 16);
+        return {to_words(luma_samples, groups), centred(to_words(chroma_samples, groups))};
     }
 };
 
@@ -103,28 +119,21 @@ struct Planar {
     static constexpr int step_pixels = 16;
     YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
     {
-        const auto eight = [&](const uint8_t* plane) { return reinterpret_cast<const __m128i*>(plane + x / 2); };
         const __m128i luma = _mm_loadu_si128(reinterpret_cast<const __m128i*>(y + x));
-        const __m128i pairs = _mm_unpacklo_epi8(_mm_loadl_epi64(eight(cb)), _mm_loadl_epi64(eight(cr)));
-        store_16(dst + x * 4, convert(w, _mm256_slli_epi16(_mm256_cvtepu8_epi16(luma), 8),
-                                      centred(_mm256_slli_epi16(_mm256_cvtepu8_epi16(pairs), 8))));
+        const __m128i pairs = _mm_unpacklo_epi8(load_8(cb + x / 2), load_8(cr + x / 2));
+        store_16(dst, convert(w, _mm256_slli_epi16(_mm256_cvtepu8_epi16(luma), 8),
+                              centred(_mm256_slli_epi16(_mm256_cvtepu8_epi16(pairs), 8))));
+    }
+
+    static constexpr int step_pixels_512 = 32;
+    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    {
+        const auto pairs = static_cast<__mmask16>(~0U >> (32 - pixels / 2));
+        const __m128i first = _mm_maskz_loadu_epi8(pairs, cb + x / 2), second = _mm_maskz_loadu_epi8(pairs, cr + x / 2);
+        const __m512i chroma = _mm512_castsi256_si512(_mm256_set_m128i(second, first));
+        return {to_upper_halves(bytes_to_words, load_bytes(y + x, pixels)),
+                centred(to_upper_halves(two_rows_to_words, chroma))};
     }
 };
-
-template <class Form>
-void line_plain(uint8_t* dst, const Form& src, int from, int width, const Weights& w)
-{
-    for (int x = from; x < width; ++x) src.pixel(dst + static_cast<long>(x) * 4, x, w);
-}
-
-template <class Form>
-__attribute__((target("avx2"))) void line_avx2(uint8_t* dst, const Form& src, int width, const Weights& w)
-{
-    const WideWeights wide = widen(w);
-    int x = 0;
-    const int sampled = src.sampled(width);
-    for (; sampled - x >= Form::step_pixels; x += Form::step_pixels) src.step(dst, x, wide);
-    line_plain(dst, src, x, width, w);
-}
 
 }  // namespace ycbcr

@@ -26,6 +26,9 @@ extern "C" {
  * the whole groups that its pixels lie in and no more: four bytes for two pixels of `uyvy`, 16 bytes for
  * six pixels of `v210`. `src` and `dst` do not overlap. All return 0 and may run on any number of threads.
  *
+ * Each call takes the widest form that the processor has: plain, AVX2, or AVX-512 (F, BW, VL, DQ and VBMI).
+ * All write the same bytes.
+ *
  * uyvy: Cb, Y0, Cr, Y1.
  * 012v: v210, six pixels in four little-endian words.
  * i420 and yv12: `srcStride` is the distance of two luma lines. With n = `srcStride` x |`height`| the first

@@ -8,7 +8,6 @@
 
 #include "support/fence.h"
 #include "support/random.h"
-#include "ycbcr/forms.h"
 
 namespace tintvert::test {
 namespace {
@@ -198,47 +197,6 @@ TEST(Cycbcr, stays_in_its_lines)
                 })) << width;
             }
         }
-    }
-}
-
-// The wide form against the plain one at every length and start; and a wrong step is told apart.
-template <class Form>
-struct WrongStep : Form {
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const ycbcr::WideWeights& w) const
-    {
-        Form::step(dst, x, w);
-        dst[x * 4 + 4 * (Form::step_pixels - 1)] ^= 1;
-    }
-};
-
-template <class Form>
-bool wide_equals_plain(const Form& form, int width, const ycbcr::Weights& w)
-{
-    std::vector<uint8_t> plain(static_cast<size_t>(width) * 4 + 8, 0xEE), wide(plain);
-    ycbcr::line_plain(plain.data() + 4, form, 0, width, w);
-    ycbcr::line_avx2(wide.data() + 4, form, width, w);
-    return plain == wide;
-}
-
-TEST(Cycbcr, wide_equals_plain_at_every_length)
-{
-    if (!__builtin_cpu_supports("avx2")) GTEST_SKIP() << "no AVX2 on this machine";
-    Random random(8);
-    for (const Matrix& matrix : matrices) {
-        const ycbcr::Weights& w = ycbcr::weights_of(matrix.selector);
-        for (int width = 0; width <= 300; ++width) {
-            for (size_t skew = 0; skew < 64; skew += 7) {
-                const std::vector<uint8_t> src = random.bytes(1200);
-                const uint8_t* const at = src.data() + skew;
-                EXPECT_TRUE(wide_equals_plain(ycbcr::Uyvy{at}, width, w));
-                EXPECT_TRUE(wide_equals_plain(ycbcr::V210{at}, width, w));
-                EXPECT_TRUE(wide_equals_plain(ycbcr::Planar{at, at + 400, at + 700, width / 2}, width, w));
-            }
-        }
-        const std::vector<uint8_t> src = random.bytes(1200);
-        EXPECT_FALSE(wide_equals_plain(WrongStep<ycbcr::Uyvy>{{src.data()}}, 16, w));
-        EXPECT_FALSE(wide_equals_plain(WrongStep<ycbcr::V210>{{src.data()}}, 12, w));
-        EXPECT_FALSE(wide_equals_plain(WrongStep<ycbcr::Planar>{{src.data(), src.data(), src.data(), 8}}, 16, w));
     }
 }
 

@@ -1,54 +1,58 @@
-// Every routine of the catalogue over a 1080p frame and over a slice of sixteen lines, beside memcpy of the
-// same bytes in the same run.
+// Every routine of the catalogue at every tier of the machine, over a 1080p frame and over a slice of sixteen
+// lines, beside memcpy of the same bytes and beside the peers, in one run.
 #include <benchmark/benchmark.h>
-#include <fmt/format.h>
 
-#include <algorithm>
+#include <CLI/CLI.hpp>
+#include <cstdio>
 #include <cstring>
-#include <map>
+#include <ctime>
+#include <fstream>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "catalog.h"
-#include "geometry.h"
+#include "frame/wide.h"
+#include "measured.h"
+#include "peers/peers.h"
+#include "table.h"
 
-using namespace tintvert::catalog;
+namespace tintvert {
+Tier highest_tier = Tier::vbmi;
+}
+
+using namespace tintvert;
+using namespace tintvert::bench;
 
 namespace {
 
-struct Size {
+constexpr struct {
     const char* name;
-    int64_t width, height;
-};
-constexpr Size sizes[] = {{"slice", 1920, 16}, {"frame", 1920, 1080}};
+    Tier tier;
+} tiers[] = {{"plain", Tier::plain}, {"base", Tier::base}, {"avx2", Tier::avx2}, {"vbmi", Tier::vbmi}};
 
-// The buffers of one call, filled with a pattern that has every byte value.
-struct Prepared {
-    Arguments call;
-    std::vector<std::vector<uint8_t>> buffers;
-    int64_t moved = 0;  // bytes read and written
-
-    Prepared(const Routine& routine, const Size& size) : call(plain_call(routine, {size.width, size.height}))
-    {
-        for (const Touch& touch : routine.extents(call)) {
-            const Range read = touch.read, written = touch.written;
-            const int64_t begin = std::min({int64_t{0}, read.begin, written.begin});
-            const int64_t end = std::max({int64_t{0}, read.end, written.end});
-            auto& buffer = buffers.emplace_back(static_cast<size_t>(end - begin));
-            for (size_t i = 0; i < buffer.size(); ++i) buffer[i] = static_cast<uint8_t>(i * 167 >> 3);
-            call[touch.buffer] = reinterpret_cast<int64_t>(buffer.data() - begin);
-            if (!read.empty()) moved += read.end - read.begin;
-            if (!written.empty()) moved += written.end - written.begin;
-        }
-    }
-};
-
-void run_routine(benchmark::State& state, const Routine& routine, const Size& size)
+// The processor's own name for itself.
+std::string machine()
 {
-    Prepared prepared(routine, size);
+    std::ifstream file("/proc/cpuinfo");
+    for (std::string line; std::getline(file, line);)
+        if (line.starts_with("model name")) return line.substr(line.find(": ") + 2);
+    return "an unnamed processor";
+}
+
+std::string today()
+{
+    char text[16];
+    const std::time_t now = std::time(nullptr);
+    std::strftime(text, sizeof text, "%Y-%m-%d", std::gmtime(&now));
+    return text;
+}
+
+template <class Work>
+void repeat(benchmark::State& state, Work work)
+{
     for (auto _ : state) {
-        routine.call(prepared.call);
+        work();
         benchmark::ClobberMemory();
     }
 }
@@ -56,60 +60,76 @@ void run_routine(benchmark::State& state, const Routine& routine, const Size& si
 void run_memcpy(benchmark::State& state, int64_t moved)
 {
     std::vector<uint8_t> from(static_cast<size_t>(moved / 2), 1), to(from.size());
-    for (auto _ : state) {
-        std::memcpy(to.data(), from.data(), from.size());
-        benchmark::ClobberMemory();
-    }
+    repeat(state, [&] { std::memcpy(to.data(), from.data(), from.size()); });
 }
 
-// One row a routine: median ns a pixel, and the ratio to memcpy, for each size.
-class Table : public benchmark::BenchmarkReporter {
-public:
-    bool ReportContext(const Context&) override { return true; }
+void run_tier(benchmark::State& state, const catalog::Routine* routine, const Size* size, Tier tier)
+{
+    const Measured measured(*routine, *size);
+    highest_tier = tier;
+    repeat(state, [&] { routine->call(measured.call); });
+}
 
+void run_peer(benchmark::State& state, const catalog::Routine* routine, const Size* size, size_t index)
+{
+    const Measured measured(*routine, *size);
+    const Peer peer = peers_of(*routine, measured)[index];
+    repeat(state, peer.work);
+}
+
+void add(const catalog::Routine& routine, const Size& size)
+{
+    const Measured measured(routine, size);
+    if (measured.moved == 0) return;
+    const std::string prefix = std::string{routine.name} + '@' + size.name + '@';
+    benchmark::RegisterBenchmark((prefix + "memcpy").c_str(), run_memcpy, measured.moved);
+    for (const auto& [name, tier] : tiers)
+        if (tier <= tier_of_machine())
+            benchmark::RegisterBenchmark((prefix + name).c_str(), run_tier, &routine, &size, tier);
+    const std::vector<Peer> peers = peers_of(routine, measured);
+    for (size_t i = 0; i < peers.size(); ++i)
+        benchmark::RegisterBenchmark((prefix + peers[i].name).c_str(), run_peer, &routine, &size, i);
+}
+
+class Collected : public benchmark::BenchmarkReporter {
+public:
+    Medians medians;
+
+    bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& run : runs)
-            if (run.aggregate_name == "median") medians_[run.run_name.function_name] = run.GetAdjustedRealTime();
+            if (run.aggregate_name == "median") medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
     }
-
-    void Finalize() override
-    {
-        fmt::print("{:34}", "routine");
-        for (const Size& size : sizes) fmt::print("{:>12} ns/px {:>9}", size.name, "x memcpy");
-        fmt::print("\n");
-        for (const Routine& routine : routines()) {
-            const std::string name{routine.name};
-            if (!medians_.contains(name + '@' + sizes[0].name)) continue;
-            fmt::print("{:34}", name);
-            for (const Size& size : sizes) {
-                const std::string key = name + '@' + size.name;
-                const double ns = medians_.at(key), copy = medians_.at(key + "@memcpy");
-                fmt::print("{:18.3f} {:9.2f}", ns / static_cast<double>(size.width * size.height), ns / copy);
-            }
-            fmt::print("\n");
-        }
-    }
-
-private:
-    std::map<std::string, double> medians_;
 };
+
+void write(const std::string& path, const std::string& text)
+{
+    std::ofstream file(path);
+    file << text;
+    if (!file.flush()) throw std::runtime_error("cannot write " + path);
+}
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-    for (const Routine& routine : routines()) {
-        for (const Size& size : sizes) {
-            const int64_t moved = Prepared(routine, size).moved;
-            if (moved == 0) continue;
-            const std::string name = std::string{routine.name} + '@' + size.name;
-            benchmark::RegisterBenchmark(name.c_str(), run_routine, routine, size);
-            benchmark::RegisterBenchmark((name + "@memcpy").c_str(), run_memcpy, moved);
-        }
+    CLI::App app{"Measures the routines of libtintvert."};
+    bool json = false;
+    std::string docs;
+    app.add_flag("--json", json, "Print JSON");
+    app.add_option("--docs", docs, "Write performance.md and performance.dat to this folder");
+    CLI11_PARSE(app, argc, argv);
+
+    for (const catalog::Routine& routine : catalog::routines())
+        for (const Size& size : sizes) add(routine, size);
+    Collected collected;
+    benchmark::RunSpecifiedBenchmarks(&collected);
+    const std::vector<Row> rows = rows_of(collected.medians);
+    if (!docs.empty()) {
+        write(docs + "/performance.md", as_markdown(rows, machine(), today()));
+        write(docs + "/performance.dat", as_plot_data(rows));
     }
-    Table table;
-    benchmark::RunSpecifiedBenchmarks(&table);
+    std::cout << (json ? as_json(rows, machine()) : as_text(rows));
 }

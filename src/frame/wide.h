@@ -26,8 +26,8 @@ inline Tier tier_of_machine()
 #endif
 }
 
-// Asked once a call; the library keeps no answer. Tests of the forms hold a tier of their own.
-#ifdef TINTVERT_TIER_HELD_BY_TESTS
+// Asked once a call; the library keeps no answer. Tests and benchmarks of the forms hold a tier of their own.
+#ifdef TINTVERT_TIER_HELD_BY_PROGRAM
 extern Tier highest_tier;
 inline Tier tier() { return std::min(highest_tier, tier_of_machine()); }
 #else

@@ -1,0 +1,131 @@
+#include "table.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+namespace tintvert::bench {
+namespace {
+
+constexpr size_t frame = std::size(sizes) - 1;
+constexpr std::string_view tiers[] = {"plain", "base", "avx2", "vbmi"};
+
+double find(const Medians& medians, const std::string& name)
+{
+    const auto found = medians.find(name);
+    return found == medians.end() ? 0 : found->second;
+}
+
+// The quickest of the names that begin with `prefix` and are no measurement of ours.
+std::string quickest_peer(const Medians& medians, const std::string& prefix)
+{
+    std::string quickest;
+    double least = 0;
+    for (auto it = medians.lower_bound(prefix); it != medians.end() && it->first.starts_with(prefix); ++it) {
+        const std::string name = it->first.substr(prefix.size());
+        if (name == "memcpy" || std::ranges::find(tiers, name) != std::end(tiers)) continue;
+        if (least == 0 || it->second < least) {
+            least = it->second;
+            quickest = name;
+        }
+    }
+    return quickest;
+}
+
+std::string ratio(double value) { return value == 0 ? "-" : fmt::format("{:.2f}", value); }
+
+}  // namespace
+
+std::vector<Row> rows_of(const Medians& medians)
+{
+    std::vector<Row> rows;
+    for (const catalog::Routine& routine : catalog::routines()) {
+        const std::string at_frame = fmt::format("{}@{}@", routine.name, sizes[frame].name);
+        const std::string peer = quickest_peer(medians, at_frame);
+        for (const std::string_view tier : tiers) {
+            if (find(medians, at_frame + std::string{tier}) == 0) continue;
+            Row row{std::string{routine.name}, std::string{tier}, {}, {}, {}, peer};
+            for (size_t i = 0; i < std::size(sizes); ++i) {
+                const std::string at = fmt::format("{}@{}@", routine.name, sizes[i].name);
+                const double ns = find(medians, at + row.tier), copy = find(medians, at + "memcpy"),
+                             other = peer.empty() ? 0 : find(medians, at + peer);
+                row.ns[i] = ns / static_cast<double>(sizes[i].width * sizes[i].height);
+                row.of_memcpy[i] = ns / copy;
+                if (other != 0) row.of_peer[i] = ns / other;
+            }
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
+std::string as_text(const std::vector<Row>& rows)
+{
+    std::string text = fmt::format("{:32} {:6}", "routine", "tier");
+    for (const Size& size : sizes) text += fmt::format("{:>7} ns/px  x memcpy  x peer", size.name);
+    text += "   peer\n";
+    for (const Row& row : rows) {
+        text += fmt::format("{:32} {:6}", row.routine, row.tier);
+        for (size_t i = 0; i < std::size(sizes); ++i)
+            text += fmt::format("{:13.3f} {:>9} {:>7}", row.ns[i], ratio(row.of_memcpy[i]), ratio(row.of_peer[i]));
+        text += fmt::format("   {}\n", row.peer);
+    }
+    return text;
+}
+
+std::string as_json(const std::vector<Row>& rows, std::string_view machine)
+{
+    nlohmann::json json = {{"schema", 1}, {"machine", machine}, {"rows", nlohmann::json::array()}};
+    for (const Row& row : rows) {
+        nlohmann::json entry = {{"routine", row.routine}, {"tier", row.tier}};
+        if (!row.peer.empty()) entry["peer"] = row.peer;
+        for (size_t i = 0; i < std::size(sizes); ++i) {
+            nlohmann::json& size = entry[sizes[i].name];
+            size = {{"ns_per_pixel", row.ns[i]}, {"of_memcpy", row.of_memcpy[i]}};
+            if (row.of_peer[i] != 0) size["of_peer"] = row.of_peer[i];
+        }
+        json["rows"].push_back(entry);
+    }
+    return json.dump(2) + "\n";
+}
+
+std::string as_markdown(const std::vector<Row>& rows, std::string_view machine, std::string_view date)
+{
+    std::string text = fmt::format(
+        "# Performance\n\n"
+        "`scripts/bench --docs` measures and writes this page. Measured on {}, {}, one thread.\n\n"
+        "Nanoseconds a pixel, medians, everything interleaved in one run. \"x memcpy\" is the time divided by that of\n"
+        "memcpy for the same bytes read and written, \"x peer\" that divided by the time of the quickest peer at "
+        "hand;\n"
+        "below 1 the routine is ahead. `slice` is 1920x16 again and again, which the second-level cache holds, and\n"
+        "`frame` 1920x1080. The tiers are the plain form, what every x86-64 has (base), AVX2, and AVX-512 with VBMI;\n"
+        "where a routine has no wide form of a tier, the next lower one runs and the row shows it again. A peer may "
+        "do\n"
+        "less or round otherwise; [peers.md](peers.md) says which bytes agree.\n\n"
+        "![The widest tier and the plain form beside memcpy](performance.svg)\n\n"
+        "| routine | tier | slice ns/px | x memcpy | x peer | frame ns/px | x memcpy | x peer | peer |\n"
+        "|---|---|--:|--:|--:|--:|--:|--:|---|\n",
+        date, machine);
+    for (const Row& row : rows) {
+        text += fmt::format("| {} | {} ", row.tier == "plain" ? row.routine : "", row.tier);
+        for (size_t i = 0; i < std::size(sizes); ++i)
+            text += fmt::format("| {:.3f} | {} | {} ", row.ns[i], ratio(row.of_memcpy[i]), ratio(row.of_peer[i]));
+        text += fmt::format("| {} |\n", row.tier == "plain" ? row.peer : "");
+    }
+    return text;
+}
+
+std::string as_plot_data(const std::vector<Row>& rows)
+{
+    std::string text;
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const bool last = i + 1 == rows.size() || rows[i + 1].routine != rows[i].routine;
+        if (rows[i].tier == "plain") text += fmt::format("{} {:.3f}", rows[i].routine, rows[i].of_memcpy[frame]);
+        if (last) text += fmt::format(" {:.3f}\n", rows[i].of_memcpy[frame]);
+    }
+    return text;
+}
+
+}  // namespace tintvert::bench

@@ -15,12 +15,10 @@ endfunction()
 tintvert_install_library(tintvert tintvert include)
 
 # The companions' headers keep to a folder of their own, for their names are short. They are installed with a
-# site's own companions too: they say what libtintvert calls.
+# site's own companions too: they say what libtintvert calls. Of the site's libraries only the places are noted.
 foreach(companion zkutil kmrutil ycbcr)
+  install(TARGETS ${companion} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(FILES companions/${companion}/${companion}.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tintvert/companions)
-  if(TINTVERT_COMPANIONS STREQUAL "OWN")
-    install(TARGETS ${companion} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-  endif()
 endforeach()
 if(TINTVERT_COMPANIONS STREQUAL "SYSTEM")
   set_target_properties(tintvert PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)

@@ -53,6 +53,22 @@ by_pkg_config() {
   run_all "$work/pc" "$work/pc/own"
 }
 
+# The lines of docs/installing.md, with the README's program as app.cpp.
+by_the_docs() {
+  local fence='^```'
+  rm -rf "$work/docs"
+  mkdir "$work/docs"
+  cp "$project/examples/readme.cpp" "$work/docs/app.cpp"
+  sed -n "/${fence}cmake/,/$fence\$/{/$fence/!p}" "$project/docs/installing.md" >"$work/docs/CMakeLists.txt"
+  cmake -S "$work/docs" -B "$work/docs/build" -G Ninja -DCMAKE_PREFIX_PATH="$1" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
+  cmake --build "$work/docs/build" >/dev/null
+  expect '99 81 211 81' "$work/docs/build/app"
+  sed -n "/^By pkg-config/,/$fence\$/{/^By\|$fence/!p}" "$project/docs/installing.md" |
+    sed "s|/opt/tintvert|$1|g; s|g++|$cxx|" >"$work/docs/by_pkg_config"
+  (cd "$work/docs" && bash -e ./by_pkg_config)
+  expect '99 81 211 81' "$work/docs/app"
+}
+
 # Another major version is refused, in both ways.
 other_versions() {
   mkdir -p "$work/version"
@@ -97,6 +113,7 @@ for place in "$tree" "$work/moved"; do
   looks "$place"
   by_find_package "$place"
   by_pkg_config "$place"
+  by_the_docs "$place"
   other_versions "$place"
 done
 echo 'outside: built and run by find_package and pkg-config, in two places'

@@ -20,9 +20,6 @@ foreach(companion zkutil kmrutil ycbcr)
   install(TARGETS ${companion} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(FILES companions/${companion}/${companion}.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tintvert/companions)
 endforeach()
-if(TINTVERT_COMPANIONS STREQUAL "SYSTEM")
-  set_target_properties(tintvert PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
-endif()
 
 install(EXPORT tintvert_targets NAMESPACE tintvert:: DESTINATION ${package_dir} FILE tintvertTargets.cmake)
 configure_package_config_file(cmake/tintvertConfig.cmake.in tintvertConfig.cmake INSTALL_DESTINATION ${package_dir}

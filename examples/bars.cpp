@@ -13,8 +13,8 @@ int main(int argc, char** argv)
         return 2;
     }
     const size_t pixels = static_cast<size_t>(width), lines = static_cast<size_t>(height);
-    const size_t pair_bytes = pixels * 2;                 // 2vuy: four bytes for two pixels
-    const size_t group_bytes = (pixels + 47) / 48 * 128;  // v210: 128 bytes for each 48 pixels of a line
+    const size_t line_2vuy = pixels * 2;                // 2vuy: four bytes for two pixels
+    const size_t line_v210 = (pixels + 47) / 48 * 128;  // v210: 128 bytes for each 48 pixels of a line
 
     // One line: white, yellow, cyan, green, magenta, red, blue, black; bytes B, G, R, unused. A pair is always
     // read whole, so an odd width needs one pixel more.
@@ -28,11 +28,11 @@ int main(int argc, char** argv)
 
     // The line, once for every line of the frame. The last group of a line is read whole: 12 bytes behind the
     // frame belong to the buffer.
-    std::vector<unsigned char> bytes(pair_bytes * lines + 12);
-    for (size_t y = 0; y < lines; ++y) bgra_to_2vuy(rgb.data(), &bytes[y * pair_bytes], width);
+    std::vector<unsigned char> bytes(line_2vuy * lines + 12);
+    for (size_t y = 0; y < lines; ++y) bgra_to_2vuy(rgb.data(), &bytes[y * line_2vuy], width);
 
-    std::vector<unsigned char> frame(group_bytes * lines);
+    std::vector<unsigned char> frame(line_v210 * lines);
     tntvt_2vuy_v210(frame.data(), bytes.data(), static_cast<unsigned>(width), static_cast<unsigned>(height),
-                    static_cast<unsigned>(group_bytes));
+                    static_cast<unsigned>(line_v210));
     return std::fwrite(frame.data(), 1, frame.size(), stdout) == frame.size() ? 0 : 1;
 }

@@ -34,6 +34,7 @@ done
 options=(-DCMAKE_BUILD_TYPE=Release -DTINTVERT_TOOL=OFF -DTINTVERT_COMPANIONS=SYSTEM -DCMAKE_C_COMPILER="$cc"
   -DCMAKE_CXX_COMPILER="$cxx")
 refuse cmake -S "$project" -B "$work/build" -G Ninja "${options[@]}"
+refuse cmake -S "$project" -B "$work/build" --fresh -G Ninja -DTINTVERT_TOOL=OFF -DTINTVERT_COMPANIONS=MINE
 cmake -S "$project" -B "$work/build" --fresh -G Ninja "${options[@]}" -DCMAKE_PREFIX_PATH="$work/site" >/dev/null
 cmake --build "$work/build" >/dev/null
 cmake --install "$work/build" --prefix "$work/theirs" >/dev/null

@@ -1,0 +1,44 @@
+# What `cmake --install` lays down. Everything finds everything else by relative paths, so the tree may be
+# moved as a whole.
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tintvert)
+
+# A library with its public headers: tintvert_install_library(tintvert_checked checked checked) would install
+# the target as tintvert::checked with the headers of the folder checked/.
+function(tintvert_install_library target name headers)
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} INSTALL_RPATH "$ORIGIN")
+  install(TARGETS ${target} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(DIRECTORY ${headers}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+endfunction()
+
+tintvert_install_library(tintvert tintvert include)
+
+# The companions' headers keep to a folder of their own, for their names are short. They are installed with a
+# site's own companions too: they say what libtintvert calls. Of the site's libraries only the places are noted.
+foreach(companion zkutil kmrutil ycbcr)
+  install(TARGETS ${companion} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(FILES companions/${companion}/${companion}.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tintvert/companions)
+endforeach()
+
+install(EXPORT tintvert_targets NAMESPACE tintvert:: DESTINATION ${package_dir} FILE tintvertTargets.cmake)
+configure_package_config_file(cmake/tintvertConfig.cmake.in tintvertConfig.cmake INSTALL_DESTINATION ${package_dir}
+  NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(tintvertConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/tintvertConfig.cmake ${PROJECT_BINARY_DIR}/tintvertConfigVersion.cmake
+  DESTINATION ${package_dir})
+
+# The .pc file counts its prefix from the folder that it lies in.
+file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" to_prefix ${to_prefix})
+configure_file(cmake/tintvert.pc.in tintvert.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/tintvert.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+if(TINTVERT_TOOL)
+  file(RELATIVE_PATH to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(tintvert_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
+  install(TARGETS tintvert_tool)
+endif()
+
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR})

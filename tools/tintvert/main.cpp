@@ -30,10 +30,19 @@ std::string complaint(const CLI::ParseError& error, int argc, char** argv, const
     return fmt::format("there is no command '{}'{}", argv[1], suggestion(argv[1], candidates));
 }
 
+std::string version_text()
+{
+#ifdef TINTVERT_LIBAVFORMAT
+    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: read, by libavformat";
+#else
+    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: not read, built without libavformat";
+#endif
+}
+
 Exit run(int argc, char** argv)
 {
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
-    tool.set_version_flag("--version", "tintvert " TINTVERT_VERSION);
+    tool.set_version_flag("--version", version_text());
     tool.require_subcommand(1);
     const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool),  add_layouts(tool),
                                            add_list(tool),    add_show(tool),    add_st2084(tool)};

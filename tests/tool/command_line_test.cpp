@@ -49,6 +49,13 @@ TEST(CommandLine, suggests_the_nearest_name)
     expect_suggestion({"show", "tntvt_yuv422_rgb23"}, "tntvt_yuv422_rgb24");
 }
 
+TEST(CommandLine, suggests_the_nearest_option)
+{
+    expect_suggestion({"convert", "--frm", "v210"}, "--from");
+    expect_suggestion({"convert", "--frames", "2", "--szie=8x4"}, "--size");
+    expect_suggestion({"list", "--jsn"}, "--json");
+}
+
 TEST(CommandLine, suggests_nothing_far_fetched)
 {
     const Result result = run({"show", "photograph"});

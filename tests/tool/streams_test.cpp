@@ -280,6 +280,54 @@ TEST_F(Streams, progress_stays_off_files)
     EXPECT_EQ(run({"convert", "tntvt_2vuy_v210", path("in.2vuy"), path("out"), "-s", "8x4"}).err, "");
 }
 
+// On a terminal a bar tells frames, frames a second and the time left; not for --quiet.
+TEST_F(Streams, progress_on_a_terminal)
+{
+    save("in.2vuy", noise(14, 64 * 20));
+    const auto shown = [&](const std::string& more) {
+        const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+        EXPECT_EQ(grantpt(terminal), 0);
+        EXPECT_EQ(unlockpt(terminal), 0);
+        const int side = open(ptsname(terminal), O_RDWR | O_NOCTTY);
+        std::vector<std::string> words{"convert", "tntvt_2vuy_v210", path("in.2vuy"), path("out"), "-s", "8x4"};
+        if (!more.empty()) words.push_back(more);
+        EXPECT_EQ(run(words, [&] { dup2(side, STDERR_FILENO); }).code, 0);
+        EXPECT_EQ(write(side, "!", 1), 1);
+        char text[4096];
+        std::string all;
+        while (!all.ends_with('!')) {
+            const ssize_t got = read(terminal, text, sizeof text);
+            if (got < 1) break;
+            all.append(text, static_cast<size_t>(got));
+        }
+        close(side);
+        close(terminal);
+        return all;
+    };
+    const std::string bar = shown("");
+    EXPECT_NE(bar.find("[########################################] 20/20 frames"), std::string::npos) << bar;
+    EXPECT_NE(bar.find(" fps "), std::string::npos);
+    EXPECT_NE(bar.find(" s left"), std::string::npos);
+    EXPECT_EQ(shown("--quiet"), "!");
+}
+
+// An interrupted conversion leaves no file.
+TEST_F(Streams, interrupted)
+{
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    Process process({"convert", "--from", "2vuy", "--to", "v210", "-", path("out"), "-s", "8x4", "-q"},
+                    [&] { dup2(ends[0], STDIN_FILENO); });
+    const std::string frame = noise(15, 64);
+    ASSERT_EQ(write(ends[1], frame.data(), frame.size()), 64);
+    while (files_in("").empty()) usleep(1000);  // the unfinished file
+    kill(process.pid(), SIGINT);
+    EXPECT_EQ(process.wait().code, 130);
+    EXPECT_EQ(files_in(""), std::set<std::string>());
+    close(ends[0]);
+    close(ends[1]);
+}
+
 TEST_F(Streams, pictures_of_8_and_16_bits_come_back)
 {
     for (const unsigned highest : {255u, 65535u}) {

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "support/random.h"
+#include "tool/noise.h"
 #include "tool/packet_maker.h"
 #include "tool/png_maker.h"
 #include "tool/run.h"
@@ -35,12 +35,6 @@ std::vector<Example> examples_in(const std::string& page)
         }
     }
     return examples;
-}
-
-std::string noise(uint64_t seed, size_t count)
-{
-    const auto bytes = Random(seed).bytes(count);
-    return {bytes.begin(), bytes.end()};
 }
 
 std::string run_length_coded_bmp()

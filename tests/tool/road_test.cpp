@@ -5,6 +5,7 @@
 #include "catalog.h"
 #include "layouts.h"
 #include "support/random.h"
+#include "tool/noise.h"
 #include "tool/pam.h"
 #include "tool/run.h"
 
@@ -201,8 +202,7 @@ TEST_F(Road, without_loss_comes_back)
             const auto x = text.find('x');
             const auto bytes =
                 catalog::frame_bytes(*catalog::find_layout(from), std::stoi(text), std::stoi(text.substr(x + 1)));
-            const auto noise = Random(bytes).bytes(static_cast<size_t>(bytes) * 2);
-            save("in.raw", {noise.begin(), noise.end()});
+            save("in.raw", noise(1, static_cast<size_t>(bytes) * 2));
             const auto go = [&](const std::string& a, const std::string& b, const char* in, const char* out) {
                 const Result result =
                     run({"convert", "--from", a, "--to", b, path(in), path(out), "--size", size, "--json"});

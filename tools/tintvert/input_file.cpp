@@ -28,7 +28,7 @@ InputFile::InputFile(const std::filesystem::path& path)
     if (!file_ || fstat(fileno(file_.get()), &about) != 0)
         throw Failure(Exit::no_file, "cannot read {}: {}", name_, std::strerror(errno));
     if (S_ISDIR(about.st_mode)) throw Failure(Exit::no_file, "{} is a folder", name_);
-    if (S_ISREG(about.st_mode)) size_ = about.st_size;
+    if (path != "-" && S_ISREG(about.st_mode)) size_ = about.st_size;
 }
 
 std::span<const uint8_t> InputFile::peek(size_t count)

@@ -16,7 +16,7 @@ public:
     explicit InputFile(const std::filesystem::path& path);  // throws Failure
 
     const std::string& name() const { return name_; }
-    int64_t size() const { return size_; }  // -1 for what has no length: a pipe, a device
+    int64_t size() const { return size_; }  // -1 for what may have none: standard input, a pipe, a device
 
     // The next bytes, which stay to be read; fewer than `count` only at the end.
     std::span<const uint8_t> peek(size_t count);

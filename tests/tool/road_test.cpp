@@ -264,6 +264,23 @@ TEST_F(Road, odd_sizes_are_refused_where_a_layout_has_pairs)
     EXPECT_EQ(run({"convert", "--from", "rgb32", "--to", "2vuy", path("in.raw"), path("out"), "-s", "8x5"}).code, 0);
 }
 
+// What a picture loses on its way into the first layout, and out of the last.
+TEST_F(Road, tells_what_picture_files_lose)
+{
+    save("in.pam", make_pam({1, 1, 65535, true, {1, 2, 3, 4}}));
+    const auto told = [&](const std::vector<std::string>& more) {
+        std::vector<std::string> words{"convert", path("in.pam"), path("out.png")};
+        words.insert(words.end(), more.begin(), more.end());
+        return run(words).err;
+    };
+    EXPECT_EQ(told({}), "rgba64 -> rgba64  the same bytes  alpha dropped, which --alpha keeps\n");
+    EXPECT_EQ(told({"--alpha"}), "rgba64 -> rgba64  the same bytes  nothing lost\n");
+    EXPECT_EQ(told({"--from", "rgb32", "--to", "rgb32", "--alpha"}),
+              "rgb32 -> rgb32  the same bytes  16 bits of the picture read to 8 by truncation\n");
+    save("in.pam", make_pam({1, 1, 65535, true, {1, 2, 3, 65535}}));
+    EXPECT_EQ(told({}), "rgba64 -> rgba64  the same bytes  nothing lost\n");
+}
+
 TEST_F(Road, is_told_on_stderr_unless_quiet)
 {
     save("in.raw", std::string(8 * 4 * 2, 'x'));

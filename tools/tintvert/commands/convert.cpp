@@ -151,6 +151,22 @@ std::vector<std::string_view> wanted_layouts(const Options& options, const std::
     return fitting;
 }
 
+bool is_picture(std::string_view format)
+{
+    return format == "png" || format == "ppm" || format == "pam" || format == "bmp";
+}
+
+// Pictures are put into a layout and taken out of one, which may have less room than they.
+void add_losses_of_pictures(const Options& options, const Clip& clip, const std::string& format, road::Road& road)
+{
+    const std::string held = clip.layout();
+    if (is_picture(format_of(clip.name())) && road::holds_of(held).bits > road::holds_of(road.from).bits)
+        road.beside.push_back(fmt::format("{} bits of the picture read to {} by truncation", road::holds_of(held).bits,
+                                          road::holds_of(road.from).bits));
+    if (is_picture(format) && road.alpha && !options.sink.alpha)
+        road.beside.push_back("alpha dropped, which --alpha keeps");
+}
+
 Exit plan_road(const Options& options)
 {
     if (options.from.empty() || options.to.empty())
@@ -183,7 +199,8 @@ Exit convert_by_road(const Options& options)
     const std::string from = options.from.empty() ? clip.layout() : options.from;
     if (from.empty()) throw Failure(Exit::usage, "{} does not tell its layout: give --from LAYOUT", clip.name());
     const std::string format = options.sink.format.empty() ? format_of(out) : options.sink.format;
-    const road::Road road = road::find_road({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
+    road::Road road = road::find_road({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
+    add_losses_of_pictures(options, clip, format, road);
     const std::vector<Call> calls = calls_of(road, clip.size());
     clip.expect(plain_form(from, clip.size()));
     tell(options, road);

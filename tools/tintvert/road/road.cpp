@@ -128,9 +128,10 @@ std::vector<Place> walk(const Start& start)
 // The place as a road to one layout: several names may share its bytes, and not all of them have alpha.
 Place at_layout(Place place, const Holds& layout)
 {
-    fit(layout, {}, place, place.road.at_end);
-    if (layout.alpha && place.picture.alpha_0) place.road.at_end.push_back("the alpha made is 0, transparent");
+    fit(layout, {}, place, place.road.beside);
+    if (layout.alpha && place.picture.alpha_0) place.road.beside.push_back("the alpha made is 0, transparent");
     place.road.to = layout.layout;
+    place.road.alpha = place.picture.alpha;
     return place;
 }
 
@@ -140,7 +141,7 @@ std::vector<std::string> Road::losses() const
 {
     std::vector<std::string> all;
     for (const Stretch& stretch : stretches) all.insert(all.end(), stretch.losses.begin(), stretch.losses.end());
-    all.insert(all.end(), at_end.begin(), at_end.end());
+    all.insert(all.end(), beside.begin(), beside.end());
     return all;
 }
 
@@ -184,9 +185,9 @@ std::string to_text(const Road& road)
         text +=
             fmt::format("{} -> {}  {}  {}\n", stretch.from, stretch.to, stretch.routine->name, joined(stretch.losses));
     if (road.stretches.empty())
-        text += fmt::format("{} -> {}  the same bytes  {}\n", road.from, road.to, joined(road.at_end));
-    else if (!road.at_end.empty())
-        text += fmt::format("{}  {}\n", road.to, joined(road.at_end));
+        text += fmt::format("{} -> {}  the same bytes  {}\n", road.from, road.to, joined(road.beside));
+    else if (!road.beside.empty())
+        text += fmt::format("{}  {}\n", road.to, joined(road.beside));
     return text;
 }
 

@@ -20,7 +20,9 @@ struct Stretch {
 struct Road {
     std::string_view from, to;
     std::vector<Stretch> stretches;   // none if the two layouts have the same bytes
-    std::vector<std::string> at_end;  // what the last layout leaves out although its bytes have room
+    std::vector<std::string> beside;  // what is lost outside of the steps: in files, and by a name without alpha
+    bool alpha = false;               // whether the alpha of the start is still there
+
     std::vector<std::string> losses() const;
 };
 

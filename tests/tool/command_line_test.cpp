@@ -8,7 +8,7 @@ TEST(CommandLine, tells_its_version)
 {
     const Result result = run({"--version"});
     EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.out, "tintvert " TINTVERT_VERSION "\n");
+    EXPECT_TRUE(result.out.starts_with("tintvert " TINTVERT_VERSION "\nMOV and AVI: ")) << result.out;
     EXPECT_EQ(result.err, "");
 }
 
@@ -47,6 +47,13 @@ TEST(CommandLine, suggests_the_nearest_name)
     expect_suggestion({"show", "bgra_to_2vyu"}, "bgra_to_2vuy");
     expect_suggestion({"show", "rgb32_2vuy"}, "tntvt_rgb32_2vuy");
     expect_suggestion({"show", "tntvt_yuv422_rgb23"}, "tntvt_yuv422_rgb24");
+}
+
+TEST(CommandLine, suggests_the_nearest_option)
+{
+    expect_suggestion({"convert", "--frm", "v210"}, "--from");
+    expect_suggestion({"convert", "--frames", "2", "--szie=8x4"}, "--size");
+    expect_suggestion({"list", "--jsn"}, "--json");
 }
 
 TEST(CommandLine, suggests_nothing_far_fetched)

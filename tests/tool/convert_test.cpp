@@ -270,7 +270,7 @@ TEST_F(Convert, broken_y4m)
     EXPECT_EQ(code("YUV4MPEG2 W0 H4\n" + frame), 3);
     EXPECT_EQ(code("YUV4MPEG2 W8x H4\n" + frame), 3);
     EXPECT_EQ(code("YUV4MPEG2 W8 H4 C444\n" + frame), 3);
-    EXPECT_EQ(code("YUV4MPEG2 W8 H4 C422\n" + frame), 4);
+    EXPECT_EQ(code("YUV4MPEG2 W8 H4 C422\n" + frame), 2);
     EXPECT_EQ(code(header + frame.substr(0, 50)), 4);
     EXPECT_EQ(code(header + "FRAMX\n" + frame.substr(6)), 3);
 }

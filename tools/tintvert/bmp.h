@@ -1,10 +1,12 @@
-// BMP files of run-length coded indexed pictures (BI_RLE8).
+// BMP files: 24 and 32 bits a pixel to read and write, run-length coded ones (BI_RLE8) to read.
 #pragma once
 
 #include <cstdint>
 #include <vector>
 
 #include "input_file.h"
+#include "output_file.h"
+#include "picture.h"
 
 namespace tintvert::tool {
 
@@ -14,6 +16,11 @@ struct BmpRle8 {
     std::vector<uint8_t> stream;
 };
 
-BmpRle8 read_bmp_rle8(InputFile& file);  // throws Failure
+// Both throw Failure. Alpha is read from files that have a mask for it; all others are opaque.
+BmpRle8 read_bmp_rle8(InputFile& file);
+Picture read_bmp(InputFile& file);
+
+// 24 bits, or 32 with a mask for alpha; bottom line first.
+void write_bmp(OutputFile& file, const Picture& picture, bool alpha);
 
 }  // namespace tintvert::tool

@@ -21,7 +21,7 @@ std::vector<catalog::Content> safe_contents(const catalog::Routine& routine, con
 }  // namespace
 
 Conversion::Conversion(const catalog::Routine& routine, catalog::Arguments call)
-    : routine_(routine), call_(call), contents_(safe_contents(routine, call))
+    : routine_(&routine), call_(call), contents_(safe_contents(routine, call))
 {
     const catalog::Extents extents = routine.extents(call);
     for (const Arg argument : routine.arguments) {
@@ -71,6 +71,11 @@ std::vector<std::span<uint8_t>> Conversion::outputs()
 
 std::span<uint8_t> Conversion::bytes(Arg buffer, int64_t count) { return part(buffer, 0, count); }
 
-void Conversion::run() { routine_.call(call_); }
+void Conversion::clear()
+{
+    for (Buffer& buffer : buffers_) std::ranges::fill(buffer.bytes, uint8_t{0});
+}
+
+void Conversion::run() { routine_->call(call_); }
 
 }  // namespace tintvert::tool

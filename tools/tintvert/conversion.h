@@ -14,6 +14,7 @@ class Conversion {
 public:
     // Throws Failure (unsafe) for geometry that the routine must not be called with.
     Conversion(const catalog::Routine& routine, catalog::Arguments call);
+    Conversion(Conversion&&) = default;  // the call points into the buffers, so it is moved and not copied
 
     // The buffers that pictures go into and come out of, in the order of the arguments.
     std::vector<std::span<uint8_t>> inputs();
@@ -22,6 +23,7 @@ public:
     // The bytes behind a buffer's pointer, for what is no picture: a palette.
     std::span<uint8_t> bytes(catalog::Arg buffer, int64_t count);
 
+    void clear();  // all buffers to 0, so that a frame depends on no frame before it
     void run();
 
 private:
@@ -32,7 +34,7 @@ private:
     };
     std::span<uint8_t> part(catalog::Arg argument, int64_t origin, int64_t count);
 
-    const catalog::Routine& routine_;
+    const catalog::Routine* routine_;
     catalog::Arguments call_;
     std::vector<catalog::Content> contents_;
     std::vector<Buffer> buffers_;

@@ -1,28 +1,37 @@
-// A file that is read frame by frame.
+// A file, or standard input as `-`, that is read from its head to its end.
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
+#include <memory>
+#include <span>
+#include <string>
 #include <vector>
 
 namespace tintvert::tool {
 
 class InputFile {
 public:
-    explicit InputFile(std::filesystem::path path);  // throws Failure
+    explicit InputFile(const std::filesystem::path& path);  // throws Failure
 
-    int64_t size() const { return size_; }
-    const std::filesystem::path& path() const { return path_; }
+    const std::string& name() const { return name_; }
+    int64_t size() const { return size_; }  // -1 for what may have none: standard input, a pipe, a device
 
-    // Exactly `count` bytes from `offset` on. Throws Failure if the file has them not.
-    void read(int64_t offset, uint8_t* to, int64_t count);
-    std::vector<uint8_t> read_all();
+    // The next bytes, which stay to be read; fewer than `count` only at the end.
+    std::span<const uint8_t> peek(size_t count);
+
+    // How many came: fewer than `count` only at the end.
+    size_t read_some(uint8_t* to, size_t count);
+    void read(uint8_t* to, size_t count);  // throws Failure if the file ends before
+    bool skip(int64_t count);              // whether there was as much
+    std::vector<uint8_t> read_rest();
 
 private:
-    std::filesystem::path path_;
-    std::ifstream stream_;
-    int64_t size_;
+    std::string name_;
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
+    int64_t size_ = -1, at_ = 0;
+    std::vector<uint8_t> peeked_;
 };
 
 }  // namespace tintvert::tool

@@ -1,6 +1,7 @@
 // The command line: what was asked for, and one line and an exit code for whatever goes wrong.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -17,23 +18,52 @@
 namespace tintvert::tool {
 namespace {
 
-// A word that is no command gets a better answer than the parser's.
+// "--frm=2" without its value.
+std::string_view name_of_option(std::string_view word) { return word.substr(0, word.find('=')); }
+
+// An option that the command has not; none if it has all.
+std::string unknown_option(const CLI::App& command, int argc, char** argv)
+{
+    std::vector<std::string> names;
+    for (const CLI::Option* option : command.get_options())
+        for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+    const std::vector<std::string_view> candidates(names.begin(), names.end());
+    for (int i = 2; i < argc; ++i) {
+        const std::string_view word = name_of_option(argv[i]);
+        if (word.starts_with("--") && word != "--" && std::ranges::find(candidates, word) == candidates.end())
+            return fmt::format("{} has no option '{}'{}", command.get_name(), word, suggestion(word, candidates));
+    }
+    return {};
+}
+
+// A word that is no command, and an option that a command has not, get a better answer than the parser's.
 std::string complaint(const CLI::ParseError& error, int argc, char** argv, const std::vector<Command>& commands)
 {
     if (argc < 2 || argv[1][0] == '-') return error.what();
     std::vector<std::string> names;
     for (const Command& command : commands) {
-        if (command.app->get_name() == argv[1]) return error.what();
         names.push_back(command.app->get_name());
+        if (names.back() != argv[1]) continue;
+        const std::string unknown = unknown_option(*command.app, argc, argv);
+        return unknown.empty() ? error.what() : unknown;
     }
     const std::vector<std::string_view> candidates(names.begin(), names.end());
     return fmt::format("there is no command '{}'{}", argv[1], suggestion(argv[1], candidates));
 }
 
+std::string version_text()
+{
+#ifdef TINTVERT_LIBAVFORMAT
+    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: read, by libavformat";
+#else
+    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: not read, built without libavformat";
+#endif
+}
+
 Exit run(int argc, char** argv)
 {
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
-    tool.set_version_flag("--version", "tintvert " TINTVERT_VERSION);
+    tool.set_version_flag("--version", version_text());
     tool.require_subcommand(1);
     const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool),  add_layouts(tool),
                                            add_list(tool),    add_show(tool),    add_st2084(tool)};

@@ -14,14 +14,37 @@
 
 namespace tintvert::tool {
 
-// The name does not grow out of the target's, which may already be as long as a name can be.
+namespace {
+
+bool is_written_as_it_is(const std::filesystem::path& path)
+{
+    std::error_code ignored;
+    const auto kind = std::filesystem::status(path, ignored).type();
+    using enum std::filesystem::file_type;
+    return kind == character || kind == block || kind == fifo || kind == socket;
+}
+
+}  // namespace
+
 OutputFile::OutputFile(std::filesystem::path target) : target_(std::move(target))
+{
+    if (target_ == "-")
+        descriptor_ = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+    else if (is_written_as_it_is(target_))
+        descriptor_ = open(target_.c_str(), O_WRONLY | O_CLOEXEC);
+    else
+        open_unfinished();
+    if (descriptor_ < 0) fail(errno);
+}
+
+// The name does not grow out of the target's, which may already be as long as a name can be.
+void OutputFile::open_unfinished()
 {
     for (int attempt = 0;; ++attempt) {
         unfinished_ = target_.parent_path() / fmt::format(".tintvert-{}-{}.part", getpid(), attempt);
         set_unfinished(unfinished_.c_str());
         descriptor_ = open(unfinished_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor_ >= 0) break;
+        if (descriptor_ >= 0) return;
         const int error = errno;
         set_unfinished(nullptr);
         if (error != EEXIST || attempt == 99) fail(error);
@@ -53,13 +76,14 @@ void OutputFile::commit()
     const int descriptor = descriptor_;
     descriptor_ = -1;
     if (close(descriptor) != 0) fail(errno);
-    if (std::rename(unfinished_.c_str(), target_.c_str()) != 0) fail(errno);
+    if (!unfinished_.empty() && std::rename(unfinished_.c_str(), target_.c_str()) != 0) fail(errno);
     unfinished_.clear();
 }
 
 void OutputFile::fail(int error) const
 {
-    throw Failure(Exit::no_file, "cannot write {}: {}", target_.string(), std::strerror(error));
+    throw Failure(Exit::no_file, "cannot write {}: {}", target_ == "-" ? "standard output" : target_.string(),
+                  std::strerror(error));
 }
 
 void write_file(const std::filesystem::path& target, const void* bytes, size_t count)

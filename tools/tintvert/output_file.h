@@ -7,7 +7,8 @@
 namespace tintvert::tool {
 
 // Bytes go to a temporary file in the target's folder, which takes the target's name at commit() and is
-// removed if there is none. One at a time. Throws Failure.
+// removed if there is none. One at a time. Standard output (`-`), devices and pipes are written as they are.
+// Throws Failure.
 class OutputFile {
 public:
     explicit OutputFile(std::filesystem::path target);
@@ -21,8 +22,9 @@ public:
 
 private:
     [[noreturn]] void fail(int error) const;
+    void open_unfinished();
 
-    std::filesystem::path target_, unfinished_;
+    std::filesystem::path target_, unfinished_;  // none for what is written as it is
     int descriptor_ = -1;
 };
 

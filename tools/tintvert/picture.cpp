@@ -10,4 +10,13 @@ Picture with_8_bits(const Picture& picture)
     return result;
 }
 
+bool is_opaque(const Picture& picture)
+{
+    const size_t sample = picture.depth;
+    for (size_t alpha = 3 * sample; alpha < picture.bytes.size(); alpha += 4 * sample)
+        for (size_t byte = 0; byte < sample; ++byte)
+            if (picture.bytes[alpha + byte] != 255) return false;
+    return true;
+}
+
 }  // namespace tintvert::tool

@@ -33,4 +33,6 @@ struct Picture {
 // The upper byte of every sample.
 Picture with_8_bits(const Picture& picture);
 
+bool is_opaque(const Picture& picture);
+
 }  // namespace tintvert::tool

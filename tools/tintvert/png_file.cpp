@@ -4,12 +4,8 @@
 
 #include <png.h>
 
-#include <cerrno>
 #include <csetjmp>
-#include <cstdio>
-#include <cstring>
 #include <exception>
-#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -26,10 +22,10 @@ constexpr long most_pixels = 1L << 28;
 struct Transfer {
     png_structp png = nullptr;
     png_infop info = nullptr;
-    std::FILE* source = nullptr;
+    InputFile* source = nullptr;
     OutputFile* target = nullptr;
     std::string error;
-    std::exception_ptr thrown;  // by `target`, on its way past libpng
+    std::exception_ptr thrown;  // by `source` or `target`, on its way past libpng
 };
 
 [[noreturn]] void on_error(png_structp png, png_const_charp text)
@@ -44,9 +40,13 @@ void on_warning(png_structp, png_const_charp) {}
 void read_bytes(png_structp png, png_bytep to, size_t count)
 {
     Transfer& transfer = *static_cast<Transfer*>(png_get_io_ptr(png));
-    if (std::fread(to, 1, count, transfer.source) == count) return;
-    transfer.error = std::ferror(transfer.source) != 0 ? std::strerror(errno) : "the file ends too early";
-    png_error(png, transfer.error.c_str());
+    try {
+        if (transfer.source->read_some(to, count) == count) return;
+        transfer.error = "the file ends too early";
+    } catch (...) {
+        transfer.thrown = std::current_exception();
+    }
+    png_error(png, "read");
 }
 
 void write_bytes(png_structp png, png_bytep from, size_t count)
@@ -64,9 +64,9 @@ void write_bytes(png_structp png, png_bytep from, size_t count)
 void flush_nothing(png_structp) {}
 
 struct Reader : Transfer {
-    explicit Reader(std::FILE* file)
+    explicit Reader(InputFile& file)
     {
-        source = file;
+        source = &file;
         png = png_create_read_struct(PNG_LIBPNG_VER_STRING, static_cast<Transfer*>(this), on_error, on_warning);
         info = png_create_info_struct(png);
         if (info == nullptr) throw std::bad_alloc();
@@ -133,44 +133,36 @@ std::vector<png_bytep> lines_of(Picture& picture)
     return lines;
 }
 
-bool is_opaque(const Picture& picture)
-{
-    const size_t sample = picture.depth;
-    for (size_t alpha = 3 * sample; alpha < picture.bytes.size(); alpha += 4 * sample)
-        for (size_t byte = 0; byte < sample; ++byte)
-            if (picture.bytes[alpha + byte] != 255) return false;
-    return true;
-}
-
 }  // namespace
 
-Picture read_png(const std::filesystem::path& path)
+Picture read_png(InputFile& file)
 {
     const auto refuse = [&](const std::string& why) {
-        return Failure(Exit::no_file, "cannot read {}: {}", path.string(), why);
+        return Failure(Exit::no_file, "cannot read {}: {}", file.name(), why);
     };
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
-    if (!file) throw refuse(std::strerror(errno));
-
     png_byte signature[8];
-    const size_t got = std::fread(signature, 1, sizeof signature, file.get());
-    if (std::ferror(file.get()) != 0) throw refuse(std::strerror(errno));
+    const size_t got = file.read_some(signature, sizeof signature);
     if (got == 0) throw refuse("the file is empty");
     if (png_sig_cmp(signature, 0, got) != 0) throw refuse("it is no PNG file");
     if (got < sizeof signature) throw refuse("the file ends too early");
 
-    Reader reader(file.get());
+    Reader reader(file);
+    const auto need = [&](bool went_well) {
+        if (went_well) return;
+        if (reader.thrown) std::rethrow_exception(reader.thrown);
+        throw refuse(reader.error);
+    };
     png_set_sig_bytes(reader.png, sizeof signature);
-    if (!read_header(reader.png, reader.info)) throw refuse(reader.error);
+    need(read_header(reader.png, reader.info));
     const long width = static_cast<long>(png_get_image_width(reader.png, reader.info));
     const long height = static_cast<long>(png_get_image_height(reader.png, reader.info));
     if (width * height > most_pixels)
-        throw Failure(Exit::unsafe, "{} is {} x {} pixels; more than {} are refused", path.string(), width, height,
+        throw Failure(Exit::unsafe, "{} is {} x {} pixels; more than {} are refused", file.name(), width, height,
                       most_pixels);
 
     const bool deep = png_get_bit_depth(reader.png, reader.info) == 16;
     Picture picture(width, height, deep ? Picture::bits16 : Picture::bits8);
-    if (!read_lines(reader.png, lines_of(picture).data())) throw refuse(reader.error);
+    need(read_lines(reader.png, lines_of(picture).data()));
     return picture;
 }
 

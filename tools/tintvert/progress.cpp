@@ -14,21 +14,30 @@ double now() { return std::chrono::duration<double>(std::chrono::steady_clock::n
 
 }  // namespace
 
-Progress::Progress(int64_t frames) : frames_(frames), shown_(frames > 1 && isatty(STDERR_FILENO) != 0), begun_(now()) {}
+Progress::Progress(int64_t frames, bool quiet)
+    : frames_(frames), shown_(!quiet && frames != 1 && isatty(STDERR_FILENO) != 0), begun_(now())
+{}
 
 Progress::~Progress()
 {
-    if (shown_) fmt::print(stderr, "\n");
+    if (shown_ && told_ > 0) fmt::print(stderr, "\n");
 }
 
+// Ten times a second, and at the end.
 void Progress::done(int64_t frames)
 {
-    if (!shown_) return;
+    const double time = now();
+    if (!shown_ || (time - told_ < 0.1 && frames != frames_)) return;
+    told_ = time;
     constexpr int64_t width = 40;
-    const double seconds = now() - begun_, rate = seconds > 0 ? static_cast<double>(frames) / seconds : 0;
-    const std::string bar(static_cast<size_t>(width * frames / frames_), '#');
-    fmt::print(stderr, "\r[{:<40}] {}/{} frames  {:.0f} fps  {:.0f} s left ", bar, frames, frames_, rate,
-               rate > 0 ? static_cast<double>(frames_ - frames) / rate : 0);
+    const double seconds = time - begun_, rate = seconds > 0 ? static_cast<double>(frames) / seconds : 0;
+    if (frames_ < 0) {
+        fmt::print(stderr, "\r{} frames  {:.0f} fps ", frames, rate);
+    } else {
+        const std::string bar(static_cast<size_t>(width * frames / frames_), '#');
+        fmt::print(stderr, "\r[{:<40}] {}/{} frames  {:.0f} fps  {:.0f} s left ", bar, frames, frames_, rate,
+                   rate > 0 ? static_cast<double>(frames_ - frames) / rate : 0);
+    }
     std::fflush(stderr);
 }
 

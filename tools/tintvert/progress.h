@@ -7,14 +7,14 @@ namespace tintvert::tool {
 
 class Progress {
 public:
-    explicit Progress(int64_t frames);
+    explicit Progress(int64_t frames, bool quiet = false);  // -1 if only their end will tell
     ~Progress();
     void done(int64_t frames);
 
 private:
     int64_t frames_;
     bool shown_;
-    double begun_;
+    double begun_, told_ = 0;
 };
 
 }  // namespace tintvert::tool

@@ -136,6 +136,12 @@ bool holds_picture(std::string_view layout)
     return layout == "rgb16" || layout == "rgb10" || channels_of(layout) != nullptr;
 }
 
+bool is_deep(std::string_view layout)
+{
+    const Channels* c = channels_of(layout);
+    return layout == "rgb10" || (c != nullptr && c->sample_bytes == 2);
+}
+
 std::vector<uint8_t> frame_of_picture(const Picture& picture, std::string_view layout, long stride, const Words& words)
 {
     std::vector<uint8_t> frame(static_cast<size_t>(stride * picture.height));
@@ -158,8 +164,7 @@ Picture picture_of_frame(const uint8_t* frame, std::string_view layout, long str
                          const Words& words, bool alpha)
 {
     const Channels* c = channels_of(layout);
-    const bool deep = layout == "rgb10" || (c != nullptr && c->sample_bytes == 2);
-    Picture picture(width, height, deep ? Picture::bits16 : Picture::bits8);
+    Picture picture(width, height, is_deep(layout) ? Picture::bits16 : Picture::bits8);
     for (long y = 0; y < height; ++y) {
         const uint8_t* at = frame + y * stride;
         for (long x = 0; x < width; ++x, at += pixel_bytes(layout)) {

@@ -12,6 +12,9 @@ namespace tintvert::tool {
 // Whether a layout is one that a picture can be put into and taken out of.
 bool holds_picture(std::string_view layout);
 
+// Whether it has more than 8 bits a channel.
+bool is_deep(std::string_view layout);
+
 // How the words of a layout are to be read: significant bits of a 16-bit channel, and whether `rgb10` words
 // are big-endian.
 struct Words {

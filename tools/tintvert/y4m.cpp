@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstring>
 #include <sstream>
 
 #include "failure.h"
@@ -10,14 +9,12 @@
 namespace tintvert::tool {
 namespace {
 
-constexpr int64_t mark_bytes = sizeof y4m_frame_mark - 1;
-
 int64_t number(const InputFile& file, const std::string& text)
 {
     int64_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size() || value < 1 || value > 1 << 20)
-        throw Failure(Exit::no_file, "{}: a Y4M header with a size of '{}'", file.path().string(), text);
+        throw Failure(Exit::no_file, "{}: a Y4M header with a size of '{}'", file.name(), text);
     return value;
 }
 
@@ -31,14 +28,14 @@ int64_t Y4m::frame_bytes() const
 
 Y4m read_y4m_header(InputFile& file)
 {
-    std::string line(static_cast<size_t>(std::min<int64_t>(file.size(), 512)), '\0');
-    file.read(0, reinterpret_cast<uint8_t*>(line.data()), static_cast<int64_t>(line.size()));
+    const auto head = file.peek(512);
+    const std::string line(head.begin(), head.end());
     const size_t end = line.find('\n');
     if (!line.starts_with("YUV4MPEG2") || end == std::string::npos)
-        throw Failure(Exit::no_file, "{} is no Y4M clip", file.path().string());
+        throw Failure(Exit::no_file, "{} is no Y4M clip", file.name());
     Y4m clip;
-    clip.timing.clear();
     clip.header_bytes = static_cast<int64_t>(end) + 1;
+    file.skip(clip.header_bytes);
     std::istringstream tags(line.substr(9, end - 9));
     for (std::string tag; tags >> tag;) {
         if (tag[0] == 'W')
@@ -51,34 +48,16 @@ Y4m read_y4m_header(InputFile& file)
             clip.timing += (clip.timing.empty() ? "" : " ") + tag;
     }
     if (clip.width == 0 || clip.height == 0)
-        throw Failure(Exit::no_file, "{}: a Y4M header without a size", file.path().string());
+        throw Failure(Exit::no_file, "{}: a Y4M header without a size", file.name());
     for (const char* known : {"420jpeg", "420mpeg2", "420paldv", "420", "422"})
         if (clip.chroma == known) return clip;
-    throw Failure(Exit::no_file, "{}: Y4M chroma '{}' is not 8-bit 4:2:0 or 4:2:2", file.path().string(), clip.chroma);
+    throw Failure(Exit::no_file, "{}: Y4M chroma '{}' is not 8-bit 4:2:0 or 4:2:2", file.name(), clip.chroma);
 }
 
 std::string y4m_header(const Y4m& clip)
 {
-    return fmt::format("YUV4MPEG2 W{} H{} {} C{}\n", clip.width, clip.height, clip.timing, clip.chroma);
-}
-
-int64_t y4m_frames(const InputFile& file, const Y4m& clip)
-{
-    const int64_t each = mark_bytes + clip.frame_bytes(), all = file.size() - clip.header_bytes;
-    if (all % each != 0)
-        throw Failure(Exit::unsafe, "{} ends in the middle of frame {}", file.path().string(), all / each);
-    return all / each;
-}
-
-// Frames carry no parameters of their own in any clip that we have met; one that does is refused.
-int64_t y4m_frame(InputFile& file, const Y4m& clip, int64_t index)
-{
-    const int64_t at = clip.header_bytes + index * (mark_bytes + clip.frame_bytes());
-    uint8_t mark[mark_bytes];
-    file.read(at, mark, mark_bytes);
-    if (std::memcmp(mark, y4m_frame_mark, mark_bytes) != 0)
-        throw Failure(Exit::no_file, "{}: no plain FRAME at byte {}", file.path().string(), at);
-    return at + mark_bytes;
+    const std::string timing = clip.timing.empty() ? "F25:1 Ip A1:1" : clip.timing;
+    return fmt::format("YUV4MPEG2 W{} H{} {} C{}\n", clip.width, clip.height, timing, clip.chroma);
 }
 
 }  // namespace tintvert::tool

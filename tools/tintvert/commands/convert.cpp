@@ -1,23 +1,23 @@
-// tintvert convert: frames through one routine, from file to file.
+// tintvert convert: frames from file to file, through one routine or along a road of routines.
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
-#include <map>
 #include <memory>
-#include <optional>
+#include <thread>
 #include <vector>
 
-#include "bmp.h"
+#include "calls.h"
 #include "catalog.h"
 #include "commands.h"
-#include "conversion.h"
 #include "frames.h"
 #include "geometry.h"
-#include "input_file.h"
+#include "json.h"
 #include "nearest.h"
 #include "progress.h"
-#include "rle_scan.h"
+#include "rle8.h"
+#include "road/holds.h"
+#include "road/road.h"
+#include "routine_job.h"
 
 namespace tintvert::tool {
 namespace {
@@ -26,231 +26,233 @@ using catalog::Arg;
 using catalog::Routine;
 
 struct Options {
-    std::string routine, size, layout = "rgb32", frames, palette;
-    std::vector<std::string> files, planes;
-    std::map<Arg, int64_t> numbers;
-    int64_t offset = 0;
-    bool alpha = false;
+    ClipOptions clip;
+    RoutineOptions routine;
+    SinkOptions sink;
+    std::string from, to, palette;
+    std::vector<std::string> words, planes;
+    int jobs = 0;
+    bool dry_run = false, quiet = false, json = false;
 };
 
-bool takes(const Routine& routine, Arg argument)
-{
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
-}
-
-struct Size {
-    int64_t width, height;
-};
-
-Size size_of(const std::string& text)
-{
-    Size size{};
-    const char* const end = text.data() + text.size();
-    const auto width = std::from_chars(text.data(), end, size.width);
-    if (width.ec == std::errc() && width.ptr != end && *width.ptr == 'x') {
-        const auto height = std::from_chars(width.ptr + 1, end, size.height);
-        if (height.ec == std::errc() && height.ptr == end) return size;
-    }
-    throw Failure(Exit::usage, "a size is WIDTHxHEIGHT, such as 1920x1080, and not '{}'", text);
-}
-
-// A:B, from frame A up to frame B; A alone is one frame.
-std::pair<int64_t, int64_t> range_of(const std::string& text, int64_t frames)
-{
-    if (text.empty()) return {0, frames};
-    int64_t first = 0, end = 0;
-    const char* const stop = text.data() + text.size();
-    const auto a = std::from_chars(text.data(), stop, first);
-    if (a.ec == std::errc() && a.ptr == stop) end = first + 1;
-    if (a.ec == std::errc() && a.ptr != stop && *a.ptr == ':') {
-        const auto b = std::from_chars(a.ptr + 1, stop, end);
-        if (b.ec != std::errc() || b.ptr != stop) end = 0;
-    }
-    if (first < 0 || end <= first) throw Failure(Exit::usage, "frames are A:B or A, and not '{}'", text);
-    if (end > frames) throw Failure(Exit::unsafe, "there are {} frames, and not {}", frames, end);
-    return {first, end};
-}
-
-// Everything that is to be decided before the first frame.
-struct Job {
-    const Routine& routine;
+struct Files {
     Paths in, out;
-    catalog::Arguments call;
-    FrameForm from, to;
 };
 
-void need_positive_size(const Size& size)
+// All frames of a clip through the calls into the file. How many there were.
+int64_t convert_frames(const Options& options, Clip& clip, const std::vector<Call>& calls, const FrameForm& to,
+                       const Paths& out)
 {
-    if (size.width < 1 || size.height < 1)
-        throw Failure(Exit::unsafe, "refused: a picture of {}x{}", size.width, size.height);
-}
-
-std::string or_layout(std::string_view layout, const Options& options)
-{
-    return std::string{layout == "none" ? options.layout : layout};
-}
-
-void apply(const Options& options, const Routine& routine, catalog::Arguments* call)
-{
-    for (const auto& [argument, value] : options.numbers) {
-        if (!takes(routine, argument))
-            throw Failure(Exit::usage, "{} takes no {}", routine.name, catalog::describe(argument).name);
-        (*call)[argument] = value;
-    }
-}
-
-Job job_of(const Options& options, const Routine& routine, const Paths& in, const Paths& out, const Size& size)
-{
-    need_positive_size(size);
-    const auto scale = options.numbers.find(Arg::scale);
-    const int64_t reduction = scale == options.numbers.end() ? 1 : scale->second;
-    Job job{routine, in, out, catalog::plain_call(routine, {size.width, size.height, reduction, options.layout}),
-            {},      {}};
-    apply(options, routine, &job.call);
-    const bool reduces = takes(routine, Arg::scale) && reduction > 1;
-    const Words words{static_cast<int>(std::clamp<int64_t>(job.call[Arg::bits], 1, 16)), job.call[Arg::swapBytes] != 0};
-    const auto stride = [&](Arg own) { return takes(routine, own) ? std::abs(job.call[own]) : int64_t{0}; };
-    const auto line = [&](const std::string& layout, int64_t width) {
-        const catalog::Layout* known = catalog::find_layout(layout);
-        return known == nullptr ? int64_t{0} : known->line_bytes(width);
+    SinkOptions sink_options = options.sink;
+    sink_options.timing = clip.timing();
+    const std::unique_ptr<FrameSink> sink = open_sink(out, to, sink_options);
+    const int jobs =
+        options.jobs > 0 ? options.jobs : static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    Progress progress(clip.frames(), options.quiet);
+    int64_t written = 0;
+    const Pipeline pipeline{
+        [&](std::span<uint8_t> frame) { return clip.next(frame); },
+        [&] { return std::make_unique<Calls>(calls, clip.form().bytes()); },
+        [&](std::span<const uint8_t> frame) {
+            sink->write(frame);
+            progress.done(++written);
+        },
     };
-    job.from = {or_layout(routine.from, options), size.width, size.height, 0, words};
-    job.from.stride = std::max(stride(Arg::srcStride), line(job.from.layout, size.width));
-    job.to = {or_layout(routine.to, options), reduces ? size.width / reduction : size.width,
-              reduces ? size.height / reduction : size.height, 0, words};
-    // Red stands first in what this one writes.
-    if (routine.name == "tntvt_rgb10_rgb48") job.to.layout = "bgr48";
-    job.to.stride = std::max(stride(Arg::dstStride), line(job.to.layout, job.to.width));
-    return job;
-}
-
-Exit convert_frames(const Options& options, const Job& job, FrameSource* source)
-{
-    Conversion conversion(job.routine, job.call);
-    const Buffers in = conversion.inputs(), out = conversion.outputs();
-    if (in.empty() || out.empty()) throw Failure(Exit::usage, "{} turns no picture into another", job.routine.name);
-    const auto [first, end] = range_of(options.frames, source->frames(in));
-    const std::unique_ptr<FrameSink> sink = open_sink(job.out, options.alpha);
-    Progress progress(end - first);
-    for (int64_t frame = first; frame < end; ++frame) {
-        source->read(frame, job.from, in);
-        conversion.run();
-        sink->write(job.to, out);
-        progress.done(frame - first + 1);
-    }
+    run_pipeline(pipeline, jobs);
+    if (written == 0) throw Failure(Exit::unsafe, "{} holds no frame", clip.name());
     sink->commit();
-    return Exit::done;
+    return written;
 }
 
-// A run-length coded stream is walked before it is decoded: it must end, and stay inside its picture.
-void need_sound_stream(const Job& job, const std::vector<uint8_t>& stream)
+// A stream of run-length codes has no lines and tells its length by its end: it goes through as a whole.
+Exit convert_coded(const Options& options, const Routine& routine, const Files& files)
 {
-    const bool is_24 = job.routine.to == "rgb24";
-    const auto scan = is_24 ? catalog::scan_rle8_rgb24(stream, job.call[Arg::height])
-                            : catalog::scan_rle8_rgb32(stream, job.call[Arg::dstStride], job.call[Arg::height]);
-    if (!scan.ends) throw Failure(Exit::unsafe, "refused: the coded stream runs out at byte {}", scan.wanted);
-    const int64_t room = is_24 ? job.to.width * 3 * job.to.height : job.call[Arg::dstStride] * job.to.height;
-    if (!scan.written.empty() && (scan.written.begin < 0 || scan.written.end > room))
-        throw Failure(Exit::unsafe, "refused: the coded stream writes bytes {} to {} of a picture of {}",
-                      scan.written.begin, scan.written.end, room);
-}
-
-Exit convert_coded(const Options& options, const Routine& routine, const Paths& in, const Paths& out)
-{
-    InputFile file(in.at(0));
+    InputFile file(files.in.at(0));
     BmpRle8 picture{0, 0, {}, {}};
-    if (has_ending(in[0], ".bmp")) {
+    if (format_of(files.in[0]) == "bmp") {
         picture = read_bmp_rle8(file);
     } else {
-        const Size size = size_of(options.size);
-        const std::vector<uint8_t> all = file.read_all();
-        if (options.offset > file.size()) throw Failure(Exit::unsafe, "{} ends before the offset", in[0].string());
-        picture = {
-            size.width, size.height, InputFile(options.palette).read_all(), {all.begin() + options.offset, all.end()}};
+        const Size size = size_of(options.clip.size);
+        if (!file.skip(options.clip.offset)) throw Failure(Exit::unsafe, "{} ends before the offset", file.name());
+        picture = {size.width, size.height, InputFile(options.palette).read_rest(), file.read_rest()};
         if (picture.palette.size() != 1024)
             throw Failure(Exit::unsafe, "{} is no palette of 256 x 4 bytes", options.palette);
     }
-    Job job = job_of(options, routine, in, out, {picture.width, picture.height});
-    job.call[Arg::streamSize] = static_cast<int64_t>(picture.stream.size());
-    job.call[Arg::src] = reinterpret_cast<int64_t>(picture.stream.data());
-    need_sound_stream(job, picture.stream);
-    Conversion conversion(routine, job.call);
-    const auto palette = conversion.bytes(Arg::palette, 1024);
-    const size_t entry = routine.to == "rgb24" ? 3 : 4;
-    for (size_t i = 0; i < 256; ++i) std::copy_n(&picture.palette[i * 4], entry, &palette[i * entry]);
-    std::ranges::copy(picture.stream, conversion.bytes(Arg::src, job.call[Arg::streamSize]).begin());
-    conversion.run();
-    const std::unique_ptr<FrameSink> sink = open_sink(out, options.alpha);
-    sink->write(job.to, conversion.outputs());
+    RoutineJob job = routine_job(routine, options.routine, {picture.width, picture.height});
+    const std::vector<uint8_t> frame = decode_rle8(routine, job.call.arguments, picture);
+    job.to.parts = {static_cast<int64_t>(frame.size())};
+    const std::unique_ptr<FrameSink> sink = open_sink(files.out, job.to, options.sink);
+    sink->write(frame);
     sink->commit();
     return Exit::done;
 }
 
 // `--planes` names the files of the side that has several buffers.
-void place_files(const Options& options, const Routine& routine, Paths* in, Paths* out)
+Files place_files(const Options& options, const Routine& routine, const std::vector<std::string>& names)
 {
     const bool planes = !options.planes.empty();
-    if (options.files.size() != (planes ? 1u : 2u))
+    if (names.size() != (planes ? 1u : 2u))
         throw Failure(
             Exit::usage, "{}",
             planes ? "with --planes one file is left to name" : "name the file to read and the file to write");
-    const bool planes_go_in = planes && std::ranges::any_of(routine.arguments, [&](Arg a) { return a == Arg::dst; });
-    if (planes) {
-        (planes_go_in ? in : out)->assign(options.planes.begin(), options.planes.end());
-        (planes_go_in ? out : in)->assign(1, options.files[0]);
-    } else {
-        in->assign(1, options.files[0]);
-        out->assign(1, options.files[1]);
+    if (!planes) return {{names[0]}, {names[1]}};
+    const Paths many(options.planes.begin(), options.planes.end());
+    return takes(routine, Arg::dst) ? Files{many, {names[0]}} : Files{{names[0]}, many};
+}
+
+Exit convert_by_routine(const Options& options, const Routine& routine)
+{
+    for (const bool road_only : {options.dry_run, options.json, !options.from.empty(), !options.to.empty()})
+        if (road_only)
+            throw Failure(Exit::usage, "--from, --to, --dry-run and --json go with a road, and not with one routine");
+    if (catalog::find_layout(options.routine.layout) == nullptr) road::holds_of(options.routine.layout);
+    const Files files = place_files(options, routine, {options.words.begin() + 1, options.words.end()});
+    if (takes(routine, Arg::palette)) return convert_coded(options, routine, files);
+    ClipOptions clip_options = options.clip;
+    const bool takes_stride = takes(routine, Arg::stride);
+    if (takes_stride) clip_options.stride.clear();
+    Clip clip(clip_options, files.in);
+    const bool packs = routine.from == "i420" || routine.from == "yv12";
+    const std::string_view lines_of = packs                    ? routine.to
+                                      : routine.from == "none" ? options.routine.layout
+                                                               : routine.from;
+    const int64_t stride = takes_stride ? stride_of(options.clip.stride, lines_of, clip.size()) : 0;
+    const RoutineJob job = routine_job(routine, options.routine, clip.size(), stride);
+    if (job.from.parts.empty() || job.to.parts.empty())
+        throw Failure(Exit::usage, "{} turns no picture into another", routine.name);
+    clip.expect(job.from);
+    convert_frames(options, clip, {job.call}, job.to, files.out);
+    return Exit::done;
+}
+
+Json to_json(const road::Road& road)
+{
+    Json steps = Json::array();
+    for (const road::Stretch& stretch : road.stretches)
+        steps.push_back({{"routine", stretch.routine->name},
+                         {"from", stretch.from},
+                         {"to", stretch.to},
+                         {"losses", stretch.losses}});
+    return {{"schema", json_schema}, {"from", road.from}, {"to", road.to}, {"road", steps}, {"losses", road.losses()}};
+}
+
+void tell(const Options& options, const road::Road& road)
+{
+    if (!options.quiet && !options.json) fmt::print(stderr, "{}", to_text(road));
+}
+
+// The layouts that the caller wants, or else those that the file to be written can hold.
+std::vector<std::string_view> wanted_layouts(const Options& options, const std::string& from, const std::string& format)
+{
+    if (!options.to.empty()) return {road::holds_of(options.to).layout};
+    const auto fitting = layouts_of_format(format);
+    if (fitting.empty())
+        throw Failure(Exit::usage, "give --to LAYOUT: raw files hold any layout, and {} is read", from);
+    return fitting;
+}
+
+bool is_picture(std::string_view format)
+{
+    return format == "png" || format == "ppm" || format == "pam" || format == "bmp";
+}
+
+// Pictures are put into a layout and taken out of one, which may have less room than they.
+void add_losses_of_pictures(const Options& options, const Clip& clip, const std::string& format, road::Road& road)
+{
+    const std::string held = clip.layout();
+    if (is_picture(format_of(clip.name())) && road::holds_of(held).bits > road::holds_of(road.from).bits)
+        road.beside.push_back(fmt::format("{} bits of the picture read to {} by truncation", road::holds_of(held).bits,
+                                          road::holds_of(road.from).bits));
+    if (is_picture(format) && road.alpha && !options.sink.alpha)
+        road.beside.push_back("alpha dropped, which --alpha keeps");
+}
+
+Exit plan_road(const Options& options)
+{
+    if (options.from.empty() || options.to.empty())
+        throw Failure(Exit::usage, "without files, --dry-run takes --from LAYOUT and --to LAYOUT");
+    const Size size = options.clip.size.empty() ? Size{} : size_of(options.clip.size);
+    const std::string_view to[] = {options.to};
+    const road::Road road = road::find_road({options.from, false, size}, to);
+    if (options.json) fmt::print("{}\n", to_json(road).dump(2));
+    tell(options, road);
+    return Exit::done;
+}
+
+Exit convert_by_road(const Options& options)
+{
+    if (!options.routine.numbers.empty())
+        throw Failure(Exit::usage, "a road takes no --{}: that is an argument of one routine",
+                      catalog::describe(options.routine.numbers.begin()->first).name);
+    if (!options.planes.empty() || !options.palette.empty())
+        throw Failure(Exit::usage, "--planes and --palette go with one routine, and not with a road");
+    if (!options.from.empty()) road::holds_of(options.from);
+    if (!options.to.empty()) road::holds_of(options.to);
+    if (options.words.empty() && options.dry_run) return plan_road(options);
+    if (options.words.size() != 2) throw Failure(Exit::usage, "name the file to read and the file to write");
+    const std::string &in = options.words[0], &out = options.words[1];
+    if (out == "-" && options.json) throw Failure(Exit::usage, "--json and the frames cannot both go to stdout");
+    if (out == "-" && options.to.empty() && options.sink.format.empty())
+        throw Failure(Exit::usage, "give --to LAYOUT or --format FORMAT for what goes to stdout");
+
+    Clip clip(options.clip, {in});
+    const std::string from = options.from.empty() ? clip.layout() : options.from;
+    if (from.empty()) throw Failure(Exit::usage, "{} does not tell its layout: give --from LAYOUT", clip.name());
+    const std::string format = options.sink.format.empty() ? format_of(out) : options.sink.format;
+    road::Road road = road::find_road({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
+    add_losses_of_pictures(options, clip, format, road);
+    const std::vector<Call> calls = calls_of(road, clip.size());
+    clip.expect(plain_form(from, clip.size()));
+    tell(options, road);
+    int64_t frames = 0;
+    if (!options.dry_run) frames = convert_frames(options, clip, calls, plain_form(road.to, clip.size()), {out});
+    if (options.json) {
+        Json report = to_json(road);
+        report["size"] = {clip.size().width, clip.size().height};
+        report["frames"] = frames;
+        fmt::print("{}\n", report.dump(2));
     }
+    return Exit::done;
 }
 
 Exit run(const Options& options)
 {
-    const Routine& routine = routine_named(options.routine);
-    if (catalog::find_layout(options.layout) == nullptr)
-        throw Failure(Exit::usage, "there is no layout '{}'", options.layout);
-    Paths in, out;
-    place_files(options, routine, &in, &out);
-    if (takes(routine, Arg::palette)) return convert_coded(options, routine, in, out);
-    const std::unique_ptr<FrameSource> source = open_source(in, options.offset);
-    if (source->width() == 0 && options.size.empty())
-        throw Failure(Exit::usage, "{} does not tell its size: give --size WIDTHxHEIGHT", in[0].string());
-    const Size size = source->width() != 0 ? Size{source->width(), source->height()} : size_of(options.size);
-    return convert_frames(options, job_of(options, routine, in, out, size), source.get());
+    if (!options.words.empty() && catalog::find(options.words[0]) != nullptr)
+        return convert_by_routine(options, *catalog::find(options.words[0]));
+    if (options.words.size() == 3 || (options.words.size() == 2 && !options.planes.empty()))
+        routine_named(options.words[0]);  // says that there is none
+    return convert_by_road(options);
 }
 
 }  // namespace
 
 Command add_convert(CLI::App& tool)
 {
-    CLI::App* const app = tool.add_subcommand("convert", "Sends the frames of a file through one routine.");
+    CLI::App* const app =
+        tool.add_subcommand("convert", "Sends the frames of a file through one routine, or from layout to layout.");
     const auto options = std::make_shared<Options>();
-    app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
-    app->add_option("files", options->files, "IN OUT: raw frames, .png, .y4m, .bmp (run-length coded)")->required();
-    app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of raw frames");
-    app->add_option("--layout", options->layout, "what frames hold, for routines that take any")->capture_default_str();
+    app->add_option("words", options->words,
+                    "ROUTINE IN OUT, or IN OUT: raw frames, .png, .ppm, .pam, .bmp, .y4m; .mov and .avi to read; - for "
+                    "stdin and stdout");
+    app->add_option("--from", options->from, "the layout that is read; files that tell theirs need none");
+    app->add_option("--to", options->to, "the layout that is written; else the nearest that the file can hold");
+    app->add_flag("--dry-run", options->dry_run, "say which routines would be taken and what is lost, and stop");
+    add_clip_options(*app, options->clip);
+    app->add_option("--format", options->sink.format, "of what is written; else by the ending of its name")
+        ->check(CLI::IsMember({"raw", "y4m", "png", "ppm", "pam", "bmp"}));
+    app->add_option("-j,--jobs", options->jobs, "frames that are converted at a time; else one for each processor")
+        ->check(CLI::Range(1, 1024));
+    app->add_flag("-q,--quiet", options->quiet, "say nothing of the road, and show no progress");
+    app->add_flag("--json", options->json, "the road on stdout as JSON");
+    app->add_flag("--alpha", options->sink.alpha, "keep alpha in pictures");
+    app->add_option("--layout", options->routine.layout, "what frames hold, for routines that take any")
+        ->capture_default_str();
     app->add_option("--planes", options->planes,
                     "the files of the planes, or of the fields, in the order of the arguments")
         ->delimiter(',')
         ->allow_extra_args(false);
-    app->add_option("--offset", options->offset, "bytes to skip at the head of raw files")
-        ->check(CLI::NonNegativeNumber);
-    app->add_option("--frames", options->frames, "A:B, from frame A up to frame B, or A alone");
     app->add_option("--palette", options->palette, "256 entries of four bytes, for a raw run-length coded stream");
-    app->add_flag("--alpha", options->alpha, "keep alpha in a PNG");
-    for (const Routine& routine : catalog::routines()) {
-        for (const Arg argument : routine.arguments) {
-            const catalog::Argument& about = catalog::describe(argument);
-            const std::string name = "--" + std::string{about.name};
-            const bool told_by_size = argument == Arg::width || argument == Arg::height || argument == Arg::pixels;
-            if (about.kind == catalog::Argument::buffer || argument == Arg::ignored || told_by_size) continue;
-            if (app->get_option_no_throw(name) != nullptr) continue;
-            app->add_option_function<int64_t>(
-                   name, [options, argument](const int64_t& value) { options->numbers[argument] = value; },
-                   std::string{about.meaning})
-                ->group("Arguments of the routine");
-        }
-    }
+    add_routine_options(*app, options->routine);
     return {app, [options] { return run(*options); }};
 }
 

@@ -85,10 +85,16 @@ void report_step(const std::string& step, long width, long height, double ns_a_p
     fmt::print("{:<22} {:>12} {:>8.2f}  {}\n", step, size_text(width, height), ns_a_pixel, file);
 }
 
+Picture picture_in(const std::string& path)
+{
+    InputFile file(path);
+    return read_png(file);
+}
+
 Exit run(const Options& options)
 {
     const bool own = options.input.empty();
-    const Picture given = own ? test_card() : read_png(options.input);
+    const Picture given = own ? test_card() : picture_in(options.input);
     const Picture picture = with_8_bits(given);
     const std::filesystem::path folder = options.output;
     const std::string stem = own ? "card" : std::filesystem::path(options.input).stem().string();

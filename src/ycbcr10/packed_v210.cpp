@@ -40,10 +40,7 @@ void group_by_words(uint8_t* dst, const uint8_t* src)
     store(dst + 12, word(other, 20));
 }
 
-TNTVT_AVX2 inline __m128i load_half(const uint8_t* at)
-{
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-}
+TNTVT_AVX2 inline __m128i load_half(const uint8_t* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
 
 // Two groups, one in each half. A sample spans two bytes and begins at bit 0, 2, 4 or 6 of the first; a
 // product with 1, 4, 16 or 64 moves it to the top of 16 bits, a shift to its place in the word.

@@ -132,8 +132,8 @@ std::vector<PlacedPlane> place_planes(const SampleForm& form, int64_t width, int
     const bool packed = form.planes.size() == 1;
     int64_t offset = 0;
     for (const Plane& plane : form.planes) {
-        const int64_t line_bytes =
-            packed ? find_layout(form.layout)->line_bytes(width) : width / plane.across * plane.unit_bytes;
+        const int64_t line_bytes = packed ? std::min(find_layout(form.layout)->line_bytes(width), stride)
+                                          : width / plane.across * plane.unit_bytes;
         const int64_t lines = height / plane.down / (plane.field == 0 ? 1 : 2);
         placed.push_back({&plane, offset, packed ? stride : line_bytes, lines, line_bytes});
         offset += placed.back().stride * lines;

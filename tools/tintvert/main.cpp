@@ -17,6 +17,9 @@
 namespace tintvert::tool {
 namespace {
 
+constexpr Command (*adders[])(CLI::App&) = {add_bits, add_capture, add_compare, add_convert, add_demo, add_layouts,
+                                            add_list, add_names,   add_show,    add_st2084,  add_view};
+
 // A word that is no command gets a better answer than the parser's.
 std::string complaint(const CLI::ParseError& error, int argc, char** argv, const std::vector<Command>& commands)
 {
@@ -35,8 +38,8 @@ Exit run(int argc, char** argv)
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
     tool.set_version_flag("--version", "tintvert " TINTVERT_VERSION);
     tool.require_subcommand(1);
-    const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool),  add_layouts(tool),
-                                           add_list(tool),    add_show(tool),    add_st2084(tool)};
+    std::vector<Command> commands;
+    for (const auto add : adders) commands.push_back(add(tool));
     try {
         tool.parse(argc, argv);
     } catch (const CLI::Success& asked_for_help_or_version) {

@@ -1,0 +1,114 @@
+#include "raw_frame.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+#include "failure.h"
+#include "nearest.h"
+
+namespace tintvert::tool {
+namespace {
+
+constexpr int64_t most = int64_t{1} << 31;
+
+// A number that no int64_t holds is as large as one can be.
+bool take_number(std::string_view* text, int64_t* number)
+{
+    const auto [end, error] = std::from_chars(text->data(), text->data() + text->size(), *number);
+    if (error == std::errc::invalid_argument) return false;
+    text->remove_prefix(static_cast<size_t>(end - text->data()));
+    if (error != std::errc()) *number = most;
+    return true;
+}
+
+std::pair<int64_t, int64_t> size_of(const std::string& text)
+{
+    if (text.empty())
+        throw Failure(Exit::usage,
+                      "raw frames do not tell their size: give --size WIDTHxHEIGHT (tintvert guess may help)");
+    std::string_view rest = text;
+    int64_t width = 0, height = 0;
+    bool fits = take_number(&rest, &width) && rest.starts_with('x');
+    if (fits) rest.remove_prefix(1);
+    fits = fits && take_number(&rest, &height) && rest.empty();
+    if (!fits) throw Failure(Exit::usage, "a size is WIDTHxHEIGHT, such as 1920x1080, and not '{}'", text);
+    if (width < 1 || height < 1) throw Failure(Exit::unsafe, "refused: a picture of {}", text);
+    if (width >= most || height >= most || height > most / 8 / width)
+        throw Failure(Exit::unsafe, "refused: {} is more than 2^28 pixels", text);
+    return {width, height};
+}
+
+}  // namespace
+
+void add_frame_options(CLI::App* app, FrameOptions* options)
+{
+    app->add_option("-l,--layout", options->layout, "what the frames hold, a name that `tintvert layouts` gives")
+        ->required();
+    app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of the frames");
+    app->add_option("--stride", options->stride, "bytes from one line to the next; without it, lines have no slack")
+        ->check(CLI::NonNegativeNumber);
+    app->add_option("--offset", options->offset, "bytes to skip at the head of the file")
+        ->check(CLI::NonNegativeNumber);
+}
+
+const catalog::SampleForm& samples_named(const std::string& name)
+{
+    const size_t colon = std::min(name.find(':'), name.size());
+    const catalog::Layout& layout = layout_named(name.substr(0, colon));
+    const std::string form = name.substr(std::min(colon + 1, name.size()));
+    if (const catalog::SampleForm* samples = catalog::find_samples(layout.name, form)) return *samples;
+    if (!catalog::find_samples(layout.name)) throw Failure(Exit::usage, "{} is coded and has no samples", layout.name);
+    std::string forms;
+    for (const catalog::SampleForm& other : catalog::sample_forms())
+        if (other.layout == layout.name && !other.form.empty())
+            forms += fmt::format(" {}:{}", other.layout, other.form);
+    throw Failure(Exit::usage, "{} has no form '{}'{}{}", layout.name, form, forms.empty() ? "" : "; it has", forms);
+}
+
+FrameShape frame_shape(const FrameOptions& options)
+{
+    const catalog::SampleForm& form = samples_named(options.layout);
+    const auto [width, height] = size_of(options.size);
+    int across = 1, down = 1;
+    if (form.planes.size() > 1) {
+        for (const catalog::Plane& plane : form.planes) {
+            across = std::max(across, plane.across);
+            down = std::max(down, plane.field == 0 ? plane.down : 2);
+        }
+        if (options.stride != 0) throw Failure(Exit::usage, "the planes of {} have no stride", form.layout);
+    }
+    if (width % across != 0 || height % down != 0)
+        throw Failure(Exit::unsafe, "refused: {} of {}, which takes {} x {} pixels together", options.size, form.layout,
+                      across, down);
+    const catalog::Layout& layout = *catalog::find_layout(form.layout);
+    const int64_t tight = layout.line_bytes(width), stride = options.stride == 0 ? tight : options.stride;
+    const catalog::Plane& plane = form.planes.front();
+    const int64_t least = std::min(tight, (width + plane.across - 1) / plane.across * plane.unit_bytes);
+    if (stride < least) throw Failure(Exit::unsafe, "refused: a stride of {} for lines of {} bytes", stride, least);
+    if (stride >= most || stride > (most * 4) / height)
+        throw Failure(Exit::unsafe, "refused: {} lines of {} bytes", height, stride);
+    const int64_t bytes = options.stride == 0 ? catalog::frame_bytes(layout, width, height) : stride * height;
+    return {&form, width, height, stride, bytes, catalog::place_planes(form, width, height, stride)};
+}
+
+int64_t whole_frames(const InputFile& file, const FrameOptions& options, const FrameShape& shape)
+{
+    const int64_t bytes = std::max<int64_t>(file.size() - options.offset, 0);
+    if (bytes < shape.bytes || bytes % shape.bytes != 0)
+        throw Failure(Exit::no_file, "{} holds {} bytes{}, and a frame of {} of {} has {}", file.path().string(), bytes,
+                      options.offset == 0 ? "" : " behind the offset", options.size, options.layout, shape.bytes);
+    return bytes / shape.bytes;
+}
+
+std::vector<uint8_t> read_frame(InputFile& file, const FrameOptions& options, const FrameShape& shape, int64_t index)
+{
+    const int64_t frames = whole_frames(file, options, shape);
+    if (index >= frames)
+        throw Failure(Exit::unsafe, "refused: frame {} of {}, which holds {}", index, file.path().string(), frames);
+    std::vector<uint8_t> frame(static_cast<size_t>(shape.bytes));
+    file.read(options.offset + index * shape.bytes, frame.data(), shape.bytes);
+    return frame;
+}
+
+}  // namespace tintvert::tool

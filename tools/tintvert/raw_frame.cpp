@@ -22,7 +22,9 @@ bool take_number(std::string_view* text, int64_t* number)
     return true;
 }
 
-std::pair<int64_t, int64_t> size_of(const std::string& text)
+}  // namespace
+
+FrameSize size_of(const std::string& text)
 {
     if (text.empty())
         throw Failure(Exit::usage,
@@ -38,8 +40,6 @@ std::pair<int64_t, int64_t> size_of(const std::string& text)
         throw Failure(Exit::unsafe, "refused: {} is more than 2^28 pixels", text);
     return {width, height};
 }
-
-}  // namespace
 
 void add_frame_options(CLI::App* app, FrameOptions* options)
 {

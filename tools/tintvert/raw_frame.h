@@ -16,6 +16,13 @@ struct FrameOptions {
     int64_t stride = 0, offset = 0;  // a stride of 0: lines without slack
 };
 
+struct FrameSize {
+    int64_t width, height;
+};
+
+// WIDTHxHEIGHT. Throws Failure for what is no size, is empty, or is beyond 2^28 pixels.
+FrameSize size_of(const std::string& text);
+
 // --layout, --size, --stride, --offset
 void add_frame_options(CLI::App* app, FrameOptions* options);
 

@@ -17,9 +17,9 @@
 namespace tintvert::tool {
 namespace {
 
-constexpr Command (*adders[])(CLI::App&) = {add_bits,    add_capture, add_compare, add_convert, add_demo,
-                                            add_explain, add_layouts, add_list,    add_names,   add_show,
-                                            add_st2084,  add_verify,  add_view};
+constexpr Command (*adders[])(CLI::App&) = {
+    add_bits,    add_capture, add_compare, add_completions, add_convert, add_demo,   add_explain, add_guess,
+    add_layouts, add_list,    add_man,     add_names,       add_show,    add_st2084, add_verify,  add_view};
 
 // A word that is no command gets a better answer than the parser's.
 std::string complaint(const CLI::ParseError& error, int argc, char** argv, const std::vector<Command>& commands)

@@ -33,6 +33,7 @@ void catch_interrupts()
         sigaction(signal, &action, nullptr);
     }
     std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 void set_unfinished(const char* path)

@@ -4,7 +4,7 @@
 namespace tintvert::tool {
 
 // SIGINT, SIGTERM and SIGHUP, unless they came in ignored. A file that grows past the limit of the process
-// (SIGXFSZ) is no signal here but a failed write.
+// (SIGXFSZ) and a pipe that nobody reads (SIGPIPE) are no signals here but failed writes.
 void catch_interrupts();
 
 // The file that a signal removes; one at a time. Null for none.

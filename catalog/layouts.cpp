@@ -17,266 +17,90 @@ int64_t v210_line(int64_t width) { return (width + 47) / 48 * 128; }
 int64_t pgroup_line(int64_t width) { return width * 20 >> 3; }
 int64_t rgb12_line(int64_t width) { return (width * 36 + 31) / 32 * 4; }
 
-// Bytes from the lowest address, b0 first; bits of a byte or word from the highest to the lowest.
 constexpr Layout all[] = {
     {"2vuy", "8-bit 4:2:2, chroma first, unsigned chroma", "uyvy422", "UYVY", "2vuy UYVY", "UYVY", bytes_a_pixel<2>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- Cb   Y0   Cr   Y1      one pair
-)"},
+     Planes::packed, ""},
     {"2yuv", "The bytes of 2vuy; which chroma is which does not matter", "uyvy422", "UYVY", "2vuy UYVY", "UYVY",
-     bytes_a_pixel<2>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- C    Y0   C    Y1      one pair; neutral chroma is 0x80
-)"},
+     bytes_a_pixel<2>, Planes::packed, "Neutral chroma is 0x80."},
     {"yuv2", "8-bit 4:2:2, luma first, full range, signed chroma", "", "", "yuv2", "", bytes_a_pixel<2>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- Y0   Cb   Y1   Cr      one pair; chroma 0x00 is neutral, 0x7F highest, 0x81 lowest
-)"},
+     "Chroma 0x00 is neutral, 0x7F highest, 0x81 lowest."},
     {"yuvu", "The same layout as yuv2", "", "", "yuvu", "", bytes_a_pixel<2>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- Y0   Cb   Y1   Cr      one pair; chroma 0x00 is neutral, 0x7F highest, 0x81 lowest
-)"},
+     "Chroma 0x00 is neutral, 0x7F highest, 0x81 lowest."},
     {"yuvs", "8-bit 4:2:2, luma first, full range, unsigned chroma", "yuyv422", "YUY2", "yuvs YUY2", "YUY2",
-     bytes_a_pixel<2>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- Y0   Cb   Y1   Cr      one pair; chroma 128 is neutral
-)"},
+     bytes_a_pixel<2>, Planes::packed, "Chroma 128 is neutral."},
     {"YUY2", "8-bit 4:2:2, luma first, no range change", "yuyv422", "YUY2", "YUY2 yuvs", "YUY2", bytes_a_pixel<2>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- Y0   Cb   Y1   Cr      one pair
-)"},
-    {"yuv444", "8-bit 4:4:4, contiguous", "", "v308", "", "", bytes_a_pixel<3>, Planes::packed,
-     R"(
- b0   b1   b2
- Y    Cb   Cr           one pixel
-)"},
+     Planes::packed, ""},
+    {"yuv444", "8-bit 4:4:4, contiguous", "", "v308", "", "", bytes_a_pixel<3>, Planes::packed, ""},
     {"yuvijg", "8-bit 4:4:4, full range", "", "v308", "", "", bytes_a_pixel<3>, Planes::packed,
-     R"(
- b0   b1   b2
- Y    Cb   Cr           one pixel; chroma 128 is neutral
-)"},
+     "Chroma 128 is neutral."},
     {"planar422", "8-bit 4:2:2 in three planes without lines", "yuv422p", "Y42B", "", "I422", bytes_a_pixel<1>,
-     Planes::yuv422,
-     R"(
- plane Y    Y0 Y1 Y2 Y3 ...
- plane Cb   Cb0   Cb2   ...
- plane Cr   Cr0   Cr2   ...
-)"},
+     Planes::yuv422, "Planes are unbroken runs."},
     {"field_planes", "Planar 4:2:2 for each of two fields, six planes", "", "", "", "", bytes_a_pixel<1>,
-     Planes::fields422,
-     R"(
- first field    plane Y1, plane Cb1, plane Cr1      frame lines 0, 2, 4 ...
- second field   plane Y2, plane Cb2, plane Cr2      frame lines 1, 3, 5 ...
-)"},
+     Planes::fields422, ""},
     {"i420", "8-bit 4:2:0 in one buffer, Cb before Cr", "yuv420p", "I420", "I420", "I420", bytes_a_pixel<1>,
      Planes::yuv420,
-     R"(
- n = width x height
- Y    n bytes, lines of `width`
- Cb   from n on, lines of `width` / 2, each for two luma lines
- Cr   from n + (n >> 2) on
-)"},
+     "Y takes n = width x height bytes. Cb begins at n, Cr at n + (n >> 2); lines of both have width / 2 bytes."},
     {"yv12", "8-bit 4:2:0 in one buffer, Cr before Cb", "yuv420p (planes exchanged)", "YV12", "YV12", "YV12",
      bytes_a_pixel<1>, Planes::yuv420,
-     R"(
- n = width x height
- Y    n bytes, lines of `width`
- Cr   from n on, lines of `width` / 2, each for two luma lines
- Cb   from n + (n >> 2) on
-)"},
+     "Y takes n = width x height bytes. Cr begins at n, Cb at n + (n >> 2); lines of both have width / 2 bytes."},
     {"planar420", "8-bit 4:2:0 in three planes: what YUY2toYV12 writes", "yuv420p", "I420", "", "I420",
-     bytes_a_pixel<1>, Planes::yuv420,
-     R"(
- plane Y    lines `dstPitch` apart
- plane Cb   lines `dstPitch` / 2 apart, each for two luma lines
- plane Cr   the same
-)"},
+     bytes_a_pixel<1>, Planes::yuv420, "Luma lines stand `dstPitch` apart, chroma lines half of that."},
     {"alphay", "One byte a pixel, a key carried as luma", "gray", "GRAY8", "Y800", "I400", bytes_a_pixel<1>,
-     Planes::packed,
-     R"(
- b0
- Y                      one pixel
-)"},
+     Planes::packed, ""},
     {"alpha", "One byte a pixel, pitch equal to `width`", "gray", "GRAY8", "Y800", "I400", bytes_a_pixel<1>,
-     Planes::packed,
-     R"(
- b0
- A                      one pixel
-)"},
+     Planes::packed, ""},
     {"v210", "10-bit 4:2:2, six pixels in four little-endian words", "codec v210", "v210", "v210", "", v210_line,
-     Planes::packed,
-     R"(
-          31 30  29 ..... 20  19 ..... 10   9 ...... 0
- word 0     -        Cr0          Y0           Cb0
- word 1     -        Y2           Cb2          Y1
- word 2     -        Cb4          Y3           Cr2
- word 3     -        Y5           Cr4          Y4       one group of six pixels, 16 bytes
-)"},
+     Planes::packed, ""},
     {"pgroups", "10-bit 4:2:2, two pixels in five bytes, bits in order (RFC 4175)", "codec bitpacked", "UYVP", "", "",
-     pgroup_line, Planes::packed,
-     R"(
- b0         b1         b2         b3         b4
- CCCCCCCC   CCYYYYYY   YYYYDDDD   DDDDDDyy   yyyyyyyy      C = Cb, Y = Y0, D = Cr, y = Y1, bit 9 first
-)"},
-    {"rgb32", "8-bit RGB and alpha, blue first", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- B    G    R    A       one pixel
-)"},
-    {"rgba32", "The same layout as rgb32", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- B    G    R    A       one pixel
-)"},
+     pgroup_line, Planes::packed, "Bits go out in order, bit 9 of a sample first."},
+    {"rgb32", "8-bit RGB and alpha, blue first", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>, Planes::packed, ""},
+    {"rgba32", "The same layout as rgb32", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>, Planes::packed, ""},
     {"BGRA", "rgb32 as the line routines call it; b3 is not read", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- B    G    R    -       one pixel
-)"},
+     Planes::packed, ""},
     {"ARGB", "Alpha first, as the line routines call it; not argb32", "argb", "ARGB", "raw (32 bit)", "BGRA",
-     bytes_a_pixel<4>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- -    R    G    B       one pixel
-)"},
+     bytes_a_pixel<4>, Planes::packed, ""},
     {"bgra32", "rgba32 with bytes 0 and 2 exchanged; not the BGRA of the line routines", "rgba", "RGBA", "RGBA", "ABGR",
-     bytes_a_pixel<4>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- R    G    B    A       one pixel
-)"},
-    {"bgr32", "The same layout as bgra32", "rgba", "RGBA", "RGBA", "ABGR", bytes_a_pixel<4>, Planes::packed,
-     R"(
- b0   b1   b2   b3
- R    G    B    A       one pixel
-)"},
+     bytes_a_pixel<4>, Planes::packed, ""},
+    {"bgr32", "The same layout as bgra32", "rgba", "RGBA", "RGBA", "ABGR", bytes_a_pixel<4>, Planes::packed, ""},
     {"abgr32", "rgba32 with all four bytes reversed", "argb", "ARGB", "raw (32 bit)", "BGRA", bytes_a_pixel<4>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- A    R    G    B       one pixel
-)"},
+     Planes::packed, ""},
     {"argb32", "The rgba32 word rotated right by 8 bits; it has no name elsewhere", "", "", "", "", bytes_a_pixel<4>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- G    R    A    B       one pixel
-)"},
+     Planes::packed, ""},
     {"rgba", "Four bytes a pixel as the alpha routines see them", "bgra", "BGRA", "BGRA", "ARGB", bytes_a_pixel<4>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- c0   c1   c2   A       one pixel; tntvt_rgba_to_alpha takes b0
-)"},
+     Planes::packed, "tntvt_rgba_to_alpha takes b0."},
     {"macargb32", "Alpha first, colours as they came", "argb", "ARGB", "raw (32 bit)", "BGRA", bytes_a_pixel<4>,
-     Planes::packed,
-     R"(
- b0   b1   b2   b3
- A    c0   c1   c2      one pixel
-)"},
-    {"macbgr24", "Three colour bytes", "rgb24", "RGB", "raw (24 bit)", "RAW", bytes_a_pixel<3>, Planes::packed,
-     R"(
- b0   b1   b2
- c0   c1   c2           one pixel
-)"},
-    {"rgb24", "8-bit RGB, blue first", "bgr24", "BGR", "24BG", "RGB24", bytes_a_pixel<3>, Planes::packed,
-     R"(
- b0   b1   b2
- B    G    R            one pixel
-)"},
+     Planes::packed, ""},
+    {"macbgr24", "Three colour bytes", "rgb24", "RGB", "raw (24 bit)", "RAW", bytes_a_pixel<3>, Planes::packed, ""},
+    {"rgb24", "8-bit RGB, blue first", "bgr24", "BGR", "24BG", "RGB24", bytes_a_pixel<3>, Planes::packed, ""},
     {"rgba24", "The bytes of rgb24, met in one routine's name", "bgr24", "BGR", "24BG", "RGB24", bytes_a_pixel<3>,
-     Planes::packed,
-     R"(
- b0   b1   b2
- B    G    R            one pixel
-)"},
-    {"bgr24", "8-bit RGB, red first", "rgb24", "RGB", "raw (24 bit)", "RAW", bytes_a_pixel<3>, Planes::packed,
-     R"(
- b0   b1   b2
- R    G    B            one pixel
-)"},
+     Planes::packed, ""},
+    {"bgr24", "8-bit RGB, red first", "rgb24", "RGB", "raw (24 bit)", "RAW", bytes_a_pixel<3>, Planes::packed, ""},
     {"rgb16", "5 bits a channel in a little-endian word", "rgb555le", "RGB15", "L555", "ARGB1555", bytes_a_pixel<2>,
-     Planes::packed,
-     R"(
- 15  14 ... 10  9 .... 5  4 .... 0
-  -      R          G         B     one pixel; bit 15 is 0 when written, ignored when read
-)"},
+     Planes::packed, "Bit 15 is 0 when written and ignored when read."},
     {"rgb48", "16-bit channels, little-endian", "bgr48le", "", "", "", bytes_a_pixel<6>, Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5
- s0      s1      s2          one pixel; s0, s1, s2 go to b0, b1, b2 of rgba32
-)"},
+     "The words go to b0, b1 and b2 of rgba32."},
     {"bgr48", "rgb48 with the channels reversed", "rgb48le", "", "", "", bytes_a_pixel<6>, Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5
- s0      s1      s2          one pixel; s0, s1, s2 go to b2, b1, b0 of rgba32
-)"},
-    {"rgb48_12", "12-bit values in the low bits of 16-bit words", "", "", "", "", bytes_a_pixel<6>, Planes::packed,
-     R"(
- 15 .. 12  11 ......... 0
-     -        sample n       three words a pixel
-)"},
+     "The words go to b2, b1 and b0 of rgba32."},
+    {"rgb48_12", "12-bit values in the low bits of 16-bit words", "", "", "", "", bytes_a_pixel<6>, Planes::packed, ""},
     {"rgba64", "16-bit channels, alpha last, blue first", "bgra64le", "BGRA64_LE", "", "AR64", bytes_a_pixel<8>,
-     Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5   b6 b7
- B       G       R       A       one pixel
-)"},
+     Planes::packed, ""},
     {"bgra64", "16-bit channels, alpha last, red first", "rgba64le", "RGBA64_LE", "", "AB64", bytes_a_pixel<8>,
-     Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5   b6 b7
- R       G       B       A       one pixel
-)"},
+     Planes::packed, ""},
     {"argb64", "16-bit channels, alpha first, then blue", "", "ABGR64_LE", "", "", bytes_a_pixel<8>, Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5   b6 b7
- A       B       G       R       one pixel
-)"},
-    {"abgr64", "16-bit channels, alpha first, then red", "", "ARGB64_LE", "", "", bytes_a_pixel<8>, Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5   b6 b7
- A       R       G       B       one pixel
-)"},
-    {"argb64be", "argb64 with big-endian channels", "", "ABGR64_BE", "", "", bytes_a_pixel<8>, Planes::packed,
-     R"(
- b0 b1   b2 b3   b4 b5   b6 b7
- A       B       G       R       one pixel, high byte first
-)"},
+     ""},
+    {"abgr64", "16-bit channels, alpha first, then red", "", "ARGB64_LE", "", "", bytes_a_pixel<8>, Planes::packed, ""},
+    {"argb64be", "argb64 with big-endian channels", "", "ABGR64_BE", "", "", bytes_a_pixel<8>, Planes::packed, ""},
     {"rgb10", "10-bit RGB in a word, either byte order", "codec r10k (big-endian)", "", "R10k (big-endian)",
-     "AR30 shifted left by 2 (little-endian)", bytes_a_pixel<4>, Planes::packed,
-     R"(
- 31 ..... 22  21 ..... 12  11 ...... 2   1 0
-      R            G            B         -    one pixel; lines have no gap
-)"},
+     "AR30 shifted left by 2 (little-endian)", bytes_a_pixel<4>, Planes::packed, "Lines have no gap."},
     {"rgb12", "12-bit RGB without gaps, two arrangements", "", "", "", "", rgb12_line, Planes::packed,
-     R"(
- read by the unpackers: little-endian 32-bit words filled from bit 0 upward (packed 12-bit DPX)
- word 0      S2 7..0   | S1 11..0  | S0 11..0
- word 1      S5 3..0   | S4 11..0  | S3 11..0  | S2 11..8
- word 2      S7 11..0  | S6 11..0  | S5 11..4              eight samples, highest bits first
-
- written by the packers: bytes filled from bit 7 downward (12-bit TIFF, RFC 4175 RGB depth 12)
- b0          b1                    b2
- S0 11..4    S0 3..0 | S1 11..8    S1 7..0                   two samples in three bytes
-)"},
+     "dpx is what the unpackers read: 32-bit words filled from bit 0 upward (packed 12-bit DPX). tiff is what the "
+     "packers\nwrite: bytes filled from bit 7 downward (12-bit TIFF, RFC 4175 RGB depth 12)."},
     {"rle8", "Run-length coded palette indices", "msrle in BMP", "", "mrle", "", none, Planes::packed,
-     R"(
- c v        c pixels of palette entry v, for c from 1 to 255
- 0 0        end of line
- 0 1        end of bitmap
- 0 2        end of bitmap: no movement exists
- 0 v ...    v index bytes and a pad byte if v is odd, for v from 3 to 255
-)"},
+     R"(c v        c pixels of palette entry v, for c from 1 to 255
+0 0        end of line
+0 1        end of bitmap
+0 2        end of bitmap: no movement exists
+0 v ...    v index bytes and a pad byte if v is odd, for v from 3 to 255)"},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The memory layouts: a picture, the names that they have elsewhere, and two lines of arithmetic.
+// The memory layouts: the names that they have elsewhere and two lines of arithmetic. Their samples are in
+// samples.h.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +15,7 @@ struct Layout {
     std::string_view ffmpeg, gstreamer, fourcc, libyuv;  // empty if there is none
     int64_t (*line_bytes)(int64_t width);                // of the packed or the luma plane, without slack; 0: no lines
     Planes planes;
-    std::string_view picture;
+    std::string_view note;  // what their samples (samples.h) do not tell
 };
 
 std::span<const Layout> layouts();

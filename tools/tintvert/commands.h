@@ -14,12 +14,21 @@ struct Command {
     std::function<Exit()> run;  // data to stdout, everything else to stderr
 };
 
+Command add_bits(CLI::App& tool);
 Command add_capture(CLI::App& tool);
+Command add_compare(CLI::App& tool);
+Command add_completions(CLI::App& tool);
 Command add_convert(CLI::App& tool);
 Command add_demo(CLI::App& tool);
+Command add_explain(CLI::App& tool);
+Command add_guess(CLI::App& tool);
 Command add_layouts(CLI::App& tool);
 Command add_list(CLI::App& tool);
+Command add_man(CLI::App& tool);
+Command add_names(CLI::App& tool);
 Command add_show(CLI::App& tool);
 Command add_st2084(CLI::App& tool);
+Command add_verify(CLI::App& tool);
+Command add_view(CLI::App& tool);
 
 }  // namespace tintvert::tool

@@ -18,6 +18,10 @@
 namespace tintvert::tool {
 namespace {
 
+constexpr Command (*adders[])(CLI::App&) = {
+    add_bits,    add_capture, add_compare, add_completions, add_convert, add_demo,   add_explain, add_guess,
+    add_layouts, add_list,    add_man,     add_names,       add_show,    add_st2084, add_verify,  add_view};
+
 // "--frm=2" without its value.
 std::string_view name_of_option(std::string_view word) { return word.substr(0, word.find('=')); }
 
@@ -65,8 +69,8 @@ Exit run(int argc, char** argv)
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
     tool.set_version_flag("--version", version_text());
     tool.require_subcommand(1);
-    const std::vector<Command> commands = {add_capture(tool), add_convert(tool), add_demo(tool),  add_layouts(tool),
-                                           add_list(tool),    add_show(tool),    add_st2084(tool)};
+    std::vector<Command> commands;
+    for (const auto add : adders) commands.push_back(add(tool));
     try {
         tool.parse(argc, argv);
     } catch (const CLI::Success& asked_for_help_or_version) {

@@ -53,4 +53,12 @@ const catalog::Routine& routine_named(const std::string& name)
     throw Failure(Exit::usage, "there is no routine '{}'{}", name, suggestion(name, names));
 }
 
+const catalog::Layout& layout_named(const std::string& name)
+{
+    if (const catalog::Layout* layout = catalog::find_layout(name)) return *layout;
+    std::vector<std::string_view> names;
+    for (const catalog::Layout& layout : catalog::layouts()) names.push_back(layout.name);
+    throw Failure(Exit::usage, "there is no layout '{}'{}", name, suggestion(name, names));
+}
+
 }  // namespace tintvert::tool

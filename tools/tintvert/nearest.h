@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "catalog.h"
+#include "layouts.h"
 
 namespace tintvert::tool {
 
@@ -13,7 +14,8 @@ namespace tintvert::tool {
 // of the library's names may be left out.
 std::string suggestion(std::string_view typed, std::span<const std::string_view> candidates);
 
-// Throws Failure if the catalogue has no such routine.
+// Throw Failure if the catalogue has none of that name.
 const catalog::Routine& routine_named(const std::string& name);
+const catalog::Layout& layout_named(const std::string& name);
 
 }  // namespace tintvert::tool

@@ -7,7 +7,7 @@
 
 #include "commands.h"
 #include "json.h"
-#include "layouts.h"
+#include "layout_picture.h"
 #include "nearest.h"
 
 namespace tintvert::tool {
@@ -16,7 +16,7 @@ namespace {
 using catalog::Layout;
 
 struct Options {
-    std::string name;
+    std::string name, color;
     bool json = false, markdown = false;
 };
 
@@ -24,10 +24,7 @@ std::vector<Layout> chosen(const std::string& name)
 {
     const auto all = catalog::layouts();
     if (name.empty()) return {all.begin(), all.end()};
-    if (const Layout* layout = catalog::find_layout(name)) return {*layout};
-    std::vector<std::string_view> names;
-    for (const Layout& layout : all) names.push_back(layout.name);
-    throw Failure(Exit::usage, "there is no layout '{}'{}", name, suggestion(name, names));
+    return {layout_named(name)};
 }
 
 std::string names_elsewhere(const Layout& layout)
@@ -43,7 +40,37 @@ std::string names_elsewhere(const Layout& layout)
     return text.empty() ? "no name elsewhere" : text;
 }
 
-std::string_view picture_of(const Layout& layout) { return layout.picture.substr(1); }
+Json to_json(const catalog::Plane& plane)
+{
+    Json samples = Json::array();
+    for (const catalog::Sample& sample : plane.fields)
+        if (!sample.component.empty())
+            samples.push_back({{"component", sample.component},
+                               {"pixel", sample.pixel},
+                               {"word", sample.word},
+                               {"low_bit", sample.low},
+                               {"bits", sample.bits},
+                               {"signed", sample.is_signed}});
+    return {{"pixels_across", plane.across},
+            {"pixels_down", plane.down},
+            {"field", plane.field},
+            {"unit_bytes", plane.unit_bytes},
+            {"word_bytes", plane.word_bytes},
+            {"byte_order", plane.big_endian ? "big" : "little"},
+            {"samples", samples}};
+}
+
+Json forms_to_json(const Layout& layout)
+{
+    Json forms = Json::array();
+    for (const catalog::SampleForm& form : catalog::sample_forms()) {
+        if (form.layout != layout.name) continue;
+        Json planes = Json::array();
+        for (const catalog::Plane& plane : form.planes) planes.push_back(to_json(plane));
+        forms.push_back({{"form", form.form}, {"planes", planes}});
+    }
+    return forms;
+}
 
 void print_json(const std::vector<Layout>& layouts)
 {
@@ -56,7 +83,8 @@ void print_json(const std::vector<Layout>& layouts)
                         {"fourcc", layout.fourcc},
                         {"libyuv", layout.libyuv},
                         {"line_bytes_1920", layout.line_bytes(1920)},
-                        {"picture", picture_of(layout)}});
+                        {"picture", picture_of(layout, Painter(false))},
+                        {"forms", forms_to_json(layout)}});
     fmt::print("{}\n", Json{{"schema", json_schema}, {"layouts", list}}.dump(2));
 }
 
@@ -84,13 +112,17 @@ void print_markdown(const std::vector<Layout>& layouts)
     fmt::print("{}", introduction);
     for (const Layout& layout : layouts)
         fmt::print("\n## {}\n\n{}. Elsewhere: {}.\n\n```text\n{}```\n", layout.name, layout.summary,
-                   names_elsewhere(layout), picture_of(layout));
+                   names_elsewhere(layout), picture_of(layout, Painter(false)));
 }
 
-void print_text(const std::vector<Layout>& layouts)
+// A single layout is drawn bit by bit too.
+void print_text(const std::vector<Layout>& layouts, const Painter& paint)
 {
     for (const Layout& layout : layouts)
-        fmt::print("{}\n  {}\n  {}\n\n{}\n", layout.name, layout.summary, names_elsewhere(layout), picture_of(layout));
+        fmt::print("{}{}\n  {}\n  {}\n\n{}", &layout == layouts.data() ? "" : "\n", layout.name, layout.summary,
+                   names_elsewhere(layout), picture_of(layout, paint));
+    const std::string bits = layouts.size() == 1 ? bits_picture_of(layouts.front(), paint) : "";
+    if (!bits.empty()) fmt::print("\n{}", bits);
 }
 
 Exit run(const Options& options)
@@ -101,7 +133,7 @@ Exit run(const Options& options)
     else if (options.markdown)
         print_markdown(layouts);
     else
-        print_text(layouts);
+        print_text(layouts, Painter(wants_color(options.color)));
     return Exit::done;
 }
 
@@ -114,6 +146,7 @@ Command add_layouts(CLI::App& tool)
     app->add_option("layout", options->name, "one of them; without it, all");
     app->add_flag("--json", options->json, "JSON instead of text");
     app->add_flag("--markdown", options->markdown, "the page docs/layouts.md");
+    add_color_option(app, &options->color);
     return {app, [options] { return run(*options); }};
 }
 

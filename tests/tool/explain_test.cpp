@@ -1,0 +1,109 @@
+// explain: what a call reads and writes, and the C that makes it.
+#include <nlohmann/json.hpp>
+
+#include "catalog.h"
+#include "geometry.h"
+#include "tool/run.h"
+
+namespace tintvert::test {
+namespace {
+
+using Json = nlohmann::json;
+
+class Explain : public ToolTest {};
+
+Json explained(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "explain");
+    arguments.push_back("--json");
+    const Result result = run(arguments);
+    EXPECT_EQ(result.code, 0) << result.err;
+    return Json::parse(result.out, nullptr, false);
+}
+
+TEST_F(Explain, text)
+{
+    const Result result = run({"explain", "tntvt_v210_2vuy", "-s", "1280x720"});
+    EXPECT_EQ(result.code, 0) << result.err;
+    for (const char* line : {"tntvt_v210_2vuy(dst, src, width 1280, height 720, srcStride 3456)\n",
+                             "reads         2488320 bytes, v210\n", "writes        1843200 bytes, 2vuy\n",
+                             "  2564 behind the picture\n", "  keeps_double_length_lines\n", "gst-launch-1.0 -q fdsrc"})
+        EXPECT_NE(result.out.find(line), std::string::npos) << result.out;
+}
+
+TEST_F(Explain, extents_are_those_of_the_catalogue)
+{
+    for (const catalog::Routine& routine : catalog::routines()) {
+        if (routine.from == "rle8") continue;  // as far as the stream says
+        const Json told = explained({std::string(routine.name), "--size", "96x6"});
+        const catalog::Arguments call = catalog::plain_call(routine, {96, 6});
+        for (const catalog::Touch& touch : routine.extents(call)) {
+            Json own;
+            for (const Json& buffer : told["buffers"])
+                if (buffer["name"] == catalog::describe(touch.buffer).name) own = buffer;
+            const auto range = [](catalog::Range r) { return r.empty() ? Json() : Json{r.begin, r.end}; };
+            EXPECT_EQ(own["read"], range(touch.read)) << routine.name;
+            EXPECT_EQ(own["written"], range(touch.written)) << routine.name;
+        }
+    }
+}
+
+TEST_F(Explain, arguments_of_the_routine)
+{
+    const Json told = explained({"tntvt_yuv422_rgb24", "-s", "64x8", "--scale", "2", "--dstStride", "128"});
+    EXPECT_EQ(told["arguments"]["dstStride"], 128);
+    EXPECT_EQ(told["arguments"]["scale"], 2);
+    EXPECT_EQ(told["bytes_out"], 128 * 4);
+    EXPECT_EQ(run({"explain", "tntvt_2vuy_v210", "-s", "64x8", "--scale", "2"}).code, 2);
+}
+
+// Every call as a program: it compiles in both languages without a warning, and runs.
+TEST_F(Explain, calls_compile_and_run)
+{
+    std::string source, all;
+    for (const catalog::Routine& routine : catalog::routines()) {
+        const Result result = run({"explain", std::string(routine.name), "-s", "48x4", "--show-call"});
+        ASSERT_EQ(result.code, 0) << result.err;
+        std::string call = result.out;
+        const std::string main = "int main(void)", name = "call_" + std::string(routine.name);
+        const size_t at = call.find(main);
+        ASSERT_NE(at, std::string::npos);
+        source += call.replace(at, main.size(), "static int " + name + "(void)");
+        all += name + "() + ";
+    }
+    source += "int main(void) { return " + all + "0; }\n";
+    save("calls.c", source);
+    const std::string warnings = " -Wall -Wextra -Wpedantic -Werror -I" TINTVERT_PROJECT "/include ";
+    const auto shell = [](const std::string& command) { return std::system(command.c_str()); };
+    EXPECT_EQ(shell(TINTVERT_CXX_COMPILER " -std=c++20 -x c++ -fsyntax-only" + warnings + path("calls.c")), 0);
+    ASSERT_EQ(shell(TINTVERT_C_COMPILER " -std=c11 " TINTVERT_LINK_FLAGS + warnings + path("calls.c") + " -o " +
+                    path("calls") + " -L" TINTVERT_LIBRARIES " -Wl,-rpath," TINTVERT_LIBRARIES " -ltintvert"),
+              0);
+    EXPECT_EQ(shell(path("calls")), 0);
+}
+
+TEST_F(Explain, refuses)
+{
+    const std::vector<std::pair<std::vector<std::string>, int>> wrong = {
+        {{"tntvt_2vuy_v20", "-s", "64x8"}, 2},
+        {{"tntvt_2vuy_v210"}, 2},
+        {{"tntvt_2vuy_v210", "-s", "64"}, 2},
+        {{"tntvt_2vuy_v210", "-s", "0x8"}, 4},
+        {{"tntvt_2vuy_v210", "-s", "64x-8"}, 4},
+        {{"tntvt_2vuy_v210", "-s", "2147483648x1"}, 4},
+        {{"tntvt_2vuy_v210", "-s", "65536x65536"}, 4},
+        {{"tntvt_2vuy_v210", "-s", "99999999999999999999x2"}, 4},
+        {{"tntvt_yuv422_rgb24", "-s", "8x8", "--scale", "0"}, 4},
+        {{"tntvt_v210_frame_to_rtp_4175", "-s", "7x8"}, 4}};
+    for (const auto& [arguments, code] : wrong) {
+        std::vector<std::string> words = arguments;
+        words.insert(words.begin(), "explain");
+        const Result result = run(words);
+        EXPECT_EQ(result.code, code) << result.err;
+        EXPECT_TRUE(result.has_one_line_of_error()) << result.err;
+        EXPECT_EQ(result.out, "");
+    }
+}
+
+}  // namespace
+}  // namespace tintvert::test

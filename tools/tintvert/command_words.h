@@ -1,0 +1,26 @@
+// The commands with their options as words: for completions and man pages.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+namespace tintvert::tool {
+
+struct OptionWords {
+    std::vector<std::string> names;  // with their hyphens
+    std::string description;
+    bool takes_value;
+    std::vector<std::string> values;  // empty for files and numbers
+};
+
+struct CommandWords {
+    std::string name, description;
+    std::vector<OptionWords> options;
+    std::vector<std::pair<std::string, std::string>> positionals;  // name, description
+    std::vector<std::string> positional_values;                    // of the first; empty for files
+};
+
+std::vector<CommandWords> command_words(const CLI::App& tool);
+
+}  // namespace tintvert::tool

@@ -1,0 +1,193 @@
+// tintvert explain: what one call reads, writes and meets at a given geometry.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "call_plan.h"
+#include "commands.h"
+#include "json.h"
+#include "nearest.h"
+#include "oddities.h"
+#include "peer_checks.h"
+#include "raw_frame.h"
+
+namespace tintvert::tool {
+namespace {
+
+using catalog::Range;
+
+struct Options {
+    std::string routine, size, layout = "rgb32";
+    ArgumentOptions numbers;
+    bool show_call = false, json = false;
+};
+
+int64_t bytes_of(const CallPlan& plan, bool PlannedBuffer::*direction)
+{
+    int64_t bytes = 0;
+    for (const PlannedBuffer& buffer : plan.buffers)
+        if (buffer.*direction) bytes += buffer.picture.end - buffer.picture.begin;
+    return bytes;
+}
+
+std::string_view name_of(const PlannedBuffer& buffer) { return catalog::describe(buffer.argument).name; }
+
+// What lies outside of the picture, and what of it is left out.
+std::string meets_picture(const Range& reach, const Range& picture)
+{
+    if (picture.empty()) return {};
+    std::string text;
+    const auto add = [&](int64_t bytes, const char* what) {
+        if (bytes > 0) text += fmt::format("{}{} {}", text.empty() ? "" : ", ", bytes, what);
+    };
+    add(picture.begin - reach.begin, "before the picture");
+    add(reach.end - picture.end, "behind the picture");
+    add(std::min(reach.begin, picture.end) - picture.begin, "left out at its head");
+    add(picture.end - std::max(reach.end, picture.begin), "left out at its end");
+    return text;
+}
+
+// Sixty columns for all of a buffer; a range that is not empty has at least one.
+std::string bar(const Range& range, const Range& whole)
+{
+    constexpr int64_t columns = 60;
+    const double length = static_cast<double>(whole.end - whole.begin);
+    const auto column = [&](int64_t byte) {
+        return static_cast<int64_t>(static_cast<double>(byte - whole.begin) / length * columns);
+    };
+    const int64_t begin = std::min(column(range.begin), columns - 1), end = std::max(column(range.end), begin + 1);
+    return std::string(static_cast<size_t>(begin), '.') + std::string(static_cast<size_t>(end - begin), '#') +
+           std::string(static_cast<size_t>(columns - end), '.');
+}
+
+void print_range(const char* what, const Range& range, const PlannedBuffer& buffer)
+{
+    if (range.empty()) return;
+    const std::string more = what == std::string_view("picture") ? "" : meets_picture(range, buffer.picture);
+    fmt::print("    {:<8}{:>12} to {:<12}|{}|{}{}\n", what, range.begin, range.end, bar(range, buffer.whole()),
+               more.empty() ? "" : "  ", more);
+}
+
+std::string on_one_line(const std::vector<std::string>& command)
+{
+    std::string text;
+    for (const std::string& word : command) {
+        const bool quoted = word == "!";
+        text += fmt::format("{}{}{}{}", text.empty() ? "" : " ", quoted ? "'" : "", word, quoted ? "'" : "");
+    }
+    return text + " < in > out";
+}
+
+std::vector<std::string> peers_of(const Options& options)
+{
+    std::vector<std::string> commands;
+    const Size size = size_of(options.size);
+    for (const PeerCheck& check : peer_checks())
+        if (check.routine == options.routine && check.direction == PeerCheck::same)
+            commands.push_back(on_one_line(peer_command(check, size.width, size.height)));
+    return commands;
+}
+
+std::string call_text(const CallPlan& plan)
+{
+    std::string text;
+    for (const catalog::Arg argument : plan.routine->arguments) {
+        const catalog::Argument& about = catalog::describe(argument);
+        text += text.empty() ? "" : ", ";
+        if (about.kind == catalog::Argument::buffer || argument == catalog::Arg::ignored)
+            text += about.name;
+        else
+            text += fmt::format("{} {}", about.name, plan.arguments[argument]);
+    }
+    return fmt::format("{}({})", plan.routine->name, text);
+}
+
+void print_text(const Options& options, const CallPlan& plan)
+{
+    const catalog::Routine& routine = *plan.routine;
+    fmt::print("{}\n  {}\n\n", call_text(plan), routine.summary);
+    const std::string_view from = routine.from == "none" ? "as it is" : routine.from;
+    const std::string_view to = routine.to == "none" ? "as it is" : routine.to;
+    fmt::print("reads    {:>12} bytes, {}\nwrites   {:>12} bytes, {}\n", bytes_of(plan, &PlannedBuffer::in), from,
+               bytes_of(plan, &PlannedBuffer::out), to);
+    if (!plan.stream.empty())
+        fmt::print("\nThe stream tells how far this reaches; here it is one of a plain picture.\n");
+    for (const PlannedBuffer& buffer : plan.buffers) {
+        if (buffer.whole().empty()) continue;
+        fmt::print("\n  {}\n", name_of(buffer));
+        print_range("picture", buffer.picture, buffer);
+        print_range("read", buffer.read, buffer);
+        print_range("written", buffer.written, buffer);
+    }
+    const std::vector<Oddity> oddities = oddities_of(routine.name);
+    if (!oddities.empty()) fmt::print("\ndeliberate\n");
+    for (const Oddity& oddity : oddities) fmt::print("  {}\n    {}\n", oddity.name, oddity.what);
+    const std::vector<std::string> peers = peers_of(options);
+    if (!peers.empty()) fmt::print("\npeer\n");
+    for (const std::string& peer : peers) fmt::print("  {}\n", peer);
+}
+
+Json to_json(const Range& range) { return range.empty() ? Json() : Json{range.begin, range.end}; }
+
+void print_json(const Options& options, const CallPlan& plan)
+{
+    Json arguments = Json::object(), buffers = Json::array(), oddities = Json::array();
+    for (const catalog::Arg argument : plan.routine->arguments)
+        if (catalog::describe(argument).kind == catalog::Argument::number && argument != catalog::Arg::ignored)
+            arguments[std::string(catalog::describe(argument).name)] = plan.arguments[argument];
+    for (const PlannedBuffer& buffer : plan.buffers)
+        buffers.push_back({{"name", name_of(buffer)},
+                           {"picture", to_json(buffer.picture)},
+                           {"read", to_json(buffer.read)},
+                           {"written", to_json(buffer.written)}});
+    for (const Oddity& oddity : oddities_of(plan.routine->name))
+        oddities.push_back({{"name", oddity.name}, {"what", oddity.what}});
+    fmt::print("{}\n", Json{{"schema", json_schema},
+                            {"routine", plan.routine->name},
+                            {"arguments", arguments},
+                            {"bytes_in", bytes_of(plan, &PlannedBuffer::in)},
+                            {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
+                            {"buffers", buffers},
+                            {"deliberate", oddities},
+                            {"peers", peers_of(options)},
+                            {"call", c_call(plan)}}
+                           .dump(2));
+}
+
+Exit run(const Options& options)
+{
+    const catalog::Routine& routine = routine_named(options.routine);
+    layout_named(options.layout);
+    const Size size = size_of(options.size);
+    const auto scale = options.numbers.find(catalog::Arg::scale);
+    const CallPlan plan = plan_call(
+        routine, {size.width, size.height, scale == options.numbers.end() ? 1 : scale->second, options.layout},
+        options.numbers);
+    if (options.json)
+        print_json(options, plan);
+    else if (options.show_call)
+        fmt::print("{}", c_call(plan));
+    else
+        print_text(options, plan);
+    return Exit::done;
+}
+
+}  // namespace
+
+Command add_explain(CLI::App& tool)
+{
+    CLI::App* const app = tool.add_subcommand(
+        "explain", "One call at a given size: bytes in and out, how far it reaches, and what is odd about it.");
+    const auto options = std::make_shared<Options>();
+    app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
+    app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of the picture that goes in")->required();
+    app->add_option("-l,--layout", options->layout, "what frames hold, for routines that take any")
+        ->capture_default_str();
+    app->add_flag("--show-call", options->show_call, "the call as a program in C, ready to paste");
+    app->add_flag("--json", options->json, "JSON instead of text");
+    add_argument_options(app, &options->numbers);
+    return {app, [options] { return run(*options); }};
+}
+
+}  // namespace tintvert::tool

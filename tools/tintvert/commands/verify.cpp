@@ -1,0 +1,59 @@
+// tintvert verify: our routines against the independent programs that this machine has.
+#include <fmt/format.h>
+
+#include <array>
+#include <memory>
+
+#include "commands.h"
+#include "json.h"
+#include "nearest.h"
+#include "peer_checks.h"
+
+namespace tintvert::tool {
+namespace {
+
+struct Options {
+    std::string routine;
+    bool json = false;
+};
+
+constexpr std::array words{"equal", "differs", "skipped"};
+
+Exit run(const Options& options)
+{
+    if (!options.routine.empty()) routine_named(options.routine);
+    std::array<int, 3> counts{};
+    Json list = Json::array();
+    for (const PeerCheck& check : peer_checks()) {
+        if (!options.routine.empty() && check.routine != options.routine) continue;
+        const PeerVerdict verdict = verify_by_peer(check);
+        ++counts[verdict.kind];
+        const char* const word = words[verdict.kind];
+        list.push_back({{"routine", check.routine}, {"peer", check.program}, {"result", word}, {"why", verdict.why}});
+        if (options.json) continue;
+        fmt::print("{:<34}  {:<15}  {}{}{}\n", check.routine, check.program, word, verdict.why.empty() ? "" : ": ",
+                   verdict.why);
+        std::fflush(stdout);
+    }
+    if (list.empty()) throw Failure(Exit::usage, "no peer is asked about {}", options.routine);
+    if (options.json)
+        fmt::print("{}\n",
+                   Json{{"schema", json_schema}, {"checks", list}}.dump(2, ' ', false, Json::error_handler_t::replace));
+    else
+        fmt::print("\n{} equal, {} differ, {} skipped\n", counts[0], counts[1], counts[2]);
+    return counts[PeerVerdict::differs] == 0 ? Exit::done : Exit::differs;
+}
+
+}  // namespace
+
+Command add_verify(CLI::App& tool)
+{
+    CLI::App* const app = tool.add_subcommand(
+        "verify", "Our routines against FFmpeg and GStreamer, where they are installed; exit code 1 if one differs.");
+    const auto options = std::make_shared<Options>();
+    app->add_option("routine", options->routine, "one of them; without it, all that have a peer");
+    app->add_flag("--json", options->json, "JSON instead of text");
+    return {app, [options] { return run(*options); }};
+}
+
+}  // namespace tintvert::tool

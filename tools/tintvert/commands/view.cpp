@@ -1,0 +1,49 @@
+// tintvert view: a raw frame as a picture, in the terminal or as PNG.
+#include <fmt/format.h>
+
+#include <memory>
+
+#include "color.h"
+#include "commands.h"
+#include "png_file.h"
+#include "sample_picture.h"
+#include "terminal_picture.h"
+
+namespace tintvert::tool {
+namespace {
+
+struct Options {
+    std::string file, output, color;
+    FrameOptions frame;
+    int64_t index = 0;
+    long width = 0;
+};
+
+Exit run(const Options& options)
+{
+    const FrameShape shape = frame_shape(options.frame);
+    const Picture picture = picture_of_samples(shape, read_frame(options.file, options.frame, shape, options.index));
+    if (!options.output.empty())
+        write_png(options.output, picture);
+    else
+        fmt::print("{}", terminal_picture(picture, options.width > 0 ? options.width : terminal_columns(),
+                                          wants_color(options.color)));
+    return Exit::done;
+}
+
+}  // namespace
+
+Command add_view(CLI::App& tool)
+{
+    CLI::App* const app = tool.add_subcommand("view", "A raw frame as a picture, in the terminal or as PNG.");
+    const auto options = std::make_shared<Options>();
+    app->add_option("file", options->file, "a file of raw frames")->required();
+    add_frame_options(app, &options->frame);
+    app->add_option("--frame", options->index, "which one, from 0")->check(CLI::NonNegativeNumber);
+    app->add_option("--width", options->width, "columns of the picture in the terminal")->check(CLI::Range(1, 10000));
+    app->add_option("-o,--output", options->output, "a PNG to write instead");
+    add_color_option(app, &options->color);
+    return {app, [options] { return run(*options); }};
+}
+
+}  // namespace tintvert::tool

@@ -79,6 +79,8 @@ struct Routine {
     std::span<const Arg> arguments;
     Extents (*extents)(const Arguments&);
     int64_t (*call)(const Arguments&);  // 0 from a routine that returns nothing
+    std::string_view result;            // C types: of what is returned, and of each argument
+    std::span<const std::string_view> types;
 };
 
 std::span<const Routine> routines();

@@ -69,7 +69,7 @@ bool field_modes(const Arguments& call)
 
 struct Told {
     InPlace kind = InPlace::untold;
-    bool (*rule)(const Arguments&) = never;
+    bool (*rule)(const Arguments&) = nullptr;
 };
 
 constexpr auto told = [] {
@@ -86,7 +86,8 @@ InPlace in_place(const Routine& routine) { return told[static_cast<size_t>(id_of
 
 bool promised_in_place(const Routine& routine, const Arguments& call)
 {
-    return told[static_cast<size_t>(id_of(routine))].rule(call);
+    const auto rule = told[static_cast<size_t>(id_of(routine))].rule;
+    return rule != nullptr && rule(call);
 }
 
 }  // namespace tintvert::catalog

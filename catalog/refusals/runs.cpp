@@ -59,6 +59,13 @@ Reason frame_copy(const Arguments& call)
     return {};
 }
 
+// From an address below its magnitude it ends near 2^64, and the line with it.
+Reason packed_lines(const Arguments& call)
+{
+    if (call[Arg::dstStride] >= 0) return {};
+    return {Refusal::wraps, "a negative `dstStride` may end behind the last address"};
+}
+
 Reason pitch_pair(const Arguments& call)
 {
     const int64_t height = call[Arg::height];

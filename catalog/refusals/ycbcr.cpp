@@ -54,6 +54,13 @@ Reason narrowed_v210(const Arguments& call)
     return {};
 }
 
+// From an address below its magnitude it ends near 2^64, and the payload with it.
+Reason payload(const Arguments& call)
+{
+    if (call[Arg::payloadSize] >= 0) return {};
+    return {Refusal::wraps, "a negative `payloadSize` may end behind the last address"};
+}
+
 Reason packed10(const Arguments& call)
 {
     const int64_t width = call[Arg::width];

@@ -45,11 +45,13 @@ catalog::Arguments any_call(Random& random, const catalog::Routine& routine)
     for (const Arg choice : {Arg::bgra, Arg::bgraOrder, Arg::hasAlpha, Arg::swapBytes, Arg::flipLines, Arg::interlaced,
                              Arg::up, Arg::keepMargins})
         call[choice] = random.between(0, 1);
+    catalog::Arguments taken;
+    for (const Arg argument : routine.arguments) taken[argument] = call[argument];
     if (takes(routine, Arg::palette)) {
-        call[Arg::src] = reinterpret_cast<int64_t>(stream);
-        call[Arg::streamSize] = sizeof stream;
+        taken[Arg::src] = reinterpret_cast<int64_t>(stream);
+        taken[Arg::streamSize] = sizeof stream;
     }
-    return call;
+    return taken;
 }
 
 }  // namespace

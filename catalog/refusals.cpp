@@ -49,6 +49,12 @@ constexpr Part part_of(Arg argument)
     }
 }
 
+constexpr auto parts = [] {
+    std::array<Part, argument_count> table{};
+    for (size_t i = 0; i < table.size(); ++i) table[i] = part_of(static_cast<Arg>(i));
+    return table;
+}();
+
 constexpr int64_t memory = int64_t{1} << 47;
 
 // Numbers of up to 2^31 - 1, distances of up to 2^32 - 1, and no product of one with the lines beyond memory.
@@ -57,7 +63,7 @@ bool fits_in_memory(const Routine& routine, const Arguments& call)
     using namespace refusals;
     int64_t lines = 1, longest = 0;
     for (const Arg argument : routine.arguments) {
-        const Part part = part_of(argument);
+        const Part part = parts[static_cast<size_t>(argument)];
         if (part == Part::none) continue;
         const int64_t number = call[argument], most = part == Part::distance ? most_unsigned : most_signed;
         if (number > most || number < -most) return false;

@@ -1,7 +1,6 @@
 #include "call.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "extents.h"
 #include "in_place.h"
@@ -26,19 +25,6 @@ static_assert(refusal_of(catalog::Refusal::overruns_scratch) == Refusal::overrun
 // An argument's name ends with a 0.
 const char* name_of(Arg argument) { return describe(argument).name.data(); }
 
-int64_t bytes_of(const Buffer& buffer)
-{
-    constexpr auto most = static_cast<size_t>(std::numeric_limits<int64_t>::max());
-    return static_cast<int64_t>(std::min(buffer.size(), most));
-}
-
-// How far a stream may be read: up to the end of its memory, if its pointer is in there.
-int64_t bytes_behind(const Buffer& buffer)
-{
-    if (buffer.pointer() == nullptr || buffer.front() < 0) return 0;
-    return std::max<int64_t>(bytes_of(buffer) - buffer.front(), 0);
-}
-
 Range told(catalog::Range range) { return {range.begin, range.end}; }
 
 void tell(const catalog::Extents& extents, Extents& query)
@@ -55,12 +41,6 @@ catalog::Range common(catalog::Range one, catalog::Range other)
 
 catalog::Range moved(catalog::Range range, int64_t distance) { return {range.begin + distance, range.end + distance}; }
 
-bool writes(const catalog::Extents& extents, Arg buffer)
-{
-    return std::ranges::any_of(
-        extents, [=](const catalog::Touch& touch) { return touch.buffer == buffer && !touch.written.empty(); });
-}
-
 bool knows(const catalog::Extents& extents, Arg buffer)
 {
     return std::ranges::any_of(extents, [=](const catalog::Touch& touch) { return touch.buffer == buffer; });
@@ -68,16 +48,12 @@ bool knows(const catalog::Extents& extents, Arg buffer)
 
 }  // namespace
 
-void Call::set(size_t place, const Buffer& buffer)
+const Buffer& Call::given(Arg argument) const
 {
-    const Arg argument = routine_.arguments[place];
-    if (argument == Arg::ignored) return;
-    numbers_[argument] = reinterpret_cast<int64_t>(buffer.pointer());
-    given_[buffers_++] = {argument, &buffer};
-    if (argument == Arg::src) numbers_[Arg::streamSize] = bytes_behind(buffer);
+    const Given* given = given_.data();
+    while (given->argument != argument) ++given;
+    return *given->buffer;
 }
-
-const Buffer& Call::given(Arg argument) const { return *std::ranges::find(given_, argument, &Given::argument)->buffer; }
 
 bool Call::may_be_made(const Options& options, Error& error)
 {
@@ -120,34 +96,35 @@ bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
     return true;
 }
 
-// A frame in place is known to some rules as `dst` alone.
+// What is written in one buffer and touched in another. A frame in place is known to some rules as `dst` alone.
 bool Call::overlaps(const catalog::Extents& extents, Error& error) const
 {
-    const bool one_frame = catalog::extents::in_place(numbers_) && knows(extents, Arg::dst);
-    if (one_frame && promised_in_place(routine_, numbers_)) return false;
-    if (one_frame && !knows(extents, Arg::src) && writes(extents, Arg::dst)) {
-        const catalog::Touch& touch = *std::ranges::find(extents, Arg::dst, &catalog::Touch::buffer);
-        return overlap(touch, {Arg::src, touch.read, {}}, error);
+    if (catalog::extents::in_place(numbers_) && knows(extents, Arg::dst)) {
+        if (promised_in_place(routine_, numbers_)) return false;
+        if (!knows(extents, Arg::src)) {
+            const catalog::Touch& frame = *extents.begin();
+            return overlap(frame, {Arg::src, frame.read, {}}, error);
+        }
     }
-    for (const catalog::Touch* one = extents.begin(); one != extents.end(); ++one)
-        for (const catalog::Touch* other = one + 1; other != extents.end(); ++other)
-            if (overlap(*one, *other, error)) return true;
+    for (const catalog::Touch& one : extents) {
+        if (one.written.empty()) continue;
+        for (const catalog::Touch& other : extents)
+            if (&one != &other && overlap(one, other, error)) return true;
+    }
     return false;
 }
 
-// What one of the two writes and the other touches.
-bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const
+bool Call::overlap(const catalog::Touch& written, const catalog::Touch& other, Error& error) const
 {
-    const int64_t distance = address(other.buffer) - address(one.buffer);
-    const catalog::Range read = moved(other.read, distance), written = moved(other.written, distance);
-    const catalog::Range both =
-        join(common(one.written, written), join(common(one.written, read), common(one.read, written)));
+    const int64_t distance = address(other.buffer) - address(written.buffer);
+    const catalog::Range both = join(common(written.written, moved(other.written, distance)),
+                                     common(written.written, moved(other.read, distance)));
     if (both.empty()) return false;
     error.code = Code::overlap;
-    error.buffer = name_of(one.buffer);
+    error.buffer = name_of(written.buffer);
     error.other = name_of(other.buffer);
-    error.has = given(one.buffer).size();
-    error.front = given(one.buffer).front();
+    error.has = given(written.buffer).size();
+    error.front = given(written.buffer).front();
     error.where = told(both);
     return true;
 }

@@ -33,15 +33,13 @@ std::string values(const Routine& routine)
     return text;
 }
 
-// In C a pointer is a struct of its own, and an ignored one is null.
 std::string values_from_c(const Routine& routine)
 {
     std::string text;
     for (size_t i = 0; i < routine.arguments.size(); ++i) {
         const std::string name{describe(routine.arguments[i]).name};
-        const bool ignored = routine.arguments[i] == Arg::ignored, pointer = is_pointer(routine.types[i]);
-        text += ignored ? (pointer ? "{}" : "0") : pointer ? "from_c(" + name + ')' : name;
-        text += ", ";
+        const bool ignored = routine.arguments[i] == Arg::ignored;
+        text += ", " + (ignored ? "0" : is_pointer(routine.types[i]) ? "from_c(" + name + ')' : name);
     }
     return text;
 }
@@ -107,11 +105,13 @@ std::string definitions()
 
 std::string c_definitions()
 {
-    return "#include \"c_face.h\"\n\nusing namespace tintvert::checked;\n" + all([](const Routine& routine) {
+    return "#include \"c_face.h\"\n#include \"call.h\"\n\nusing namespace tintvert::checked;\n"
+           "using tintvert::catalog::RoutineId;\n" +
+           all([](const Routine& routine) {
                const std::string name{routine.name};
                return '\n' + c_declaration(routine) + "\n{\n    return answer(\"" + name +
-                      "\", options, [&](const Options& chosen) { return tintvert::checked::" + name + '(' +
-                      values_from_c(routine) + "chosen); });\n}\n";
+                      "\", options, [&](const Options& chosen) { return run<" + std::string{routine.result} +
+                      ">(RoutineId::" + name + ", chosen" + values_from_c(routine) + "); });\n}\n";
            });
 }
 

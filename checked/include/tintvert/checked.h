@@ -114,7 +114,7 @@ struct Error {
     Code code = Code::ok;
     Refusal refusal = Refusal::none;
     const char* routine = "";
-    const char* buffer = "";  // null, too_small, overlap
+    const char* buffer = "";  // null, too_small, overlap: the one that is written
     const char* other = "";   // overlap: the other buffer
     const char* why = "";     // refused: a sentence
     uint64_t has = 0;         // bytes of the buffer

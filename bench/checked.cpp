@@ -115,7 +115,7 @@ void run(benchmark::State& state, const Routine& routine, Call call)
     }
 }
 
-// One row a routine: median ns bare, and what the two faces add.
+// One row a routine: median ns of the processor bare, and what the two faces add.
 class Table : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context&) override { return true; }
@@ -124,7 +124,7 @@ public:
     {
         for (const Run& run : runs) {
             if (run.error_occurred) fmt::print("{}: {}\n", run.run_name.function_name, run.error_message);
-            if (run.aggregate_name == "median") medians_[run.run_name.function_name] = run.GetAdjustedRealTime();
+            if (run.aggregate_name == "median") medians_[run.run_name.function_name] = run.GetAdjustedCPUTime();
         }
     }
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <new>
 #include <span>
 #include <string_view>
 
@@ -69,7 +69,7 @@ class Extents {
 public:
     Extents() : count_(0) {}
 
-    void add(Arg buffer, Range read, Range written) { std::construct_at(&touches_[count_++], buffer, read, written); }
+    void add(Arg buffer, Range read, Range written) { new (&touches_[count_++]) Touch{buffer, read, written}; }
     const Touch* begin() const { return touches_; }
     const Touch* end() const { return touches_ + count_; }
 

@@ -39,6 +39,8 @@ catalog::Range common(catalog::Range one, catalog::Range other)
     return {std::max(one.begin, other.begin), std::min(one.end, other.end)};
 }
 
+bool apart(catalog::Range one, catalog::Range other) { return common(one, other).empty(); }
+
 catalog::Range moved(catalog::Range range, int64_t distance) { return {range.begin + distance, range.end + distance}; }
 
 bool knows(const catalog::Extents& extents, Arg buffer)
@@ -64,9 +66,13 @@ bool Call::may_be_made(const Options& options, Error& error)
         tell(extents, *options.query);
         return true;
     }
-    for (const catalog::Touch& touch : extents)
-        if (lacks_room(touch, error)) return false;
-    return options.allow_overlap || !overlaps(extents, error);
+    Places places;
+    for (const catalog::Touch& touch : extents) {
+        const catalog::Range all = join(touch.read, touch.written);
+        if (lacks_room(touch.buffer, all, error)) return false;
+        places[static_cast<size_t>(&touch - extents.begin())] = moved(all, address(touch.buffer));
+    }
+    return options.allow_overlap || !overlaps(extents, places, error);
 }
 
 bool Call::refused(Error& error) const
@@ -79,16 +85,15 @@ bool Call::refused(Error& error) const
     return true;
 }
 
-bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
+bool Call::lacks_room(Arg argument, catalog::Range all, Error& error) const
 {
-    const catalog::Range all = join(touch.read, touch.written);
     if (all.empty()) return false;
-    const Buffer& buffer = given(touch.buffer);
+    const Buffer& buffer = given(argument);
     const int64_t front = buffer.front();
     const bool null = buffer.pointer() == nullptr;
     if (!null && all.begin >= -front && all.end <= bytes_of(buffer) - front) return false;
     error.code = null ? Code::null : Code::too_small;
-    error.buffer = name_of(touch.buffer);
+    error.buffer = name_of(argument);
     error.has = buffer.size();
     error.front = front;
     error.needs = static_cast<uint64_t>(std::max<int64_t>(all.end, 0) - std::min<int64_t>(all.begin, 0));
@@ -97,7 +102,7 @@ bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
 }
 
 // What is written in one buffer and touched in another. A frame in place is known to some rules as `dst` alone.
-bool Call::overlaps(const catalog::Extents& extents, Error& error) const
+bool Call::overlaps(const catalog::Extents& extents, const Places& places, Error& error) const
 {
     if (catalog::extents::in_place(numbers_) && knows(extents, Arg::dst)) {
         if (promised_in_place(routine_, numbers_)) return false;
@@ -106,25 +111,31 @@ bool Call::overlaps(const catalog::Extents& extents, Error& error) const
             return overlap(frame, {Arg::src, frame.read, {}}, error);
         }
     }
-    for (const catalog::Touch& one : extents) {
-        if (one.written.empty()) continue;
-        for (const catalog::Touch& other : extents)
-            if (&one != &other && overlap(one, other, error)) return true;
+    const catalog::Touch* const touches = extents.begin();
+    const auto count = static_cast<size_t>(extents.end() - touches);
+    for (size_t i = 0; i < count; ++i) {
+        if (touches[i].written.empty()) continue;
+        for (size_t j = 0; j < count; ++j) {
+            const bool seen = j == i || (j < i && !touches[j].written.empty());
+            if (!seen && !apart(places[i], places[j]) && overlap(touches[i], touches[j], error)) return true;
+        }
     }
     return false;
 }
 
-bool Call::overlap(const catalog::Touch& written, const catalog::Touch& other, Error& error) const
+// If both are written, what the first reads counts as well.
+bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const
 {
-    const int64_t distance = address(other.buffer) - address(written.buffer);
-    const catalog::Range both = join(common(written.written, moved(other.written, distance)),
-                                     common(written.written, moved(other.read, distance)));
+    const int64_t distance = address(other.buffer) - address(one.buffer);
+    const catalog::Range read = moved(other.read, distance), written = moved(other.written, distance);
+    const catalog::Range both =
+        join(common(one.written, written), join(common(one.written, read), common(one.read, written)));
     if (both.empty()) return false;
     error.code = Code::overlap;
-    error.buffer = name_of(written.buffer);
+    error.buffer = name_of(one.buffer);
     error.other = name_of(other.buffer);
-    error.has = given(written.buffer).size();
-    error.front = given(written.buffer).front();
+    error.has = given(one.buffer).size();
+    error.front = given(one.buffer).front();
     error.where = told(both);
     return true;
 }

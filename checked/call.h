@@ -65,9 +65,11 @@ private:
     const Buffer& given(catalog::Arg argument) const;
     int64_t address(catalog::Arg argument) const { return numbers_[argument]; }
     bool refused(Error& error) const;
-    bool lacks_room(const catalog::Touch& touch, Error& error) const;
-    bool overlaps(const catalog::Extents& extents, Error& error) const;
-    bool overlap(const catalog::Touch& written, const catalog::Touch& other, Error& error) const;
+    using Places = std::array<catalog::Range, 8>;  // by touch, from address 0
+
+    bool lacks_room(catalog::Arg argument, catalog::Range all, Error& error) const;
+    bool overlaps(const catalog::Extents& extents, const Places& places, Error& error) const;
+    bool overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const;
 
     const catalog::Routine& routine_;
     catalog::Arguments numbers_;

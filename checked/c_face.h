@@ -8,11 +8,7 @@
 
 namespace tintvert::checked {
 
-inline Buffer from_c(const tntvt_checked_buffer& buffer)
-{
-    void* const begin = Buffer(buffer.pointer, 0).at(-buffer.front).pointer();
-    return Buffer(begin, buffer.size).at(buffer.front);
-}
+inline Buffer from_c(const tntvt_checked_buffer& buffer) { return {buffer.pointer, buffer.size, buffer.front}; }
 
 inline tntvt_checked_range to_c(Range range) { return {range.from, range.to}; }
 

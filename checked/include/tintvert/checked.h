@@ -14,7 +14,6 @@
 #define TINTVERT_CHECKED_H
 
 #include <array>
-#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <ranges>
@@ -22,6 +21,10 @@
 #include <type_traits>
 
 namespace tintvert::checked {
+
+template <class Memory>
+concept NumbersInMemory = std::ranges::contiguous_range<Memory> && std::ranges::sized_range<Memory> &&
+    std::is_arithmetic_v<std::remove_reference_t<std::ranges::range_reference_t<Memory>>>;
 
 // Memory, and the pointer into it that the routine is given: its first byte, unless at() says otherwise.
 // Routines that write in front of their pointer need some of the memory there:
@@ -32,23 +35,19 @@ class Buffer {
 public:
     Buffer() = default;  // null
     Buffer(void* begin, size_t size) : pointer_(begin), size_(size) {}
+    Buffer(void* pointer, size_t size, ptrdiff_t front) : pointer_(pointer), size_(size), front_(front) {}
 
     // A vector, an array or a span of numbers.
-    template <std::ranges::contiguous_range Memory>
-    requires std::ranges::sized_range<Memory> &&
-        (!std::same_as<std::remove_cvref_t<Memory>, Buffer>)&&std::is_arithmetic_v<
-            std::remove_reference_t<std::ranges::range_reference_t<Memory>>> Buffer(Memory&& memory)
+    template <NumbersInMemory Memory>
+    Buffer(Memory&& memory)
         : Buffer(std::ranges::data(memory), std::ranges::size(memory) * sizeof *std::ranges::data(memory))
     {}
 
     // The same memory with the pointer `offset` bytes further on.
     Buffer at(ptrdiff_t offset) const
     {
-        Buffer moved = *this;
-        moved.pointer_ =
-            reinterpret_cast<void*>(reinterpret_cast<uintptr_t>(pointer_) + static_cast<uintptr_t>(offset));
-        moved.front_ += offset;
-        return moved;
+        const uintptr_t moved = reinterpret_cast<uintptr_t>(pointer_) + static_cast<uintptr_t>(offset);
+        return {reinterpret_cast<void*>(moved), size_, front_ + offset};
     }
 
     void* pointer() const { return pointer_; }

@@ -52,9 +52,55 @@ int64_t call(const Arguments& values)
     return call_with<routine, shape>(values, routine);
 }
 
+// The types of the declarations, in words.
+template <class Type>
+constexpr std::string_view type_name = {};
+template <>
+constexpr std::string_view type_name<void> = "void";
+template <>
+constexpr std::string_view type_name<int> = "int";
+template <>
+constexpr std::string_view type_name<long> = "long";
+template <>
+constexpr std::string_view type_name<unsigned char> = "unsigned char";
+template <>
+constexpr std::string_view type_name<unsigned short> = "unsigned short";
+template <>
+constexpr std::string_view type_name<unsigned int> = "unsigned int";
+template <>
+constexpr std::string_view type_name<void*> = "void*";
+template <>
+constexpr std::string_view type_name<void**> = "void**";
+template <>
+constexpr std::string_view type_name<unsigned char*> = "unsigned char*";
+template <>
+constexpr std::string_view type_name<unsigned short*> = "unsigned short*";
+template <>
+constexpr std::string_view type_name<unsigned int*> = "unsigned int*";
+template <>
+constexpr std::string_view type_name<v210FourWords*> = "v210FourWords*";
+
+template <class Signature>
+struct Types;
+template <class Result, class... Parameters>
+struct Types<Result (*)(Parameters...)> {
+    static constexpr std::string_view result = type_name<Result>;
+    static constexpr std::array<std::string_view, sizeof...(Parameters)> parameters = {type_name<Parameters>...};
+};
+
 constexpr Routine all[] = {
 #define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) \
-    {#chapter, #name, #shape, #from, #to, summary, shapes::shape, extents::rule, call<&::name, shapes::shape>},
+    {#chapter,                                                       \
+     #name,                                                          \
+     #shape,                                                         \
+     #from,                                                          \
+     #to,                                                            \
+     summary,                                                        \
+     shapes::shape,                                                  \
+     extents::rule,                                                  \
+     call<&::name, shapes::shape>,                                   \
+     Types<decltype(&::name)>::result,                               \
+     Types<decltype(&::name)>::parameters},
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <span>
 #include <string_view>
 
@@ -15,6 +16,12 @@ enum class Arg {
 #include "arguments.def"
 #undef TNTVT_ARGUMENT
 };
+
+inline constexpr size_t argument_count = 0
+#define TNTVT_ARGUMENT(name, kind, meaning) +1
+#include "arguments.def"
+#undef TNTVT_ARGUMENT
+    ;
 
 struct Argument {
     enum Kind { number, buffer };
@@ -41,12 +48,7 @@ public:
     }
 
 private:
-    static constexpr size_t count = 0
-#define TNTVT_ARGUMENT(name, kind, meaning) +1
-#include "arguments.def"
-#undef TNTVT_ARGUMENT
-        ;
-    std::array<int64_t, count> values_{};
+    std::array<int64_t, argument_count> values_{};
 };
 
 // Bytes [begin, end) from the pointer that was passed; begin may be negative. Empty if nothing is touched.
@@ -62,16 +64,20 @@ struct Touch {
     Range read, written;
 };
 
-// One entry for each buffer that the call touches.
+// One entry for each buffer that the call touches. Entries that are not there are not cleared either.
 class Extents {
 public:
-    void add(Arg buffer, Range read, Range written) { touches_[count_++] = {buffer, read, written}; }
-    const Touch* begin() const { return touches_.data(); }
-    const Touch* end() const { return touches_.data() + count_; }
+    Extents() : count_(0) {}
+
+    void add(Arg buffer, Range read, Range written) { new (&touches_[count_++]) Touch{buffer, read, written}; }
+    const Touch* begin() const { return touches_; }
+    const Touch* end() const { return touches_ + count_; }
 
 private:
-    std::array<Touch, 8> touches_{};
-    size_t count_ = 0;
+    union {
+        Touch touches_[8];
+    };
+    size_t count_;
 };
 
 struct Routine {
@@ -79,6 +85,8 @@ struct Routine {
     std::span<const Arg> arguments;
     Extents (*extents)(const Arguments&);
     int64_t (*call)(const Arguments&);  // 0 from a routine that returns nothing
+    std::string_view result;            // C types: of what is returned, and of each argument
+    std::span<const std::string_view> types;
 };
 
 std::span<const Routine> routines();

@@ -27,6 +27,15 @@ inline Range lines(int64_t first, int64_t stride, int64_t count, int64_t bytes)
     return join({first, first + bytes}, {last, last + bytes});
 }
 
+// The first and the last `few` of `count` lines, each once: where lines follow a pattern that repeats after
+// `few` or fewer, one of these is the lowest and one the highest.
+template <class Visit>
+void outermost(int64_t count, int64_t few, Visit visit)
+{
+    for (int64_t i = 0; i < few && i < count; ++i) visit(i);
+    for (int64_t i = few > count - few ? few : count - few; i < count; ++i) visit(i);
+}
+
 // One frame on both sides. Buffers that the caller has still to supply are null, and are two.
 inline bool in_place(const Arguments& call) { return call[Arg::dst] != 0 && call[Arg::dst] == call[Arg::src]; }
 

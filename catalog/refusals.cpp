@@ -1,51 +1,87 @@
 #include "refusals.h"
 
 #include <algorithm>
+#include <array>
+
+#include "refusals/rules.h"
+#include "routine_id.h"
 
 namespace tintvert::catalog {
 namespace {
 
-bool takes(const Routine& routine, Arg argument)
+using Rule = Reason (*)(const Arguments&);
+
+constexpr auto rules = [] {
+    std::array<Rule, routine_count> table{};
+#define TNTVT_REFUSES(routine, rule) table[static_cast<size_t>(RoutineId::routine)] = refusals::rule;
+#include "refusals.def"
+#undef TNTVT_REFUSES
+    return table;
+}();
+
+// How an argument enters the size of a frame.
+enum class Part : uint8_t { none, size, lines, distance };
+
+constexpr Part part_of(Arg argument)
 {
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
+    switch (argument) {
+        case Arg::height:
+            return Part::lines;
+        case Arg::width:
+        case Arg::pixels:
+        case Arg::count:
+        case Arg::groups:
+        case Arg::total:
+        case Arg::bytes:
+        case Arg::size:
+        case Arg::scale:
+        case Arg::pgroupCount:
+            return Part::size;
+        case Arg::stride:
+        case Arg::dstStride:
+        case Arg::srcStride:
+        case Arg::fieldStride:
+        case Arg::srcPitch:
+        case Arg::dstPitch:
+            return Part::distance;
+        default:
+            return Part::none;
+    }
 }
 
-bool one_of(std::string_view name, std::initializer_list<std::string_view> names)
-{
-    return std::ranges::find(names, name) != names.end();
-}
+constexpr auto parts = [] {
+    std::array<Part, argument_count> table{};
+    for (size_t i = 0; i < table.size(); ++i) table[i] = part_of(static_cast<Arg>(i));
+    return table;
+}();
 
-std::string_view refused_field_mode(const Arguments& call)
+constexpr int64_t memory = int64_t{1} << 47;
+
+// Numbers of up to 2^31 - 1, distances of up to 2^32 - 1, and no product of one with the lines beyond memory.
+bool fits_in_memory(const Routine& routine, const Arguments& call)
 {
-    const int64_t height = call[Arg::height], mode = call[Arg::mode];
-    if (mode == 3 && height < 2) return "mode 3 with fewer than two lines counts through 2^32 of them";
-    if (mode >= 5 && mode <= 8 && height % 2 != 0) return "modes 5 to 8 with an odd `height` count through 2^32 lines";
-    return {};
+    using namespace refusals;
+    int64_t lines = 1, longest = 0;
+    for (const Arg argument : routine.arguments) {
+        const Part part = parts[static_cast<size_t>(argument)];
+        if (part == Part::none) continue;
+        const int64_t number = call[argument], most = part == Part::distance ? most_unsigned : most_signed;
+        if (number > most || number < -most) return false;
+        if (part == Part::lines)
+            lines = size_of(number);
+        else if (argument != Arg::scale)
+            longest = std::max(longest, size_of(number));
+    }
+    return longest * lines <= memory;
 }
 
 }  // namespace
 
-std::string_view refusal(const Routine& routine, const Arguments& call)
+Reason reason(const Routine& routine, const Arguments& call)
 {
-    const std::string_view name = routine.name;
-    constexpr int64_t most = 0x7FFFFFFF;
-    for (const Arg size : {Arg::width, Arg::height, Arg::pixels, Arg::count, Arg::total, Arg::bytes})
-        if (takes(routine, size) && std::abs(call[size]) > most) return "a size above 2^31 - 1 wraps a 32-bit product";
-    if (takes(routine, Arg::width) && takes(routine, Arg::height)) {
-        const int64_t width = std::abs(call[Arg::width]), height = std::abs(call[Arg::height]);
-        if (width != 0 && height > most / 8 / width) return "`width` x `height` x 8 wraps at 32 bits";
-    }
-    if (takes(routine, Arg::scale) && call[Arg::scale] == 0 && name != "tntvt_yuv422_rgb16" &&
-        name != "tntvt_v210_rgb16")
-        return "a `scale` of 0 divides by zero";
-    if (one_of(name, {"tntvt_2vuy_v210", "tntvt_yuv422_8_yuv422_10"}) && call[Arg::height] < 1)
-        return "a `height` of 0 walks 2^32 lines";
-    if (name == "tntvt_v210_frame_to_rtp_4175" && call[Arg::width] % 2 != 0) return "an odd `width` never returns";
-    if (takes(routine, Arg::groups) && call[Arg::groups] == 0) return "`groups` of 0 divides by zero";
-    if (name == "tntvt_rgba_full" && call[Arg::width] == 0) return "a `width` of 0 divides by zero";
-    if (name == "tntvt_rle8_rgb24" && call[Arg::height] == 0) return "a `height` of 0 counts through 2^32 lines";
-    if (routine.shape == "field_change") return refused_field_mode(call);
-    return {};
+    if (!fits_in_memory(routine, call)) return {Refusal::too_large, "the numbers make more than memory can hold"};
+    const Rule rule = rules[static_cast<size_t>(id_of(routine))];
+    return rule == nullptr ? Reason{} : rule(call);
 }
 
 }  // namespace tintvert::catalog

@@ -12,6 +12,7 @@ uint32_t packed_stride(const Arguments& call)
 // Lines whose offsets are kept to 32 bits.
 Range packed_lines(uint32_t stride, uint32_t count, int64_t bytes)
 {
+    if (uint64_t{stride} * count <= 0xFFFFFFFF) return lines(0, stride, count, bytes);
     Range result;
     for (uint32_t r = 0; r < count; ++r) result = join(result, lines(r * stride, 0, 1, bytes));
     return result;
@@ -38,16 +39,18 @@ Extents planes_420_to_2vuy(const Arguments& call)
     const bool interlaced = call.as<uint8_t>(Arg::interlaced) != 0;
     const int64_t samples = round_up(width, 2);
     const ChromaPlanes planes = chroma_planes(call);
+    const auto odd_luma = [&](uint32_t r) { return int64_t{(r == 1 ? 2 : r - 1) * width}; };
     Range read;
-    int64_t luma = 0;
-    for (uint32_t r = 0; r < height; ++r, luma += samples) {
+    outermost(height, 4, [&](int64_t line) {
+        const auto r = static_cast<uint32_t>(line);
         const bool moved = interlaced && r % 2 == 1;
-        if (moved) luma = (r == 1 ? 2 : r - 1) * width;
+        const int64_t in_order = interlaced && r > 1 ? odd_luma(r - 1) + samples : r * samples;
+        const int64_t luma = moved ? odd_luma(r) : in_order;
         const int64_t chroma = moved ? (r == 1 ? width / 2 : r / 2 * width / 2 - width / 2) : r / 2 * width / 2;
         read = join(read, lines(luma, 0, 1, samples));
         read = join(read, lines(planes.first + chroma, 0, 1, samples / 2));
         read = join(read, lines(planes.second + chroma, 0, 1, samples / 2));
-    }
+    });
     result.add(Arg::dst, {}, packed_lines(packed_stride(call), height, samples * 2));
     result.add(Arg::src, read, {});
     return result;

@@ -29,7 +29,8 @@ struct Fields {
     Range src_field(int64_t first) const { return lines(src_line(first), src_pair, pairs, src_pitch); }
 };
 
-// What single copies and averages of lines read and write.
+// What single copies and averages of lines read and write. A copy that is left out because both lines are one
+// is left out in all pairs of lines or in one, so that two pairs at either end tell how far all of them reach.
 struct Lines {
     const Fields& fields;
     Range read, written;
@@ -64,10 +65,10 @@ Extents repeat(const Arguments& call, int64_t field)
 {
     const Fields fields(call);
     Lines touched{fields, {}, {}};
-    for (int64_t k = 0; k < fields.pairs; ++k) {
+    outermost(fields.pairs, 2, [&](int64_t k) {
         touched.copy_unless_same(2 * k, 2 * k + field);
         touched.copy_unless_same(2 * k + 1, 2 * k + field);
-    }
+    });
     return two_frames_or_one(call, touched.read, touched.written);
 }
 
@@ -75,10 +76,10 @@ Extents interpolate_first(const Arguments& call)
 {
     const Fields fields(call);
     Lines touched{fields, {}, {}};
-    for (int64_t k = 0; k < fields.pairs; ++k) {
+    outermost(fields.pairs, 2, [&](int64_t k) {
         touched.copy_unless_same(2 * k, 2 * k);
         touched.average(2 * k + 1, 2 * k, k + 1 < fields.pairs ? 2 * k + 2 : 2 * k);
-    }
+    });
     return two_frames_or_one(call, touched.read, touched.written);
 }
 
@@ -87,10 +88,10 @@ Extents interpolate_second(const Arguments& call)
     const Fields fields(call);
     Lines touched{fields, {}, {}};
     if (!fields.one_frame || fields.src_pitch != fields.dst_pitch) touched.move(0, fields.src_pitch, fields.src_pitch);
-    for (int64_t k = 0; k < fields.pairs; ++k) {
+    outermost(fields.pairs, 2, [&](int64_t k) {
         touched.copy_unless_same(2 * k + 1, 2 * k + 1);
         if (k + 1 < fields.pairs) touched.average(2 * k + 2, 2 * k + 1, 2 * k + 3);
-    }
+    });
     return two_frames_or_one(call, touched.read, touched.written);
 }
 

@@ -12,56 +12,64 @@ int64_t read_v210(int64_t width)
     return width / 6 * 16 + started[width % 6];
 }
 
+struct Strides {
+    int64_t dst, src;
+};
+
+int64_t or_default(int64_t stride, int64_t line) { return stride < 1 ? line : stride; }
+
+Strides strides_10(const Arguments& call, int64_t pixel_bytes)
+{
+    const int64_t width = call[Arg::width];
+    return {or_default(call[Arg::dstStride], width * pixel_bytes),
+            or_default(call[Arg::srcStride], (width + 47) / 48 * 128)};
+}
+
+Strides strides_8(const Arguments& call, int64_t pixel_bytes)
+{
+    const int64_t width = call[Arg::width];
+    return {or_default(call[Arg::dstStride], width * pixel_bytes), or_default(call[Arg::srcStride], width * 2)};
+}
+
 // What libycbcr touches of a frame of packed groups: `width` x 4 bytes a line are written.
-Extents by_matrix(const Arguments& call, int64_t (*read_bytes)(int64_t width))
+Extents by_matrix(const Arguments& call, Strides strides, int64_t (*read_bytes)(int64_t width))
 {
     Extents result;
     const int64_t width = call[Arg::width], height = call[Arg::height];
     const int64_t count = width < 1 ? 0 : height < 0 ? -height : height;
-    result.add(Arg::dst, {}, lines(0, call[Arg::dstStride], count, width * 4));
-    result.add(Arg::src, lines(0, call[Arg::srcStride], count, count == 0 ? 0 : read_bytes(width)), {});
+    result.add(Arg::dst, {}, lines(0, strides.dst, count, width * 4));
+    result.add(Arg::src, lines(0, strides.src, count, count == 0 ? 0 : read_bytes(width)), {});
     return result;
 }
 
-Arguments with_strides(Arguments call, int64_t dst_line, int64_t src_line)
+Extents by_tables(const Arguments& call, Strides strides, Extents (*rule)(const Arguments&))
 {
-    if (call[Arg::dstStride] < 1) call[Arg::dstStride] = dst_line;
-    if (call[Arg::srcStride] < 1) call[Arg::srcStride] = src_line;
-    return call;
-}
-
-Arguments with_strides_10(const Arguments& call, int64_t pixel_bytes)
-{
-    const int64_t width = call[Arg::width];
-    return with_strides(call, width * pixel_bytes, (width + 47) / 48 * 128);
-}
-
-Arguments with_strides_8(const Arguments& call, int64_t pixel_bytes)
-{
-    const int64_t width = call[Arg::width];
-    return with_strides(call, width * pixel_bytes, width * 2);
+    Arguments resolved = call;
+    resolved[Arg::dstStride] = strides.dst;
+    resolved[Arg::srcStride] = strides.src;
+    return rule(resolved);
 }
 
 }  // namespace
 
-Extents yuv422_10_rgb24(const Arguments& call) { return v210_rgb24(with_strides_10(call, 3)); }
+Extents yuv422_10_rgb24(const Arguments& call) { return by_tables(call, strides_10(call, 3), v210_rgb24); }
 
 Extents yuv422_10_rgb32(const Arguments& call)
 {
-    const Arguments resolved = with_strides_10(call, 4);
-    return call[Arg::scale] == 1 ? by_matrix(resolved, read_v210) : v210_rgb24(resolved);
+    const Strides strides = strides_10(call, 4);
+    return call[Arg::scale] == 1 ? by_matrix(call, strides, read_v210) : by_tables(call, strides, v210_rgb24);
 }
 
 Extents yuv422_8_rgb24(const Arguments& call)
 {
-    const Arguments resolved = with_strides_8(call, 3);
-    return call[Arg::scale] == 1 ? by_matrix(resolved, read_v210) : yuv422_rgb24(resolved);
+    const Strides strides = strides_8(call, 3);
+    return call[Arg::scale] == 1 ? by_matrix(call, strides, read_v210) : by_tables(call, strides, yuv422_rgb24);
 }
 
 Extents yuv422_8_rgb32(const Arguments& call)
 {
-    const Arguments resolved = with_strides_8(call, 4);
-    return call[Arg::scale] == 1 ? by_matrix(resolved, read_2vuy) : yuv422_rgb24(resolved);
+    const Strides strides = strides_8(call, 4);
+    return call[Arg::scale] == 1 ? by_matrix(call, strides, read_2vuy) : by_tables(call, strides, yuv422_rgb24);
 }
 
 // Luma lines, and the chroma planes that follow `srcStride` x `height` bytes of them.

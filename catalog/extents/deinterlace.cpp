@@ -11,7 +11,7 @@ Extents deinterlace(const Arguments& call)
     const int64_t height = call.as<uint32_t>(Arg::height);
     const int64_t elements = int64_t{8} * call.as<uint32_t>(Arg::width);
     Range read, written;
-    for (int64_t y = 0; y < height; ++y) {
+    outermost(height, 4, [&](int64_t y) {
         const bool odd = y % 2 != 0;
         const bool copied = (mode == 16 && !odd) || (mode == 17 && odd);
         const Range line = lines(y * stride, stride, 1, copied ? stride : elements);
@@ -19,10 +19,10 @@ Extents deinterlace(const Arguments& call)
         written = join(written, line);
         // Three bytes of the last element are looked at in the neighbours, which the frame holds.
         const bool first_two = y < 2, last = y + 1 == height;
-        if (copied || !looks || (mode != 2 && !odd) || elements == 0) continue;
+        if (copied || !looks || (mode != 2 && !odd) || elements == 0) return;
         if (!last) read = join(read, lines((y + 1) * stride, stride, 1, elements - 5));
         if (!first_two) read = join(read, lines((y - 1) * stride, stride, 1, elements - 5));
-    }
+    });
     return two_frames_or_one(call, read, written);
 }
 

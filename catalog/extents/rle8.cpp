@@ -1,5 +1,5 @@
 // What these routines touch is told by the stream and not by the arguments: the rules read it, `streamSize`
-// bytes at `src`, and are right for streams that end within it.
+// bytes at `src`. A stream that runs on behind them needs at least the next byte that its decoder would read.
 #include "extents.h"
 #include "rle_scan.h"
 
@@ -15,7 +15,7 @@ Extents extents_of(const RleScan& scan)
 {
     Extents result;
     result.add(Arg::dst, {}, scan.written);
-    result.add(Arg::src, scan.stream, {});
+    result.add(Arg::src, scan.ends ? scan.stream : Range{0, static_cast<int64_t>(scan.wanted) + 1}, {});
     result.add(Arg::palette, scan.palette, {});
     return result;
 }

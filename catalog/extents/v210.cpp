@@ -37,14 +37,15 @@ Extents rgb32_v210(const Arguments& call)
     if (total < 1) return result;
     const int64_t dst_stride = call[Arg::dstStride] == 0 ? (width + 47) / 48 * 128 : call[Arg::dstStride];
     const int64_t src_stride = call[Arg::srcStride] == 0 ? width * 4 : call[Arg::srcStride];
+    const int64_t repeats_after = pixels % 6 == 0 ? 1 : pixels % 3 == 0 ? 2 : pixels % 2 == 0 ? 3 : 6;
     Range read, written;
-    for (int64_t line = 0; line * pixels < total; ++line) {
+    outermost((total + pixels - 1) / pixels, repeats_after + 1, [&](int64_t line) {
         const int64_t begin = round_up(line * pixels, 6), end = round_up(std::min((line + 1) * pixels, total), 6);
-        if (begin == end) continue;
+        if (begin == end) return;
         const int64_t dst = line * direction * dst_stride, src = line * direction * src_stride;
         written = join(written, {dst, dst + (end - begin) / 6 * 16});
         read = join(read, {src, src + (end - begin) * 4 - 1});
-    }
+    });
     result.add(Arg::dst, {}, written);
     result.add(Arg::src, read, {});
     return result;
@@ -74,7 +75,7 @@ Extents widened_2vuy(const Arguments& call)
     return result;
 }
 
-// A group for every three pixels of `width`: twice the line. Offsets of lines wrap at 32 bits.
+// A group for every three pixels of `width`: twice the line. For frames under 4 GiB.
 Extents narrowed_v210(const Arguments& call)
 {
     Extents result;
@@ -82,12 +83,8 @@ Extents narrowed_v210(const Arguments& call)
     const auto given = call.as<uint32_t>(Arg::srcStride);
     const uint32_t stride = given == 0 ? width * 16 / 6 : given;
     const int64_t in_groups = round_up(width, 3) / 3;
-    Range read, written;
-    for (uint32_t line = 0; line < height; ++line) {
-        const int64_t dst = line * width * 2, src = line * stride;
-        written = join(written, {dst, dst + in_groups * 12});
-        read = join(read, {src, src + in_groups * 16});
-    }
+    const Range written = lines(0, width * int64_t{2}, height, in_groups * 12);
+    const Range read = lines(0, stride, height, in_groups * 16);
     result.add(Arg::dst, {}, written);
     result.add(Arg::src, read, {});
     return result;

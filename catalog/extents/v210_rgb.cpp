@@ -44,6 +44,7 @@ Extents one_group(const Arguments&)
 }
 
 // Output is unbroken from one pixel that begins both a line and a group to the next such pixel.
+// For frames under 2 GiB.
 Extents v210_run_to_rgb(const Arguments& call)
 {
     Extents result;
@@ -53,11 +54,10 @@ Extents v210_run_to_rgb(const Arguments& call)
     const int64_t unbroken = std::lcm(int64_t{6}, int64_t{width});
     const int64_t end = round_up(total, 6);
     Range written;
-    for (int64_t pixel = 0; pixel < end; pixel += unbroken) {
-        const int64_t start =
-            static_cast<int32_t>(static_cast<uint32_t>(pixel / width) * static_cast<uint32_t>(stride));
+    outermost((end + unbroken - 1) / unbroken, 2, [&](int64_t run) {
+        const int64_t pixel = run * unbroken, start = pixel / width * stride;
         written = join(written, {start, start + 4 * std::min(unbroken, end - pixel)});
-    }
+    });
     result.add(Arg::src, {0, end / 6 * 16}, {});
     result.add(Arg::dst, {}, written);
     return result;

@@ -1,0 +1,31 @@
+// What else is known of each routine: its other names, its oddities, whom it calls, and who does the same work.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "catalog.h"
+
+namespace tintvert::catalog {
+
+// The routine that this one is a second name of; null if it stands for itself.
+const Routine* alias_of(const Routine& routine);
+
+// Takes its arguments and does nothing.
+bool is_empty_entry(const Routine& routine);
+
+// Names of docs/deliberate.md.
+std::vector<std::string_view> oddities_of(const Routine& routine);
+
+// Functions of the companion libraries.
+std::vector<std::string_view> companions_of(const Routine& routine);
+
+struct Peer {
+    enum Agreement { exact, near } agreement;  // the same bytes; the same work by other rules
+    std::string_view command;                  // for frames of W x H pixels
+};
+
+std::optional<Peer> peer_of(const Routine& routine);
+
+}  // namespace tintvert::catalog

@@ -1,0 +1,24 @@
+// What one family of routines is not called with: one rule a family, named in refusals.def.
+#pragma once
+
+#include <cstdint>
+
+#include "refusals.h"
+
+namespace tintvert::catalog::refusals {
+
+#define TNTVT_REFUSES(routine, rule) Reason rule(const Arguments& call);
+#include "refusals.def"
+#undef TNTVT_REFUSES
+
+constexpr int64_t most_signed = 0x7FFFFFFF, most_unsigned = 0xFFFFFFFF;
+
+constexpr int64_t size_of(int64_t number) { return number < 0 ? -number : number; }
+
+// Whether the product of two sizes, each below 2^32, is above `most`.
+constexpr bool above(int64_t most, int64_t one, int64_t other)
+{
+    return other != 0 && size_of(one) > most / size_of(other);
+}
+
+}  // namespace tintvert::catalog::refusals

@@ -1,0 +1,22 @@
+// The routines by number, in the order of routines(): a table about them is checked by the compiler.
+#pragma once
+
+#include <cstddef>
+
+#include "catalog.h"
+
+namespace tintvert::catalog {
+
+enum class RoutineId : size_t {
+#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) name,
+#include "routines.def"
+#undef TNTVT_ROUTINE
+    count
+};
+
+inline constexpr size_t routine_count = static_cast<size_t>(RoutineId::count);
+
+inline const Routine& routine_at(RoutineId id) { return routines()[static_cast<size_t>(id)]; }
+inline RoutineId id_of(const Routine& routine) { return static_cast<RoutineId>(&routine - routines().data()); }
+
+}  // namespace tintvert::catalog

@@ -1,0 +1,143 @@
+#include "call.h"
+
+#include <algorithm>
+
+#include "extents.h"
+#include "in_place.h"
+#include "refusals.h"
+
+namespace tintvert::checked {
+namespace {
+
+using catalog::Arg;
+using catalog::extents::join;
+
+constexpr Refusal refusal_of(catalog::Refusal refusal) { return static_cast<Refusal>(refusal); }
+static_assert(refusal_of(catalog::Refusal::none) == Refusal::none);
+static_assert(refusal_of(catalog::Refusal::too_large) == Refusal::too_large);
+static_assert(refusal_of(catalog::Refusal::divides_by_zero) == Refusal::divides_by_zero);
+static_assert(refusal_of(catalog::Refusal::never_returns) == Refusal::never_returns);
+static_assert(refusal_of(catalog::Refusal::walks_2_32_lines) == Refusal::walks_2_32_lines);
+static_assert(refusal_of(catalog::Refusal::wraps) == Refusal::wraps);
+static_assert(refusal_of(catalog::Refusal::reads_as_unsigned) == Refusal::reads_as_unsigned);
+static_assert(refusal_of(catalog::Refusal::overruns_scratch) == Refusal::overruns_scratch);
+
+// An argument's name ends with a 0.
+const char* name_of(Arg argument) { return describe(argument).name.data(); }
+
+Range told(catalog::Range range) { return {range.begin, range.end}; }
+
+void tell(const catalog::Extents& extents, Extents& query)
+{
+    query = {};
+    for (const catalog::Touch& touch : extents)
+        query.add({name_of(touch.buffer), told(touch.read), told(touch.written)});
+}
+
+catalog::Range common(catalog::Range one, catalog::Range other)
+{
+    return {std::max(one.begin, other.begin), std::min(one.end, other.end)};
+}
+
+bool apart(catalog::Range one, catalog::Range other) { return common(one, other).empty(); }
+
+catalog::Range moved(catalog::Range range, int64_t distance) { return {range.begin + distance, range.end + distance}; }
+
+bool knows(const catalog::Extents& extents, Arg buffer)
+{
+    return std::ranges::any_of(extents, [=](const catalog::Touch& touch) { return touch.buffer == buffer; });
+}
+
+}  // namespace
+
+const Buffer& Call::given(Arg argument) const
+{
+    const Given* given = given_.data();
+    while (given->argument != argument) ++given;
+    return *given->buffer;
+}
+
+bool Call::may_be_made(const Options& options, Error& error)
+{
+    error.routine = routine_.name.data();
+    if (refused(error)) return false;
+    const catalog::Extents extents = routine_.extents(numbers_);
+    if (options.query != nullptr) {
+        tell(extents, *options.query);
+        return true;
+    }
+    Places places;
+    for (const catalog::Touch& touch : extents) {
+        const catalog::Range all = join(touch.read, touch.written);
+        if (lacks_room(touch.buffer, all, error)) return false;
+        places[static_cast<size_t>(&touch - extents.begin())] = moved(all, address(touch.buffer));
+    }
+    return options.allow_overlap || !overlaps(extents, places, error);
+}
+
+bool Call::refused(Error& error) const
+{
+    const catalog::Reason reason = catalog::reason(routine_, numbers_);
+    if (reason.refusal == catalog::Refusal::none) return false;
+    error.code = Code::refused;
+    error.refusal = refusal_of(reason.refusal);
+    error.why = reason.sentence;
+    return true;
+}
+
+bool Call::lacks_room(Arg argument, catalog::Range all, Error& error) const
+{
+    if (all.empty()) return false;
+    const Buffer& buffer = given(argument);
+    const int64_t front = buffer.front();
+    const bool null = buffer.pointer() == nullptr;
+    if (!null && all.begin >= -front && all.end <= bytes_of(buffer) - front) return false;
+    error.code = null ? Code::null : Code::too_small;
+    error.buffer = name_of(argument);
+    error.has = buffer.size();
+    error.front = front;
+    error.needs = static_cast<uint64_t>(std::max<int64_t>(all.end, 0) - std::min<int64_t>(all.begin, 0));
+    error.where = told(all);
+    return true;
+}
+
+// What is written in one buffer and touched in another. A frame in place is known to some rules as `dst` alone.
+bool Call::overlaps(const catalog::Extents& extents, const Places& places, Error& error) const
+{
+    if (catalog::extents::in_place(numbers_) && knows(extents, Arg::dst)) {
+        if (promised_in_place(routine_, numbers_)) return false;
+        if (!knows(extents, Arg::src)) {
+            const catalog::Touch& frame = *extents.begin();
+            return overlap(frame, {Arg::src, frame.read, {}}, error);
+        }
+    }
+    const catalog::Touch* const touches = extents.begin();
+    const auto count = static_cast<size_t>(extents.end() - touches);
+    for (size_t i = 0; i < count; ++i) {
+        if (touches[i].written.empty()) continue;
+        for (size_t j = 0; j < count; ++j) {
+            const bool seen = j == i || (j < i && !touches[j].written.empty());
+            if (!seen && !apart(places[i], places[j]) && overlap(touches[i], touches[j], error)) return true;
+        }
+    }
+    return false;
+}
+
+// If both are written, what the first reads counts as well.
+bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const
+{
+    const int64_t distance = address(other.buffer) - address(one.buffer);
+    const catalog::Range read = moved(other.read, distance), written = moved(other.written, distance);
+    const catalog::Range both =
+        join(common(one.written, written), join(common(one.written, read), common(one.read, written)));
+    if (both.empty()) return false;
+    error.code = Code::overlap;
+    error.buffer = name_of(one.buffer);
+    error.other = name_of(other.buffer);
+    error.has = given(one.buffer).size();
+    error.front = given(one.buffer).front();
+    error.where = told(both);
+    return true;
+}
+
+}  // namespace tintvert::checked

@@ -29,16 +29,11 @@ TNTVT_AVX2 void store_eight_avx2(uint8_t* dst, __m256i pixels)
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst), pixels);
 }
 
-// Pixels from the left, in eights. The source goes left while the lines go down, which no processor guesses, so
-// that what stands a line below is asked for ahead.
-TNTVT_AVX2 size_t mirror_line_avx2(uint8_t* dst, const uint8_t* src, size_t width, uint32_t stride)
+// Pixels from the left, in eights.
+TNTVT_AVX2 size_t mirror_line_avx2(uint8_t* dst, const uint8_t* src, size_t width)
 {
     size_t i = 0;
-    for (; width - i >= 8; i += 8) {
-        const uint8_t* from = src + (width - i - 7) * 4;
-        __builtin_prefetch(advance(from, stride));
-        store_eight_avx2(dst + i * 4, eight_reversed_avx2(from));
-    }
+    for (; width - i >= 8; i += 8) store_eight_avx2(dst + i * 4, eight_reversed_avx2(src + (width - i - 7) * 4));
     return i;
 }
 
@@ -55,14 +50,14 @@ TNTVT_AVX2 size_t mirror_line_in_place_avx2(uint8_t* line, size_t width)
     return i;
 }
 #else
-size_t mirror_line_avx2(uint8_t*, const uint8_t*, size_t, uint32_t) { return 0; }
+size_t mirror_line_avx2(uint8_t*, const uint8_t*, size_t) { return 0; }
 size_t mirror_line_in_place_avx2(uint8_t*, size_t) { return 0; }
 #endif
 
-void mirror_line(uint8_t* dst, const uint8_t* src, size_t width, uint32_t stride, bool wide)
+void mirror_line(uint8_t* dst, const uint8_t* src, size_t width, bool wide)
 {
     const long bytes = static_cast<long>(width * 4);
-    size_t i = wide && disjoint(dst, bytes, src + 4, bytes) ? mirror_line_avx2(dst, src, width, stride) : 0;
+    size_t i = wide && disjoint(dst, bytes, src + 4, bytes) ? mirror_line_avx2(dst, src, width) : 0;
     for (; i < width; ++i) store(dst + i * 4, load<uint32_t>(src + (width - i) * 4));
 }
 
@@ -88,6 +83,6 @@ void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int heig
         if (dst == src)
             mirror_line_in_place(line_at(dst, r, stride), pixels, wide);
         else
-            mirror_line(line_at(dst, r, stride), line_at(src, r, stride), pixels, stride, wide);
+            mirror_line(line_at(dst, r, stride), line_at(src, r, stride), pixels, wide);
     }
 }

@@ -3,14 +3,17 @@
 
 #include "field/change_field.h"
 #include "frame/imports.h"
+#include "frame/walk.h"
+#include "frame/wider_plain.h"
 
 namespace tintvert {
 namespace {
 
-void blend_line(uint8_t* line, const uint8_t* other, size_t count)
-{
-    for (size_t i = 0; i < count; ++i) line[i] = static_cast<uint8_t>((line[i] + other[i]) >> 1);
-}
+struct Blend {
+    static constexpr long src_bytes = 1, dst_bytes = 1;
+    using Wide = WiderPlain<Blend>;
+    static void pixel(uint8_t* dst, const uint8_t* src) { *dst = static_cast<uint8_t>((*dst + *src) >> 1); }
+};
 
 // Both words are halved whole, so the upper three bytes stand one bit low with their own low bit intact;
 // the masks cut them out there, and a sum of two carries its mean into the byte's own place.
@@ -29,10 +32,26 @@ static_assert(average(0x01010101, 0x01010101) == 0x01010100);
 static_assert(average(0xFFFFFFFF, 0xFFFFFFFF) == 0xFFFFFFFE);
 static_assert(average(0x02020202, 0x00000000) == 0x01010101);
 
-void average_line(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels)
+void average_line_plain(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels)
 {
     for (size_t i = 0; i < pixels; ++i)
         store(dst + i * 4, average(load<uint32_t>(one + i * 4), load<uint32_t>(other + i * 4)));
+}
+
+TNTVT_AVX2 void average_line_avx2(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels)
+{
+    TNTVT_PIXELS_APART
+    for (size_t i = 0; i < pixels; ++i)
+        store(dst + i * 4, average(load<uint32_t>(one + i * 4), load<uint32_t>(other + i * 4)));
+}
+
+void average_line(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels, bool wide)
+{
+    const long bytes = static_cast<long>(pixels * 4);
+    if (wide && disjoint(dst, bytes, one, bytes) && disjoint(dst, bytes, other, bytes))
+        average_line_avx2(dst, one, other, pixels);
+    else
+        average_line_plain(dst, one, other, pixels);
 }
 
 // DELIBERATE (keeps_entry_copy): row 0 gets the source's row 1 unless that is where row 1 of `dst` stands,
@@ -52,13 +71,7 @@ int blend_lines(const Change& change)
 {
     if (change.height < 2) return -1;
     const uint32_t line_bytes = change.width * 4;
-    if (line_bytes == 0) return 0;
-    uint8_t *line = change.dst, *other = change.dst;
-    for (uint32_t i = 0; i < change.height; ++i) {
-        blend_line(line, other, line_bytes);
-        line = advance(line, change.dst_stride);
-        other = advance(other, change.src_stride);
-    }
+    walk_forward<Blend>({change.dst, change.dst_stride, change.dst, change.src_stride}, line_bytes, change.height);
     return 0;
 }
 
@@ -66,11 +79,12 @@ int interpolate_first(const Change& change)
 {
     if (change.dst == nullptr || change.src == nullptr) copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
+    const bool wide = tier() >= Tier::avx2;
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.even, src.even, change.src_stride);
         const bool last = k + 1 == change.pairs();
-        average_line(dst.odd, src.even, last ? src.even : advance(src.even, src.twice), change.src_stride / 4);
+        average_line(dst.odd, src.even, last ? src.even : advance(src.even, src.twice), change.src_stride / 4, wide);
     }
     return 0;
 }
@@ -79,11 +93,12 @@ int interpolate_second(const Change& change)
 {
     copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
+    const bool wide = tier() >= Tier::avx2;
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.odd, src.odd, change.src_stride);
         if (k + 1 == change.pairs()) break;
-        average_line(advance(dst.even, dst.twice), src.odd, advance(src.odd, src.twice), change.src_stride / 4);
+        average_line(advance(dst.even, dst.twice), src.odd, advance(src.odd, src.twice), change.src_stride / 4, wide);
     }
     return 0;
 }

@@ -4,6 +4,8 @@
 #include "frame/imports.h"
 #include "frame/memory.h"
 #include "frame/number.h"
+#include "frame/walk.h"
+#include "frame/wider_plain.h"
 
 using namespace tintvert;
 
@@ -11,34 +13,29 @@ namespace {
 
 // DELIBERATE (keeps_halves_before_sum): each byte loses its low bit before the sum, so 1 and 1 give 0.
 struct Bytes {
-    using Unit = uint8_t;
+    static constexpr long src_bytes = 1, dst_bytes = 1;
+    using Wide = WiderPlain<Bytes>;
     static uint8_t mix(uint8_t a, uint8_t b) { return static_cast<uint8_t>((a >> 1) + (b >> 1)); }
+    static void pixel(uint8_t* dst, const uint8_t* src) { *dst = mix(*dst, *src); }
 };
 
 // Fields are added first and halved after, so 1 and 1 give 1. Bits 30 and 31 come out as zero.
 struct Words {
-    using Unit = uint32_t;
+    static constexpr long src_bytes = 4, dst_bytes = 4;
+    using Wide = WiderPlain<Words>;
     static constexpr uint32_t field = 0x3FF;
     static uint32_t mix(uint32_t a, uint32_t b)
     {
         return ((a & field) + (b & field)) >> 1 | ((((a >> 10 & field) + (b >> 10 & field)) << 9) & 0x000FFC00) |
                ((((a >> 20 & field) + (b >> 20 & field)) << 19) & 0x3FF00000);
     }
+    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, mix(load<uint32_t>(dst), load<uint32_t>(src))); }
 };
-
-template <class Form>
-void dissolve_line(uint8_t* dst, const uint8_t* src, long units)
-{
-    using Unit = typename Form::Unit;
-    for (long i = 0; i < units; ++i, dst += sizeof(Unit), src += sizeof(Unit))
-        store(dst, Form::mix(load<Unit>(dst), load<Unit>(src)));
-}
 
 template <class Form>
 int dissolve(uint8_t* dst, uint8_t* src, long stride, long units, long height)
 {
-    for (long line = 0; line < height; ++line)
-        dissolve_line<Form>(advance(dst, line_offset(line, stride)), advance(src, line_offset(line, stride)), units);
+    walk_forward<Form>({dst, stride, src, stride}, units, height);
     return 0;
 }
 

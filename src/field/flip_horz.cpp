@@ -7,19 +7,64 @@
 #include <cstddef>
 
 #include "field/lines.h"
+#include "frame/wide.h"
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
 
 using namespace tintvert;
 
 namespace {
 
-void mirror_line(uint8_t* dst, const uint8_t* src, size_t width)
+#if defined(__x86_64__)
+TNTVT_AVX2 __m256i eight_reversed_avx2(const uint8_t* src)
 {
-    for (size_t i = 0; i < width; ++i) store(dst + i * 4, load<uint32_t>(src + (width - i) * 4));
+    return _mm256_permutevar8x32_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(src)),
+                                       _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0));
 }
 
-void mirror_line_in_place(uint8_t* line, size_t width)
+TNTVT_AVX2 void store_eight_avx2(uint8_t* dst, __m256i pixels)
 {
-    for (size_t i = 0; i < width / 2; ++i) {
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst), pixels);
+}
+
+// Pixels from the left, in eights.
+TNTVT_AVX2 size_t mirror_line_avx2(uint8_t* dst, const uint8_t* src, size_t width)
+{
+    size_t i = 0;
+    for (; width - i >= 8; i += 8) store_eight_avx2(dst + i * 4, eight_reversed_avx2(src + (width - i - 7) * 4));
+    return i;
+}
+
+// The same, each eight exchanged with those that they are mirrored to. The middle pixels stay.
+TNTVT_AVX2 size_t mirror_line_in_place_avx2(uint8_t* line, size_t width)
+{
+    size_t i = 0;
+    for (; width / 2 - i >= 8; i += 8) {
+        uint8_t *left = line + i * 4, *right = line + (width - i - 7) * 4;
+        const __m256i from_left = eight_reversed_avx2(left), from_right = eight_reversed_avx2(right);
+        store_eight_avx2(left, from_right);
+        store_eight_avx2(right, from_left);
+    }
+    return i;
+}
+#else
+size_t mirror_line_avx2(uint8_t*, const uint8_t*, size_t) { return 0; }
+size_t mirror_line_in_place_avx2(uint8_t*, size_t) { return 0; }
+#endif
+
+void mirror_line(uint8_t* dst, const uint8_t* src, size_t width, bool wide)
+{
+    const long bytes = static_cast<long>(width * 4);
+    size_t i = wide && disjoint(dst, bytes, src + 4, bytes) ? mirror_line_avx2(dst, src, width) : 0;
+    for (; i < width; ++i) store(dst + i * 4, load<uint32_t>(src + (width - i) * 4));
+}
+
+void mirror_line_in_place(uint8_t* line, size_t width, bool wide)
+{
+    size_t i = wide ? mirror_line_in_place_avx2(line, width) : 0;
+    for (; i < width / 2; ++i) {
         const auto left = load<uint32_t>(line + i * 4);
         const auto right = load<uint32_t>(line + (width - i) * 4);
         store(line + i * 4, right);
@@ -33,10 +78,11 @@ void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int heig
 {
     if (height < 1 || (dst != src && width < 1)) return;
     const auto pixels = static_cast<uint32_t>(width);
+    const bool wide = tier() >= Tier::avx2;
     for (uint32_t r = 0; r < static_cast<uint32_t>(height); ++r) {
         if (dst == src)
-            mirror_line_in_place(line_at(dst, r, stride), pixels);
+            mirror_line_in_place(line_at(dst, r, stride), pixels, wide);
         else
-            mirror_line(line_at(dst, r, stride), line_at(src, r, stride), pixels);
+            mirror_line(line_at(dst, r, stride), line_at(src, r, stride), pixels, wide);
     }
 }

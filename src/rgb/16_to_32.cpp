@@ -2,6 +2,7 @@
 // first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/state.h"
 #include "frame/walk.h"
 
@@ -18,6 +19,11 @@ namespace {
 // below, so that 31 becomes 248.
 struct Rgb16ToRgb32 {
     static constexpr long src_bytes = 2, dst_bytes = 4;
+    using Wide = BitMoves<Rgb16ToRgb32>;
+    static constexpr MovedByte moved(int byte)
+    {
+        return byte == 3 ? moved_byte<alpha_byte>(0) : moved_bits(5 * byte - 3, 0xF8);
+    }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = static_cast<uint8_t>(load<uint16_t>(src) >> 7 & 0xF8);

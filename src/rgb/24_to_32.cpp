@@ -2,6 +2,7 @@
 // pixel first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/state.h"
 #include "frame/walk.h"
 #include "rgb/mirror.h"
@@ -15,6 +16,8 @@ namespace {
 // bytes that these stores have just replaced: d1 and d2 of pixel 1 and d2 of pixel 2.
 struct Rgb24ToRgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
+    using Wide = BitMoves<Rgb24ToRgb32>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, alpha_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
@@ -27,6 +30,8 @@ struct Rgb24ToRgb32 {
 // DELIBERATE (keeps_descending_writes_in_place): here it is d0 of pixels 0 and 1.
 struct Rgb24ToBgr32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
+    using Wide = BitMoves<Rgb24ToBgr32>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0, alpha_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];
@@ -39,6 +44,8 @@ struct Rgb24ToBgr32 {
 // Downwards: the one order of the three that harms no byte in place.
 struct MacBgr24ToMacArgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
+    using Wide = BitMoves<MacBgr24ToMacArgb32>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<alpha_byte, 0, 1, 2>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[3] = src[2];

@@ -3,6 +3,7 @@
 #include <tintvert/rgb.h>
 
 #include "frame/walk.h"
+#include "frame/wider_plain.h"
 #include "rgb/word_order.h"
 
 using namespace tintvert;
@@ -17,6 +18,12 @@ static_assert(counted_alpha(0x000000FF) == 0);
 static_assert(counted_alpha(0x00000007) == 1);
 static_assert(counted_alpha(0x12345678) == 0x12);
 static_assert(counted_alpha(0xFF000007) == 0x100);
+
+struct CountedAlpha {
+    static constexpr long src_bytes = 4, dst_bytes = 4;
+    using Wide = WiderPlain<CountedAlpha>;
+    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, counted_alpha(load<uint32_t>(src))); }
+};
 
 }  // namespace
 
@@ -42,5 +49,5 @@ void tntvt_rgba32_argb32(void* dst, long dstStride, void* src, long srcStride, l
 
 void tntvt_argb32_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
-    walk_forward<EachWord<counted_alpha>>({dst, dstStride, src, srcStride}, width, magnitude(height));
+    walk_forward<CountedAlpha>({dst, dstStride, src, srcStride}, width, magnitude(height));
 }

@@ -2,6 +2,7 @@
 // line first, leftmost pixel first, so that a frame can shrink where it stands.
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/walk.h"
 #include "rgb/mirror.h"
 
@@ -13,6 +14,8 @@ namespace {
 // that is the result, so no form gathers the bytes of a pixel first.
 struct Rgb32ToRgb24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
+    using Wide = BitMoves<Rgb32ToRgb24>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
@@ -23,6 +26,8 @@ struct Rgb32ToRgb24 {
 
 struct Rgb32ToBgr24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
+    using Wide = BitMoves<Rgb32ToBgr24>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "frame/bit_moves.h"
 #include "frame/memory.h"
 #include "frame/walk.h"
 #include "rgb/mirror.h"
@@ -49,15 +50,25 @@ uint16_t load_channel(const uint8_t* src)
     return order == std::endian::little ? stored : byte_reverse(stored);
 }
 
+// A channel tells where its bits come from if its shift is known to the compiler.
+template <class K>
+constexpr bool is_constant = requires
+{
+    K::value;
+};
+
 // 16 bits to 8: the value moves down by k and keeps its low eight bits.
 // DELIBERATE (keeps_wrap_of_wide_values): nothing is rounded or clamped. A value of more than `bits` bits
 // loses its upper ones.
 template <std::endian order, class K>
 struct Reduced {
     static constexpr long src_bytes = 2, dst_bytes = 1;
+    static constexpr bool tells_bits = is_constant<K>;
     K k;
 
     uint8_t operator()(const uint8_t* src) const { return static_cast<uint8_t>(load_channel<order>(src) >> k); }
+
+    static constexpr MovedByte moved(int) { return moved_bits(K::value, 0xFF, order == std::endian::little ? 1 : 2); }
 };
 
 // 8 bits to 16: the byte moves up by k.
@@ -65,16 +76,26 @@ struct Reduced {
 template <class K>
 struct Widened {
     static constexpr long src_bytes = 1, dst_bytes = 2;
+    static constexpr bool tells_bits = is_constant<K>;
     K k;
 
     uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
+
+    static constexpr MovedByte moved(int byte)
+    {
+        const int bit = 8 * byte - static_cast<int>(K::value);
+        return moved_bits(bit, (0xFFu << K::value) >> (8 * byte) & 0xFF);
+    }
 };
 
 // 16 bits, big-endian, to 16 bits of the machine.
 struct Swapped {
     static constexpr long src_bytes = 2, dst_bytes = 2;
+    static constexpr bool tells_bits = true;
 
     uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
+
+    static constexpr MovedByte moved(int byte) { return moved_bits(8 * byte, 0xFF, 2); }
 };
 
 // Which channel of the source goes to q0, q1, ... of the result, or `zero`.
@@ -92,6 +113,17 @@ struct Deep<Channel, channels, Order<from...>> {
     static constexpr long src_bytes = channels * Channel::src_bytes;
     static constexpr long dst_bytes = long{sizeof...(from)} * Channel::dst_bytes;
     Channel channel;
+
+    using Wide = std::conditional_t<Channel::tells_bits, BitMoves<Deep>, void>;
+    static constexpr MovedByte moved(int byte)
+    {
+        constexpr int places[] = {from...};
+        const int place = places[byte / Channel::dst_bytes];
+        if (place == zero) return fixed_byte(0);
+        MovedByte result = Channel::moved(static_cast<int>(byte % Channel::dst_bytes));
+        result.bit += static_cast<int>(8 * Channel::src_bytes) * place;
+        return result;
+    }
 
     void pixel(uint8_t* dst, const uint8_t* src) const { write(dst, take<from>(src)...); }
 

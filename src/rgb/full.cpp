@@ -1,6 +1,7 @@
 // A frame from one buffer to another by pixel size, which each side's stride tells.
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/imports.h"
 #include "frame/walk.h"
 
@@ -13,6 +14,8 @@ namespace {
 template <long src_size, long dst_size>
 struct ThreeBytes {
     static constexpr long src_bytes = src_size, dst_bytes = dst_size;
+    using Wide = BitMoves<ThreeBytes>;
+    static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, kept_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];

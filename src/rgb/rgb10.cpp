@@ -4,6 +4,7 @@
 //   word       field 1      field 2      field 3
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/walk.h"
 
 using namespace tintvert;
@@ -20,6 +21,7 @@ namespace {
 constexpr uint16_t masked(uint32_t word) { return static_cast<uint16_t>(word & 0xFF30); }
 
 struct LittleEndian {
+    static constexpr int word_bytes = 1;
     static constexpr uint32_t in_order(uint32_t word) { return word; }
     static constexpr uint16_t V1(uint32_t word) { return masked(word >> 16); }
     static constexpr uint16_t V2(uint32_t word) { return masked(word >> 6); }
@@ -35,6 +37,7 @@ struct LittleEndian {
 // The same bits out of a word that was loaded with its bytes the other way about: shifts go four at a time
 // where a byte reverse would not.
 struct BigEndian {
+    static constexpr int word_bytes = 4;
     static constexpr uint32_t in_order(uint32_t word) { return byte_reverse(word); }
     static constexpr uint16_t V1(uint32_t word) { return masked((word << 8 & 0xFF00) | (word >> 8 & 0x30)); }
     static constexpr uint16_t V2(uint32_t word) { return masked((word << 2 & 0xFC00) | (word >> 14 & 0x330)); }
@@ -62,10 +65,23 @@ static_assert(holds<BigEndian>(0x0000C0FF, 0xFF00, 0, 0, 0xFF0000));
 static_assert(holds<BigEndian>(0x00F03F00, 0x0030, 0xFF00, 0xFF00, 0x00FF00));
 static_assert(holds<BigEndian>(0xFC0F0000, 0, 0x0030, 0x0030, 0x0000FF));
 
+// Byte `byte` of V1, V2 or V3 for the steps: V1 begins at bit 16 of the word, V2 at 6, V3 at 4.
+template <class Order>
+constexpr MovedByte masked_byte(int n, int byte)
+{
+    constexpr int begins[] = {16, 6, 4};
+    return moved_bits(begins[n - 1] + 8 * byte, byte == 0 ? 0x30 : 0xFF, Order::word_bytes);
+}
+
 // DELIBERATE (keeps_opposite_channel_orders): field 1 is the third channel of `rgba64` and the first of `rgb48`.
 template <class Order>
 struct Rgba64 {
     static constexpr long src_bytes = 4, dst_bytes = 8, bottom = 0;
+    using Wide = BitMoves<Rgba64>;
+    static constexpr MovedByte moved(int byte)
+    {
+        return byte < 6 ? masked_byte<Order>(3 - byte / 2, byte % 2) : fixed_byte(0xFF);
+    }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const auto word = load<uint32_t>(src);
@@ -77,6 +93,8 @@ struct Rgba64 {
 template <class Order>
 struct Rgb48 {
     static constexpr long src_bytes = 4, dst_bytes = 6, bottom = 0;
+    using Wide = BitMoves<Rgb48>;
+    static constexpr MovedByte moved(int byte) { return masked_byte<Order>(1 + byte / 2, byte % 2); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const uint32_t word = Order::in_order(load<uint32_t>(src));  // six bytes a pixel go one at a time anyhow
@@ -89,6 +107,11 @@ struct Rgb48 {
 template <class Order>
 struct Rgba32 {
     static constexpr long src_bytes = 4, dst_bytes = 4, bottom = -1;
+    using Wide = BitMoves<Rgba32>;
+    static constexpr MovedByte moved(int byte)
+    {
+        return byte < 3 ? moved_bits(4 + 10 * byte, 0xFF, Order::word_bytes) : fixed_byte(0xFF);
+    }
     static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, Order::tops(load<uint32_t>(src)) | 0xFF000000); }
 };
 

@@ -2,6 +2,7 @@
 // the last round of a line is a whole one.
 #include <tintvert/rgb.h>
 
+#include "frame/bit_moves.h"
 #include "frame/walk.h"
 #include "rgb/rounds.h"
 
@@ -48,9 +49,25 @@ uint16_t widened(uint32_t sample) { return static_cast<uint16_t>(sample << 4); }
 // The upper 8 of 12 bits.
 uint8_t narrowed(uint32_t sample) { return static_cast<uint8_t>(sample >> 4); }
 
+// For the steps the samples are one stream of bits: sample n begins at bit 12n.
+constexpr MovedByte widened_byte(int n, int byte) { return moved_bits(12 * n + 8 * byte - 4, byte == 0 ? 0xF0 : 0xFF); }
+constexpr MovedByte narrowed_byte(int n) { return moved_bits(12 * n + 4); }
+
+// Two pixels of ToRgb48.
+struct PairOfRgb48 {
+    static constexpr long src_bytes = 9, dst_bytes = 12;
+    static constexpr MovedByte moved(int byte)
+    {
+        const int word = byte / 2, channel = 2 - word % 3;
+        return widened_byte(word / 3 * 3 + channel, byte % 2);
+    }
+};
+
 // The walkers' "pixel" is a round here.
 struct ToBgr48 {
     static constexpr long src_bytes = 12, dst_bytes = 16;
+    using Wide = BitMoves<ToBgr48>;
+    static constexpr MovedByte moved(int byte) { return widened_byte(byte / 2, byte % 2); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         uint32_t samples[8];
@@ -61,6 +78,7 @@ struct ToBgr48 {
 
 struct ToRgb48 {
     static constexpr long src_bytes = 36, dst_bytes = 48;
+    using Wide = BitMoves<PairOfRgb48, 4>;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const EightPixels round(src);
@@ -75,6 +93,13 @@ struct ToRgb48 {
 // DELIBERATE (keeps_red_in_one_blue_byte): byte 0 of the third pixel is the red of the first, not its own blue.
 struct ToRgba32 {
     static constexpr long src_bytes = 36, dst_bytes = 32;
+    using Wide = BitMoves<ToRgba32>;
+    static constexpr MovedByte moved(int byte)
+    {
+        const int p = byte / 4, channel = byte % 4;
+        if (channel == 3) return fixed_byte(255);
+        return narrowed_byte(p == 2 && channel == 0 ? 0 : 3 * p + 2 - channel);
+    }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const EightPixels round(src);

@@ -12,7 +12,7 @@ using Places = std::vector<std::pair<long, long>>;  // offsets of (dst, src), in
 
 // A pixel of 3 bytes in and 4 bytes out that notes where it stands.
 struct Notes {
-    static constexpr size_t src_bytes = 3, dst_bytes = 4;
+    static constexpr long src_bytes = 3, dst_bytes = 4;
     Places* places;
     const uint8_t *dst_base, *src_base;
     void pixel(uint8_t* dst, const uint8_t* src) { places->emplace_back(dst - dst_base, src - src_base); }
@@ -71,7 +71,7 @@ TEST(Walks, do_nothing_without_pixels)
 }
 
 struct CopyByte {
-    static constexpr size_t src_bytes = 1, dst_bytes = 1;
+    static constexpr long src_bytes = 1, dst_bytes = 1;
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = *src; }
 };
 

@@ -1,0 +1,38 @@
+// Wide steps for forms that only move bits: each byte of the result is eight neighbouring bits of the source,
+// or a constant. Such a form says so byte by byte, in `moved(byte)`, and names its steps:
+//
+//   using Wide = BitMoves<Form>;
+//
+// The shuffles, shifts and masks of a step are worked out from that while it compiles.
+#pragma once
+
+#include "frame/moved_byte.h"
+
+#if defined(__x86_64__)
+#include "frame/bit_moves_avx2.h"
+#include "frame/bit_moves_vbmi.h"
+#endif
+
+namespace tintvert {
+
+// A pixel of the walk is `per_pixel` of `Units`, which has `src_bytes`, `dst_bytes` and `moved`. Both functions make
+// the leading pixels of a line and return how many.
+template <class Units, long per_pixel = 1>
+struct BitMoves {
+#if defined(__x86_64__)
+    static long avx2(uint8_t* dst, const uint8_t* src, long pixels, bool down)
+    {
+        if constexpr (keeps_bytes<Units>())
+            return 0;
+        else
+            return Avx2BitMoves<Units>::run_avx2(dst, src, pixels * per_pixel, down) / per_pixel;
+    }
+
+    static long vbmi(uint8_t* dst, const uint8_t* src, long pixels, bool down)
+    {
+        return VbmiBitMoves<Units>::run_vbmi(dst, src, pixels * per_pixel, down) / per_pixel;
+    }
+#endif
+};
+
+}  // namespace tintvert

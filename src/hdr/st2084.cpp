@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "frame/byte_lookup.h"
 #include "frame/memory.h"
 #include "hdr/st2084_tables.h"
 
@@ -31,10 +32,25 @@ int for_each_line(const Frame& frame, uint32_t least_bytes, Line line)
 
 uint8_t mapped(const uint32_t* table, uint8_t code) { return static_cast<uint8_t>(table[code]); }
 
+// A table as bytes, for the wide forms, as its entries stand when the call begins.
+struct Bytes {
+    uint8_t of[256];
+
+    explicit Bytes(const uint32_t* table)
+    {
+        for (int code = 0; code < 256; ++code) of[code] = mapped(table, static_cast<uint8_t>(code));
+    }
+};
+
 int map_bytes(const Frame& frame, const uint32_t* table)
 {
-    return for_each_line(frame, 1, [table](uint8_t* dst, const uint8_t* src, uint32_t count) {
-        for (uint32_t i = 0; i < count; ++i) dst[i] = mapped(table, src[i]);
+    const Tier limit = tier();
+    const Bytes bytes(table);
+    return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
+        long i = 0;
+        if (same_or_disjoint(dst, src, count))
+            i = map_pairs_wide(limit, dst, src, nullptr, count, {bytes.of, bytes.of});
+        for (; i < count; ++i) dst[i] = mapped(table, src[i]);
     });
 }
 
@@ -81,12 +97,18 @@ int tntvt_st2084_to_rgb(unsigned char* dst, unsigned char* src, unsigned int dst
 int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    return for_each_line({dst, src, dstStride, srcStride, height}, 4, [](uint8_t* to, const uint8_t* from, uint32_t m) {
-        for (uint32_t group = 0; group < m / 4; ++group, to += 4, from += 4) {
-            to[1] = mapped(ardwRGB_to_SMPTE2048_8Bit, from[1]);
-            to[3] = mapped(ardwRGB_to_SMPTE2048_8Bit, from[3]);
-        }
-    });
+    const Tier limit = tier();
+    const uint32_t* const table = ardwRGB_to_SMPTE2048_8Bit;
+    const Bytes bytes(table);
+    return for_each_line({dst, src, dstStride, srcStride, height}, 4,
+                         [&](uint8_t* to, const uint8_t* from, uint32_t m) {
+                             // From the first luma byte to the last.
+                             const long run = m / 4 * 4 - 1;
+                             long i = 0;
+                             if (same_or_disjoint(to + 1, from + 1, run))
+                                 i = map_pairs_wide(limit, to + 1, from + 1, to + 1, run, {bytes.of, nullptr});
+                             for (; i < run; i += 2) to[i + 1] = mapped(table, from[i + 1]);
+                         });
 }
 
 // DELIBERATE (keeps_copy_of_bytes_1_to_4): unlike its forward twin, each group first brings over the source
@@ -94,13 +116,21 @@ int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int ds
 int tntvt_st2084_to_yuv2(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    return for_each_line({dst, src, dstStride, srcStride, height}, 4, [](uint8_t* to, const uint8_t* from, uint32_t m) {
-        for (uint32_t group = 0; group < m / 4; ++group, to += 4, from += 4) {
-            store(to + 1, load<uint32_t>(from + 1));
-            to[1] = mapped(ardwSMPTE2048_to_RGB_8Bit, from[1]);
-            to[3] = mapped(ardwSMPTE2048_to_RGB_8Bit, from[3]);
-        }
-    });
+    const Tier limit = tier();
+    const uint32_t* const table = ardwSMPTE2048_to_RGB_8Bit;
+    const Bytes bytes(table);
+    return for_each_line({dst, src, dstStride, srcStride, height}, 4,
+                         [&](uint8_t* to, const uint8_t* from, uint32_t m) {
+                             const long run = m / 4 * 4;
+                             long i = 0;
+                             if (same_or_disjoint(to + 1, from + 1, run))
+                                 i = map_pairs_wide(limit, to + 1, from + 1, from + 1, run, {bytes.of, nullptr});
+                             for (; i < run; i += 4) {
+                                 store(to + i + 1, load<uint32_t>(from + i + 1));
+                                 to[i + 1] = mapped(table, from[i + 1]);
+                                 to[i + 3] = mapped(table, from[i + 3]);
+                             }
+                         });
 }
 
 int tntvt_v210_to_st2084(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,

@@ -3,6 +3,7 @@
 
 #include "frame/memory.h"
 #include "ycbcr10/v210.h"
+#include "ycbcr10/v210_2vuy_wide.h"
 
 using namespace tintvert;
 
@@ -19,6 +20,8 @@ constexpr uint32_t unrounded_line(uint32_t width) { return width * 16 / 6; }
 
 static_assert(line_of_64_bytes(1920) == 5120 && line_of_64_bytes(1280) == 3456 && line_of_64_bytes(100) == 320);
 static_assert(unrounded_line(1920) == 5120 && unrounded_line(1280) == 3413 && unrounded_line(100) == 266);
+
+constexpr long groups_of(long count, long each) { return (count + each - 1) / each; }
 
 // Three words in, then four words out.
 void widen_group(uint8_t* dst, const uint8_t* src)
@@ -37,26 +40,42 @@ void narrow_group(uint8_t* dst, const uint8_t* src)
     std::memcpy(dst, byte, sizeof byte);
 }
 
-void widen_line(uint8_t* dst, const uint8_t* src, long width)
+void widen_line(uint8_t* dst, const uint8_t* src, long width, Tier limit)
 {
-    for (long i = 0; i < width; i += v210_group_pixels) {
-        widen_group(dst, src);
-        dst += v210_group_bytes;
-        src += narrow_group_bytes;
-    }
+    const long groups = groups_of(width, v210_group_pixels);
+    long done = 0;
+    if (disjoint(dst, groups * v210_group_bytes, src, groups * narrow_group_bytes))
+        done = widen_wide(limit, dst, src, groups);
+    for (; done < groups; ++done) widen_group(dst + done * v210_group_bytes, src + done * narrow_group_bytes);
 }
 
-// DELIBERATE (keeps_double_length_lines): `done` counts output words and `width` counts pixels, two to a
-// word, so a line runs on to twice its length. The next line overwrites the surplus and the last line's
-// lands behind the frame, where callers leave `width` * 2 bytes of room.
-void narrow_line(uint8_t* dst, const uint8_t* src, long width)
+void narrow_line(uint8_t* dst, const uint8_t* src, long groups, Tier limit)
 {
     long done = 0;
-    do {
-        narrow_group(dst + 4 * done, src);
-        src += v210_group_bytes;
-        done += 3;
-    } while (done < width);
+    if (disjoint(dst, groups * narrow_group_bytes, src, groups * v210_group_bytes))
+        done = narrow_wide(limit, dst, src, groups);
+    for (; done < groups; ++done) narrow_group(dst + done * narrow_group_bytes, src + done * v210_group_bytes);
+}
+
+// DELIBERATE (keeps_double_length_lines): output words are counted against pixels, two to a word, so a line
+// runs on to twice its length: a group for every three pixels. The next line overwrites the surplus and the last
+// line's lands behind the frame, where callers leave `width` * 2 bytes of room.
+long doubled_groups(long width) { return groups_of(width, 3); }
+
+// Offsets of lines are running sums, kept to 32 bits.
+constexpr bool sums_wrap(uint32_t lines, uint32_t step) { return (lines - uint64_t{1}) * step > 0xFFFFFFFF; }
+
+static_assert(!sums_wrap(1, 0xFFFFFFFF) && !sums_wrap(2, 0xFFFFFFFF) && sums_wrap(3, 0x80000000));
+
+// Each line begins where the width of the one before it ends, and no line writes below its beginning. So unless
+// an offset wraps, the surplus of every line but the last is overwritten, and need not be written where the
+// frames share no byte.
+bool surplus_is_overwritten(const uint8_t* dst, const uint8_t* src, uint32_t width, uint32_t height, uint32_t stride)
+{
+    if (height == 0 || sums_wrap(height, width * 2) || sums_wrap(height, stride)) return false;
+    const long last = height - 1L, groups = doubled_groups(width);
+    return disjoint(dst, last * (width * 2) + groups * narrow_group_bytes, src,
+                    last * stride + groups * v210_group_bytes);
 }
 
 }  // namespace
@@ -67,10 +86,11 @@ void tntvt_2vuy_v210(unsigned char* dst, unsigned char* src, unsigned int width,
 {
     if (dstStride == 0) dstStride = line_of_64_bytes(width);
     if (width == 0) return;
+    const Tier limit = tier();
     uint32_t y = height;
     do {
         --y;
-        widen_line(advance(dst, line_offset(y, dstStride)), advance(src, line_offset(y, width * 2L)), width);
+        widen_line(advance(dst, line_offset(y, dstStride)), advance(src, line_offset(y, width * 2L)), width, limit);
     } while (y != 0);
 }
 
@@ -79,9 +99,14 @@ void tntvt_v210_2vuy(unsigned char* dst, unsigned char* src, unsigned int width,
 {
     if (srcStride == 0) srcStride = unrounded_line(width);
     if (width == 0) return;
-    uint32_t dst_offset = 0, src_offset = 0;  // running sums, kept to 32 bits
+    const Tier limit = tier();
+    const long groups = doubled_groups(width);
+    const bool once = limit > Tier::plain && surplus_is_overwritten(dst, src, width, height, srcStride);
+    const long groups_above = once ? groups_of(width, v210_group_pixels) : groups;
+    uint32_t dst_offset = 0, src_offset = 0;
     for (uint32_t y = 0; y != height; ++y) {
-        narrow_line(advance(dst, dst_offset), advance(src, src_offset), width);
+        const long line_groups = y + 1 == height ? groups : groups_above;
+        narrow_line(advance(dst, dst_offset), advance(src, src_offset), line_groups, limit);
         dst_offset += width * 2;
         src_offset += srcStride;
     }

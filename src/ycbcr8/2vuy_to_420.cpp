@@ -1,17 +1,16 @@
 // `2vuy` to `i420` and `yv12`: the chroma of even lines is kept, that of odd lines dropped.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
-
+#include "ycbcr8/groups_wide.h"
 #include "ycbcr8/planes_420.h"
 
 using namespace tintvert;
 
 namespace {
 
-void part_even_line(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, size_t groups)
+void part_even_line(Tier limit, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, long groups)
 {
-    for (size_t g = 0; g < groups; ++g) {
+    for (long g = part_groups_wide(limit, {luma, byte0, byte2}, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
         byte0[g] = src[4 * g];
@@ -19,9 +18,9 @@ void part_even_line(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t
     }
 }
 
-void part_odd_line(uint8_t* luma, const uint8_t* src, size_t groups)
+void part_odd_line(Tier limit, uint8_t* luma, const uint8_t* src, long groups)
 {
-    for (size_t g = 0; g < groups; ++g) {
+    for (long g = part_luma_wide(limit, luma, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
     }
@@ -32,15 +31,16 @@ void part_odd_line(uint8_t* luma, const uint8_t* src, size_t groups)
 void from_2vuy(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, uint32_t stride, uint32_t height)
 {
     if (stride == 0) return;
-    const size_t groups = (size_t{stride} + 3) / 4;
+    const Tier limit = tier();
+    const long groups = (long{stride} + 3) / 4;
     for (uint32_t r = 0; r < height; ++r, luma += 2 * groups) {
         const uint8_t* line = advance(src, r * stride);
         if (r % 2 == 0) {
-            part_even_line(luma, byte0, byte2, line, groups);
+            part_even_line(limit, luma, byte0, byte2, line, groups);
             byte0 += groups;
             byte2 += groups;
         } else {
-            part_odd_line(luma, line, groups);
+            part_odd_line(limit, luma, line, groups);
         }
     }
 }

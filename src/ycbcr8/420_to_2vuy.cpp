@@ -1,8 +1,7 @@
 // `i420` and `yv12` to `2vuy`: a chroma line serves two lines, and nothing is interpolated.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
-
+#include "ycbcr8/groups_wide.h"
 #include "ycbcr8/planes_420.h"
 
 using namespace tintvert;
@@ -10,9 +9,9 @@ using namespace tintvert;
 namespace {
 
 // A group is one word: its four samples are read before any byte of it is written.
-void join_line(uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, size_t groups)
+void join_line(Tier limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
 {
-    for (size_t g = 0; g < groups; ++g) {
+    for (long g = join_groups_wide(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
         const uint8_t b0 = cb[g], b1 = y[2 * g], b2 = cr[g], b3 = y[2 * g + 1];
         dst[4 * g] = b0;
         dst[4 * g + 1] = b1;
@@ -49,12 +48,13 @@ void to_2vuy(uint8_t* dst, uint32_t stride, const uint8_t* plane, const uint8_t*
              uint32_t height)
 {
     if (width == 0) return;
-    const size_t groups = (size_t{width} + 1) / 2;
+    const Tier limit = tier();
+    const long groups = (long{width} + 1) / 2;
     const uint8_t* luma = plane;
     for (uint32_t r = 0; r < height; ++r) {
         luma = Order::luma(plane, luma, width, r);
         const uint32_t chroma = Order::chroma(width, r);
-        join_line(advance(dst, r * stride), luma, advance(cb, chroma), advance(cr, chroma), groups);
+        join_line(limit, advance(dst, r * stride), luma, advance(cb, chroma), advance(cr, chroma), groups);
         luma += 2 * groups;
     }
 }

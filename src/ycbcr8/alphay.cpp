@@ -2,6 +2,7 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/walk.h"
+#include "ycbcr8/groups_wide.h"
 
 using namespace tintvert;
 
@@ -11,6 +12,16 @@ namespace {
 // frame grows from its end.
 struct AlphayTo2yuv {
     static constexpr long src_bytes = 2, dst_bytes = 4;
+    struct Wide {
+        static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool down)
+        {
+            return join_luma_avx2(dst, src, pairs, down);
+        }
+        static long vbmi(uint8_t* dst, const uint8_t* src, long pairs, bool down)
+        {
+            return join_luma_avx2(dst, src, pairs, down);
+        }
+    };
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const uint32_t both = load<uint16_t>(src);
@@ -20,6 +31,10 @@ struct AlphayTo2yuv {
 
 struct Alphay {
     static constexpr long src_bytes = 4, dst_bytes = 2;
+    struct Wide {
+        static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool) { return part_luma_avx2(dst, src, pairs); }
+        static long vbmi(uint8_t* dst, const uint8_t* src, long pairs, bool) { return part_luma_avx2(dst, src, pairs); }
+    };
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[1];

@@ -1,10 +1,10 @@
 // Isolated errors in the second luma of a `2yuv` pair, pulled back in place.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
 #include <cstdlib>
 
 #include "frame/memory.h"
+#include "ycbcr8/average_2y_wide.h"
 
 using namespace tintvert;
 
@@ -16,35 +16,42 @@ namespace {
 // The first luma of each pair is the reference: `prev` and `cur` stand around the second luma `t`.
 
 // Mode 1 takes no look at the neighbours.
-void average_pairs(uint8_t* buf, size_t bytes)
+void average_pairs(uint8_t* buf, long pairs)
 {
-    for (size_t i = 1; i < bytes; i += 4) buf[i + 2] = static_cast<uint8_t>((buf[i + 2] + buf[i]) >> 1);
+    const auto round = [buf](long k) { buf[4 * k + 3] = static_cast<uint8_t>((buf[4 * k + 3] + buf[4 * k + 1]) >> 1); };
+    round(0);
+    for (long k = average_pairs_wide(tier(), buf, pairs); k < pairs; ++k) round(k);
 }
 
-int reference(int prev, int, int) { return prev; }
-int half_way(int prev, int t, int) { return (t + prev) >> 1; }
-int between(int prev, int, int cur) { return (cur + prev) >> 1; }
-
-// The references agree within 7 and `t` is off by 11 or more. References from `gate` on are left alone.
-bool is_isolated(int prev, int t, int cur, int gate)
+template <Replacement replacement>
+int replaced(int prev, int t, int cur)
 {
-    return prev < gate && std::abs(prev - cur) < 8 && std::abs(prev - t) >= 11;
+    if (replacement == Replacement::reference) return prev;
+    return ((replacement == Replacement::half_way ? t : cur) + prev) >> 1;
+}
+
+// The references agree within 7 and `t` is off by 11 or more. References brighter than `most` are left alone.
+bool is_isolated(int prev, int t, int cur, int most)
+{
+    return prev <= most && std::abs(prev - cur) < 8 && std::abs(prev - t) >= 11;
 }
 
 // DELIBERATE (keeps_round_past_the_end): the test follows the round, so that the last one has `cur` at or
 // past `bytes`: up to index `bytes` + 3 for `cur` and `bytes` + 1 for `t`. A `t` that stays is stored as it
 // is, which leaves the loop without a branch.
-template <int (*replacement)(int prev, int t, int cur)>
-void pull_back(uint8_t* buf, size_t bytes, int gate)
+template <Replacement replacement>
+void pull_back(uint8_t* buf, long pairs, int most)
 {
-    const size_t rounds = (bytes + 2) / 4;
-    for (size_t k = 0; k < rounds; ++k) {
+    const auto round = [buf, most](long k) {
         const int prev = buf[4 * k + 1], t = buf[4 * k + 3], cur = buf[4 * k + 5];
-        buf[4 * k + 3] = static_cast<uint8_t>(is_isolated(prev, t, cur, gate) ? replacement(prev, t, cur) : t);
-    }
+        const int pulled = replaced<replacement>(prev, t, cur);
+        buf[4 * k + 3] = static_cast<uint8_t>(is_isolated(prev, t, cur, most) ? pulled : t);
+    };
+    round(0);
+    for (long k = pull_back_wide(tier(), buf, pairs, replacement, most); k < pairs; ++k) round(k);
 }
 
-constexpr int dark_only = 128, any = 256;
+constexpr int dark_only = 127, any = 255;
 
 }  // namespace
 
@@ -52,24 +59,25 @@ int tntvt_2yuv_average_2y(void* buf, unsigned int bytes, int mode)
 {
     if (bytes < 2) return 0;
     uint8_t* const line = tintvert::bytes(buf);
+    const long pairs = (long{bytes} + 2) / 4;
     switch (mode) {
         case 1:
-            average_pairs(line, bytes);
+            average_pairs(line, pairs);
             break;
         case 2:
-            pull_back<reference>(line, bytes, dark_only);
+            pull_back<Replacement::reference>(line, pairs, dark_only);
             break;
         case 3:
-            pull_back<reference>(line, bytes, any);
+            pull_back<Replacement::reference>(line, pairs, any);
             break;
         case 4:
-            pull_back<half_way>(line, bytes, dark_only);
+            pull_back<Replacement::half_way>(line, pairs, dark_only);
             break;
         case 5:
-            pull_back<half_way>(line, bytes, any);
+            pull_back<Replacement::half_way>(line, pairs, any);
             break;
         case 6:
-            pull_back<between>(line, bytes, any);
+            pull_back<Replacement::between>(line, pairs, any);
             break;
         default:
             break;

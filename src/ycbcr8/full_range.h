@@ -1,29 +1,16 @@
 // Full-range 4:2:2 with luma first to video range with chroma first: the two bytes of a pixel change places.
 #pragma once
 
-#include <cstdint>
+#include "ycbcr8/full_range_wide.h"
 
 namespace tintvert {
-
-// 0 to 255 becomes 16 to 235; nothing lies outside, so nothing is clamped.
-constexpr uint8_t video_luma(uint32_t y) { return static_cast<uint8_t>(y * 219 / 255 + 16); }
-
-// 1 to 255 becomes 16 to 240 about 128.
-// DELIBERATE (keeps_zero_chroma_like_one): the scale begins at 1, and 0 counts as 1.
-// DELIBERATE (keeps_divisors_255_and_254): luma is divided by 255 and chroma by 254; chroma 1 and 2 both
-// give 16.
-constexpr uint8_t video_chroma(uint32_t c) { return static_cast<uint8_t>((c == 0 ? 0 : c - 1) * 224 / 254 + 16); }
-
-static_assert(video_luma(0) == 16 && video_luma(128) == 125 && video_luma(255) == 235);
-static_assert(video_chroma(0) == 16 && video_chroma(1) == 16 && video_chroma(2) == 16 && video_chroma(3) == 17);
-static_assert(video_chroma(128) == 128 && video_chroma(255) == 240);
 
 // Cb stands on even pixels and Cr on odd ones, before and after. Both bytes of a pixel are read before
 // either is written, so a run may be converted in place.
 template <uint8_t sign>
 void to_video_range(uint8_t* dst, const uint8_t* src, int pixels)
 {
-    for (long i = 0; i < pixels; ++i) {
+    for (long i = to_video_range_wide(dst, src, pixels, sign); i < pixels; ++i) {
         const uint8_t y = src[2 * i];
         const uint8_t c = src[2 * i + 1] ^ sign;
         dst[2 * i + 1] = video_luma(y);

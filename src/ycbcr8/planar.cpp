@@ -1,13 +1,15 @@
 // 4:2:2 planes to `2vuy` and back, and two fields of planes woven into one frame.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
+#include "ycbcr8/groups_wide.h"
+
+using namespace tintvert;
 
 namespace {
 
-void join_planes(uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, size_t groups)
+void join_planes(Tier limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
 {
-    for (size_t g = 0; g < groups; ++g) {
+    for (long g = join_groups_wide(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
         dst[4 * g] = cb[g];
         dst[4 * g + 1] = y[2 * g];
         dst[4 * g + 2] = cr[g];
@@ -15,9 +17,9 @@ void join_planes(uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_
     }
 }
 
-void part_planes(uint8_t* y, uint8_t* cb, uint8_t* cr, const uint8_t* src, size_t groups)
+void part_planes(uint8_t* y, uint8_t* cb, uint8_t* cr, const uint8_t* src, long groups)
 {
-    for (size_t g = 0; g < groups; ++g) {
+    for (long g = part_groups_wide(tier(), {y, cb, cr}, src, groups); g < groups; ++g) {
         cb[g] = src[4 * g];
         y[2 * g] = src[4 * g + 1];
         cr[g] = src[4 * g + 2];
@@ -29,9 +31,9 @@ struct Field {
     const uint8_t *y, *cb, *cr;
 
     // One line, and on to the next; returns where the line after it goes.
-    uint8_t* put_line(uint8_t* dst, size_t groups)
+    uint8_t* put_line(Tier limit, uint8_t* dst, long groups)
     {
-        join_planes(dst, y, cb, cr, groups);
+        join_planes(limit, dst, y, cb, cr, groups);
         y += 2 * groups;
         cb += groups;
         cr += groups;
@@ -46,7 +48,7 @@ struct Field {
 void tntvt_planar_2vuy(unsigned char* dst, unsigned char* y, unsigned char* cb, unsigned char* cr, unsigned int,
                        unsigned int, unsigned int, unsigned int count)
 {
-    join_planes(dst, y, cb, cr, count / 2);
+    join_planes(tier(), dst, y, cb, cr, count / 2);
 }
 
 void tntvt_2vuy_planar(unsigned char* y, unsigned char* cb, unsigned char* cr, unsigned int, unsigned int, unsigned int,
@@ -61,9 +63,10 @@ void tntvt_planarfields_2vuy(unsigned char* dst, unsigned char* y1, unsigned cha
                              unsigned int, unsigned int groups, unsigned int total)
 {
     const unsigned int pairs = (total >> 1) / groups;
+    const Tier limit = tier();
     Field first{y1, cb1, cr1}, second{y2, cb2, cr2};
     for (unsigned int pair = 0; pair < pairs; ++pair) {
-        dst = first.put_line(dst, groups);
-        dst = second.put_line(dst, groups);
+        dst = first.put_line(limit, dst, groups);
+        dst = second.put_line(limit, dst, groups);
     }
 }

@@ -1,9 +1,8 @@
 // Alpha in and out of `rgba` frames. An alpha plane has no stride: its pitch is `width`.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
-
 #include "frame/walk.h"
+#include "ycbcr8/alpha_wide.h"
 
 using namespace tintvert;
 
@@ -12,6 +11,16 @@ namespace {
 // The key becomes a grey picture of itself, alpha included.
 struct AlphaToRgba {
     static constexpr long src_bytes = 1, dst_bytes = 4;
+    struct Wide {
+        static long avx2(uint8_t* dst, const uint8_t* src, long width, bool)
+        {
+            return spread_alpha_avx2(dst, src, width);
+        }
+        static long vbmi(uint8_t* dst, const uint8_t* src, long width, bool)
+        {
+            return spread_alpha_avx2(dst, src, width);
+        }
+    };
     static void pixel(uint8_t* dst, const uint8_t* src) { store<uint32_t>(dst, src[0] * 0x01010101u); }
 };
 
@@ -37,25 +46,30 @@ int tntvt_rgba_to_alpha(void* dst, long, void* src, long srcStride, long width, 
 
 int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long width, long height)
 {
+    const Tier limit = tier();
+    const uint8_t low = static_cast<uint8_t>(alpha);
     for (long r = 0; r < height; ++r) {
         uint8_t* line = advance(bytes(dst), line_offset(r, dstStride));
-        for (long x = 0; x < width; ++x) line[4 * x + 3] = static_cast<uint8_t>(alpha);
+        for (long x = set_alpha_wide(limit, line, low, width); x < width; ++x) line[4 * x + 3] = low;
     }
     return 0;
 }
 
-// DELIBERATE (keeps_negative_width_as_unsigned): a negative `width` counts from 2^31 pixels up.
+// DELIBERATE (keeps_negative_width_as_unsigned): a negative `width` counts from 2^31 pixels up, first pixel first until
+// memory ends.
 int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dstStride, unsigned int alpha, int width, int height)
 {
-    const size_t pixels = static_cast<unsigned int>(width);
+    const Tier limit = tier();
+    const uint8_t low = static_cast<uint8_t>(alpha);
+    const long pixels = static_cast<unsigned int>(width);
     for (long r = long{height} - 1; r >= 0; --r) {
         uint8_t* to = advance(bytes(dst), line_offset(r, dstStride));
         const uint8_t* from = advance(bytes(src), line_offset(r, srcStride));
-        for (size_t x = 0; x < pixels; ++x) {
+        for (long x = add_alpha_wide(limit, to, from, low, width); x < pixels; ++x) {
             to[4 * x] = from[3 * x];
             to[4 * x + 1] = from[3 * x + 1];
             to[4 * x + 2] = from[3 * x + 2];
-            to[4 * x + 3] = static_cast<uint8_t>(alpha);
+            to[4 * x + 3] = low;
         }
     }
     return 0;

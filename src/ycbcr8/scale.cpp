@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "frame/byte_lookup.h"
 #include "ycbcr8/scale_tables.h"
 
 using namespace tintvert;
@@ -12,7 +13,9 @@ namespace {
 // A last group is scaled whole.
 void scale_groups(uint8_t* buffer, size_t bytes, const uint8_t* chroma, const uint8_t* luma)
 {
-    for (size_t i = 0; i < bytes; i += 4) {
+    const size_t whole = (bytes + 3) / 4 * 4;
+    const long done = map_pairs_wide(tier(), buffer, buffer, nullptr, static_cast<long>(whole), {chroma, luma});
+    for (size_t i = static_cast<size_t>(done); i < bytes; i += 4) {
         buffer[i] = chroma[buffer[i]];
         buffer[i + 1] = luma[buffer[i + 1]];
         buffer[i + 2] = chroma[buffer[i + 2]];

@@ -1,16 +1,18 @@
 // `yuv444` to `2vuy` and back: bytes are dropped or repeated, nothing is computed.
 #include <tintvert/ycbcr8.h>
 
-#include <cstddef>
+#include "ycbcr8/yuv444_wide.h"
+
+using namespace tintvert;
 
 namespace {
 
 // DELIBERATE (keeps_frames_of_444_unbroken): both frames are one run of pixels, whatever `stride` is. Two
 // pixels a group, 6 bytes of `yuv444`; an odd last pixel makes a whole group.
-size_t groups_in(unsigned int width, unsigned int height)
+long groups_in(unsigned int width, unsigned int height)
 {
     const uint32_t bytes = width * height * 3;
-    return (size_t{bytes} + 5) / 6;
+    return (long{bytes} + 5) / 6;
 }
 
 }  // namespace
@@ -21,8 +23,11 @@ size_t groups_in(unsigned int width, unsigned int height)
 void tntvt_yuv444_yuv422_8(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                            unsigned int)
 {
-    const size_t groups = groups_in(width, height);
-    for (size_t g = 0; g < groups; ++g, src += 6, dst += 4) {
+    const long groups = groups_in(width, height);
+    long g = to_422_wide(dst, src, groups);
+    src += g * 6;
+    dst += g * 4;
+    for (; g < groups; ++g, src += 6, dst += 4) {
         dst[0] = src[1];
         dst[1] = src[0];
         dst[2] = src[2];
@@ -34,8 +39,11 @@ void tntvt_yuv444_yuv422_8(unsigned char* dst, unsigned char* src, unsigned int 
 void tntvt_yuv422_yuv444_8(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                            unsigned int)
 {
-    const size_t groups = groups_in(width, height);
-    for (size_t g = 0; g < groups; ++g, src += 4, dst += 6) {
+    const long groups = groups_in(width, height);
+    long g = to_444_wide(dst, src, groups);
+    src += g * 4;
+    dst += g * 6;
+    for (; g < groups; ++g, src += 4, dst += 6) {
         dst[0] = src[1];
         dst[1] = src[0];
         dst[2] = src[2];

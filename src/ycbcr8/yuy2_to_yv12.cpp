@@ -2,16 +2,19 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/memory.h"
+#include "ycbcr8/groups_wide.h"
 
 using namespace tintvert;
 
 namespace {
 
-void convert_pair(uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src, long src_pitch, long groups)
+void convert_pair(Tier limit, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src, long src_pitch,
+                  long groups)
 {
     uint8_t* const y_below = advance(y, y_pitch);
     const uint8_t* const below = advance(src, src_pitch);
-    for (long g = 0; g < groups; ++g) {
+    long g = part_pair_wide(limit, {y, cb, cr}, y_below, src, below, groups);
+    for (; g < groups; ++g) {
         y[2 * g] = src[4 * g];
         y[2 * g + 1] = src[4 * g + 2];
         y_below[2 * g] = below[4 * g];
@@ -31,11 +34,12 @@ void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigne
                 int srcPitch, int dstPitch)
 {
     if (height < 1 || width < 1) return;
+    const Tier limit = tier();
     const long groups = (width - 1) / 2 + 1;
     const long src_slack = 2l * srcPitch - width;
     const long dst_slack = long{dstPitch} - width;
     for (long line = 0; line < height; line += 2) {
-        convert_pair(y, dstPitch, cb, cr, src, 2l * srcPitch, groups);
+        convert_pair(limit, y, dstPitch, cb, cr, src, 2l * srcPitch, groups);
         src = advance(src, 4 * groups + src_slack * 2);
         y = advance(y, 2 * groups + dst_slack + dstPitch);
         cb = advance(cb, groups + (dst_slack >> 1));

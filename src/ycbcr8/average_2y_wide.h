@@ -1,0 +1,108 @@
+// Second lumas of `2yuv` pairs pulled back, eight pairs a step. The forms begin at pair 1 and return the pair at which
+// the plain one goes on.
+#pragma once
+
+#include "frame/registers.h"
+
+namespace tintvert {
+
+enum class Replacement { reference, half_way, between };
+
+#if defined(__x86_64__)
+
+// The mean rounded down.
+TNTVT_AVX2 inline __m256i mean_avx2(__m256i one, __m256i other)
+{
+    const __m256i odd = _mm256_and_si256(_mm256_xor_si256(one, other), _mm256_set1_epi8(1));
+    return _mm256_sub_epi8(_mm256_avg_epu8(one, other), odd);
+}
+
+TNTVT_AVX2 inline __m256i distance_avx2(__m256i one, __m256i other)
+{
+    return _mm256_or_si256(_mm256_subs_epu8(one, other), _mm256_subs_epu8(other, one));
+}
+
+TNTVT_AVX2 inline __m256i replacement_avx2(Replacement replacement, __m256i prev, __m256i t, __m256i cur)
+{
+    if (replacement == Replacement::reference) return prev;
+    return mean_avx2(prev, replacement == Replacement::half_way ? t : cur);
+}
+
+// A step stores bytes 1 to 32 of its pairs and leaves two pairs behind it. So nothing before the first `t` of the
+// buffer or behind the last one is touched.
+TNTVT_AVX2 inline long average_pairs_avx2(uint8_t* buf, long pairs)
+{
+    long pair = 1;
+    for (; pairs - pair > 8; pair += 8) {
+        uint8_t* const at = buf + 4 * pair + 1;
+        const __m256i t = load_256(at), prev = _mm256_slli_epi32(t, 16);
+        store_256(at, _mm256_blendv_epi8(t, mean_avx2(t, prev), _mm256_set1_epi32(0x00FF0000)));
+    }
+    return pair;
+}
+
+// Byte 2 of a word is the second luma `t`; the first lumas before and behind it are moved there. `most` is the
+// brightest reference that counts.
+TNTVT_AVX2 inline long pull_back_avx2(uint8_t* buf, long pairs, Replacement replacement, int most)
+{
+    const __m256i brightest = _mm256_set1_epi8(static_cast<char>(most));
+    long pair = 1;
+    for (; pairs - pair > 8; pair += 8) {
+        uint8_t* const at = buf + 4 * pair + 1;
+        const __m256i t = load_256(at);
+        const __m256i prev = _mm256_slli_epi32(t, 16), cur = _mm256_slli_epi32(load_256(at + 4), 16);
+        const __m256i near = distance_avx2(prev, cur), far = distance_avx2(prev, t);
+        const __m256i agree = _mm256_cmpeq_epi8(_mm256_min_epu8(near, _mm256_set1_epi8(7)), near);
+        const __m256i off = _mm256_cmpeq_epi8(_mm256_max_epu8(far, _mm256_set1_epi8(11)), far);
+        const __m256i counts = _mm256_cmpeq_epi8(_mm256_min_epu8(prev, brightest), prev);
+        const __m256i isolated =
+            _mm256_and_si256(_mm256_and_si256(agree, off), _mm256_and_si256(counts, _mm256_set1_epi32(0x00FF0000)));
+        store_256(at, _mm256_blendv_epi8(t, replacement_avx2(replacement, prev, t, cur), isolated));
+    }
+    return pair;
+}
+
+TNTVT_VBMI inline __m512i distance_vbmi(__m512i one, __m512i other)
+{
+    return _mm512_or_si512(_mm512_subs_epu8(one, other), _mm512_subs_epu8(other, one));
+}
+
+// Sixteen pairs a step, and only what is isolated is stored.
+TNTVT_VBMI inline long pull_back_vbmi(uint8_t* buf, long pairs, Replacement replacement, int most)
+{
+    const __m512i brightest = _mm512_set1_epi8(static_cast<char>(most));
+    long pair = 1;
+    for (; pairs - pair > 16; pair += 16) {
+        uint8_t* const at = buf + 4 * pair + 1;
+        const __m512i t = _mm512_loadu_si512(at);
+        const __m512i prev = _mm512_slli_epi32(t, 16), cur = _mm512_slli_epi32(_mm512_loadu_si512(at + 4), 16);
+        const __mmask64 counts = _mm512_mask_cmple_epu8_mask(0x4444444444444444, prev, brightest);
+        const __mmask64 agree = _mm512_mask_cmple_epu8_mask(counts, distance_vbmi(prev, cur), _mm512_set1_epi8(7));
+        const __mmask64 isolated = _mm512_mask_cmpge_epu8_mask(agree, distance_vbmi(prev, t), _mm512_set1_epi8(11));
+        const __m512i other = replacement == Replacement::half_way ? t : cur;
+        const __m512i odd = _mm512_and_si512(_mm512_xor_si512(prev, other), _mm512_set1_epi8(1));
+        const __m512i mean = _mm512_sub_epi8(_mm512_avg_epu8(prev, other), odd);
+        _mm512_mask_storeu_epi8(at, isolated, replacement == Replacement::reference ? prev : mean);
+    }
+    return pair;
+}
+
+inline long average_pairs_wide(Tier limit, uint8_t* buf, long pairs)
+{
+    return limit >= Tier::avx2 ? average_pairs_avx2(buf, pairs) : 1;
+}
+
+inline long pull_back_wide(Tier limit, uint8_t* buf, long pairs, Replacement replacement, int most)
+{
+    if (limit >= Tier::vbmi) return pull_back_vbmi(buf, pairs, replacement, most);
+    return limit >= Tier::avx2 ? pull_back_avx2(buf, pairs, replacement, most) : 1;
+}
+
+#else
+
+inline long average_pairs_wide(Tier, uint8_t*, long) { return 1; }
+inline long pull_back_wide(Tier, uint8_t*, long, Replacement, int) { return 1; }
+
+#endif
+
+}  // namespace tintvert

@@ -1,0 +1,169 @@
+// Samples of 4:2:2 groups, four bytes each, to planes and back, where no two runs share a byte that one of them
+// writes. Each form returns how many groups it has done; what is left is for the plain one.
+#pragma once
+
+#include <initializer_list>
+
+#include "frame/registers.h"
+
+namespace tintvert {
+
+// Two, one and one byte a group.
+template <class Byte>
+struct PlanarRuns {
+    Byte *y, *cb, *cr;
+};
+
+struct Run {
+    const uint8_t* at;
+    long bytes;
+};
+
+// No byte is written that another run writes or reads.
+inline bool apart(std::initializer_list<Run> written, std::initializer_list<Run> read)
+{
+    for (const Run& one : written) {
+        for (const Run& other : written)
+            if (&other != &one && !disjoint(one.at, one.bytes, other.at, other.bytes)) return false;
+        for (const Run& other : read)
+            if (!disjoint(one.at, one.bytes, other.at, other.bytes)) return false;
+    }
+    return true;
+}
+
+#if defined(__x86_64__)
+
+// Bytes 0, 2, 4 ... of two registers, or 1, 3, 5 ..., in their order.
+TNTVT_AVX2 inline __m256i even_bytes_avx2(__m256i one, __m256i other)
+{
+    const __m256i low = _mm256_set1_epi16(0xFF);
+    const __m256i packed = _mm256_packus_epi16(_mm256_and_si256(one, low), _mm256_and_si256(other, low));
+    return _mm256_permute4x64_epi64(packed, 0xD8);
+}
+
+TNTVT_AVX2 inline __m256i odd_bytes_avx2(__m256i one, __m256i other)
+{
+    const __m256i packed = _mm256_packus_epi16(_mm256_srli_epi16(one, 8), _mm256_srli_epi16(other, 8));
+    return _mm256_permute4x64_epi64(packed, 0xD8);
+}
+
+// Sixteen bytes of one chroma plane and sixteen of the other, from their alternation.
+TNTVT_AVX2 inline void store_chroma_avx2(uint8_t* cb, uint8_t* cr, __m256i chroma)
+{
+    const __m256i apart =
+        _mm256_broadcastsi128_si256(_mm_setr_epi8(0, 2, 4, 6, 8, 10, 12, 14, 1, 3, 5, 7, 9, 11, 13, 15));
+    const __m256i planes = _mm256_permute4x64_epi64(_mm256_shuffle_epi8(chroma, apart), 0xD8);
+    store_128(cb, _mm256_castsi256_si128(planes));
+    store_128(cr, _mm256_extracti128_si256(planes, 1));
+}
+
+TNTVT_AVX2 inline long part_groups_avx2(const PlanarRuns<uint8_t>& to, const uint8_t* src, long groups)
+{
+    long done = 0;
+    for (; groups - done >= 16; done += 16) {
+        const __m256i one = load_256(src + done * 4), other = load_256(src + done * 4 + 32);
+        store_256(to.y + done * 2, odd_bytes_avx2(one, other));
+        store_chroma_avx2(to.cb + done, to.cr + done, even_bytes_avx2(one, other));
+    }
+    return done;
+}
+
+// From the first luma byte on, so that the last step leaves a group behind it.
+TNTVT_AVX2 inline long part_luma_avx2(uint8_t* y, const uint8_t* src, long groups)
+{
+    long done = 0;
+    for (; groups - done > 16; done += 16) {
+        const uint8_t* const from = src + done * 4 + 1;
+        store_256(y + done * 2, even_bytes_avx2(load_256(from), load_256(from + 32)));
+    }
+    return done;
+}
+
+// 32 bytes of chroma and 32 of luma as alternate bytes.
+TNTVT_AVX2 inline void store_groups_avx2(uint8_t* dst, __m256i chroma, __m256i luma)
+{
+    const __m256i c = _mm256_permute4x64_epi64(chroma, 0xD8), y = _mm256_permute4x64_epi64(luma, 0xD8);
+    store_256(dst, _mm256_unpacklo_epi8(c, y));
+    store_256(dst + 32, _mm256_unpackhi_epi8(c, y));
+}
+
+TNTVT_AVX2 inline long join_groups_avx2(uint8_t* dst, const PlanarRuns<const uint8_t>& from, long groups)
+{
+    long done = 0;
+    for (; groups - done >= 16; done += 16) {
+        const __m128i cb = load_128(from.cb + done), cr = load_128(from.cr + done);
+        const __m256i chroma =
+            _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_unpacklo_epi8(cb, cr)), _mm_unpackhi_epi8(cb, cr), 1);
+        store_groups_avx2(dst + done * 4, chroma, load_256(from.y + done * 2));
+    }
+    return done;
+}
+
+// From the first group up or, where the lines go from last to first, down to it: a processor fetches ahead in one
+// direction.
+TNTVT_AVX2 inline long join_luma_avx2(uint8_t* dst, const uint8_t* y, long groups, bool down)
+{
+    const long steps = groups / 16;
+    for (long n = 0; n < steps; ++n) {
+        const long step = down ? steps - 1 - n : n;
+        store_groups_avx2(dst + step * 64, _mm256_set1_epi8(-128), load_256(y + step * 32));
+    }
+    return steps * 16;
+}
+
+// `YUY2`, luma first, two lines to two of luma and one of each chroma, which is their mean rounded up.
+TNTVT_AVX2 inline long part_pair_avx2(const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
+                                      const uint8_t* below, long groups)
+{
+    long done = 0;
+    for (; groups - done >= 16; done += 16) {
+        const __m256i one = load_256(src + done * 4), other = load_256(src + done * 4 + 32);
+        const __m256i one_below = load_256(below + done * 4), other_below = load_256(below + done * 4 + 32);
+        store_256(to.y + done * 2, even_bytes_avx2(one, other));
+        store_256(y_below + done * 2, even_bytes_avx2(one_below, other_below));
+        store_chroma_avx2(to.cb + done, to.cr + done,
+                          _mm256_avg_epu8(odd_bytes_avx2(one, other), odd_bytes_avx2(one_below, other_below)));
+    }
+    return done;
+}
+
+#else
+
+inline long part_groups_avx2(const PlanarRuns<uint8_t>&, const uint8_t*, long) { return 0; }
+inline long part_luma_avx2(uint8_t*, const uint8_t*, long) { return 0; }
+inline long join_groups_avx2(uint8_t*, const PlanarRuns<const uint8_t>&, long) { return 0; }
+inline long join_luma_avx2(uint8_t*, const uint8_t*, long, bool) { return 0; }
+inline long part_pair_avx2(const PlanarRuns<uint8_t>&, uint8_t*, const uint8_t*, const uint8_t*, long) { return 0; }
+
+#endif
+
+inline long part_groups_wide(Tier limit, const PlanarRuns<uint8_t>& to, const uint8_t* src, long groups)
+{
+    if (limit < Tier::avx2) return 0;
+    if (!apart({{to.y, groups * 2}, {to.cb, groups}, {to.cr, groups}}, {{src, groups * 4}})) return 0;
+    return part_groups_avx2(to, src, groups);
+}
+
+inline long part_luma_wide(Tier limit, uint8_t* y, const uint8_t* src, long groups)
+{
+    return limit >= Tier::avx2 && disjoint(y, groups * 2, src, groups * 4) ? part_luma_avx2(y, src, groups) : 0;
+}
+
+inline long join_groups_wide(Tier limit, uint8_t* dst, const PlanarRuns<const uint8_t>& from, long groups)
+{
+    if (limit < Tier::avx2) return 0;
+    if (!apart({{dst, groups * 4}}, {{from.y, groups * 2}, {from.cb, groups}, {from.cr, groups}})) return 0;
+    return join_groups_avx2(dst, from, groups);
+}
+
+inline long part_pair_wide(Tier limit, const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
+                           const uint8_t* below, long groups)
+{
+    if (limit < Tier::avx2) return 0;
+    if (!apart({{to.y, groups * 2}, {y_below, groups * 2}, {to.cb, groups}, {to.cr, groups}},
+               {{src, groups * 4}, {below, groups * 4}}))
+        return 0;
+    return part_pair_avx2(to, y_below, src, below, groups);
+}
+
+}  // namespace tintvert

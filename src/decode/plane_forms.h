@@ -7,28 +7,35 @@
 
 namespace tintvert {
 
+template <int shift>
 TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, __m512i chroma)
 {
-    const __m512i even = _mm512_srai_epi16(_mm512_add_epi16(luma.first, chroma), 4);
-    const __m512i odd = _mm512_srai_epi16(_mm512_add_epi16(luma.second, chroma), 4);
+    const __m512i even = _mm512_srai_epi16(_mm512_adds_epi16(luma.first, chroma), shift);
+    const __m512i odd = _mm512_srai_epi16(_mm512_adds_epi16(luma.second, chroma), shift);
     return _mm512_packus_epi16(even, odd);
 }
 
-// Sixteen pixels of B, G, R, 255 a register.
+// Sixteen pixels of four bytes a register.
 struct Registers {
     __m512i at[4];
 };
 
-TNTVT_VBMI inline Registers pixels_of(WordPair luma, __m512i blue_term, __m512i green_term, __m512i red_term)
+TNTVT_VBMI inline Registers weave(__m512i byte_0, __m512i byte_1, __m512i byte_2, __m512i byte_3)
 {
-    const WordPair low = words(clipped_bytes(luma, blue_term), clipped_bytes(luma, green_term));
-    const WordPair high = words(clipped_bytes(luma, red_term), _mm512_set1_epi8(-1));
+    const WordPair low = words(byte_0, byte_1), high = words(byte_2, byte_3);
     const __m512i even_0 = _mm512_unpacklo_epi16(low.first, high.first);
     const __m512i even_1 = _mm512_unpackhi_epi16(low.first, high.first);
     const __m512i odd_0 = _mm512_unpacklo_epi16(low.second, high.second);
     const __m512i odd_1 = _mm512_unpackhi_epi16(low.second, high.second);
     return {{_mm512_unpacklo_epi32(even_0, odd_0), _mm512_unpackhi_epi32(even_0, odd_0),
              _mm512_unpacklo_epi32(even_1, odd_1), _mm512_unpackhi_epi32(even_1, odd_1)}};
+}
+
+// B, G, R, 255.
+TNTVT_VBMI inline Registers pixels_of(WordPair luma, __m512i blue, __m512i green, __m512i red)
+{
+    return weave(clipped_bytes<4>(luma, blue), clipped_bytes<4>(luma, green), clipped_bytes<4>(luma, red),
+                 _mm512_set1_epi8(-1));
 }
 
 TNTVT_VBMI inline void store_64(uint8_t* dst, __m512i bytes) { _mm512_storeu_si512(dst, bytes); }

@@ -91,7 +91,7 @@ void decode_wide(uint8_t* dst, const uint8_t* src, long limit)
     const long pairs = limit / 2 - Form::groups_left;
     long done = 0;
     if (pairs > 0 && disjoint(dst, pairs * group_pixels, src, pairs * 4)) {
-        if (planes) done = pairs_by_planes<Form, Groups>(dst, src, pairs);
+        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, pairs);
         done += pairs_by_lanes<Form>(dst + done * group_pixels, src + done * 4, pairs - done);
     }
     plain(dst + done * group_pixels, src + done * 4, limit - 2 * done);

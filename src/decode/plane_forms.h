@@ -112,7 +112,7 @@ TNTVT_VBMI inline void put_block(Rgb16, uint8_t* dst, WordPair luma, __m512i blu
 
 // Two blocks of `Source`: their lumas, their chroma, their pixels. Returns the pairs done, two blocks a step.
 template <class Form, class Source>
-TNTVT_VBMI long pairs_by_planes(uint8_t* dst, const uint8_t* src, long pairs)
+TNTVT_VBMI long pairs_vbmi(uint8_t* dst, const uint8_t* src, long pairs)
 {
     constexpr long block_pairs = 8 * Source::registers;
     constexpr long dst_bytes = 2 * block_pairs * Form::pixel_bytes;

@@ -114,7 +114,7 @@ void decode_wide(uint8_t* dst, const uint8_t* src, long width)
     const long groups = width / v210_group_pixels - Form::groups_left;
     long done = 0;
     if (groups > 0 && disjoint(dst, groups * group_pixels, src, groups * v210_group_bytes)) {
-        if (planes) done = pairs_by_planes<Form, Groups>(dst, src, groups * 3) / 3;
+        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, groups * 3) / 3;
         done += groups_by_lanes<Form>(dst + done * group_pixels, src + done * v210_group_bytes, groups - done);
     }
     decode_line<Form, Whole>(dst + done * group_pixels, src + done * v210_group_bytes,

@@ -122,7 +122,7 @@ TNTVT_VBMI inline Rows rows(const SamplePlaces& places, __m512i low, __m512i hig
 
 // Eight groups a step.
 template <bool bgra>
-TNTVT_VBMI long groups_by_rows(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_VBMI long groups_vbmi(uint8_t* dst, const uint8_t* src, long groups)
 {
     long done = 0;
     for (; groups - done >= 8; done += 8, src += 128, dst += 192) {
@@ -145,7 +145,7 @@ template <bool bgra>
 long wide_groups(uint8_t* dst, const uint8_t* src, long groups, Tier widest)
 {
     if (widest == Tier::plain || !disjoint(dst, groups * 24, src, groups * v210_group_bytes)) return 0;
-    const long done = widest == Tier::vbmi ? groups_by_rows<bgra>(dst, src, groups) : 0;
+    const long done = widest == Tier::vbmi ? groups_vbmi<bgra>(dst, src, groups) : 0;
     return done + groups_by_lanes<bgra>(dst + done * 24, src + done * v210_group_bytes, groups - done);
 }
 

@@ -135,7 +135,7 @@ void convert_groups(uint8_t* dst, const uint8_t* src, long groups, Carried& carr
     long done = 0;
     if (groups > 0 && disjoint(dst, groups * v210_group_bytes, src, groups * src_group_bytes)) {
         if (widest == Tier::vbmi)
-            done = groups_avx512<Matrix, Order>(dst, src, groups, carried);
+            done = groups_vbmi<Matrix, Order>(dst, src, groups, carried);
         else if (widest == Tier::avx2) {
             convert_group<Matrix, Order>(dst, src, carried);
             done = 1 + groups_avx2<Matrix, Order>(dst + v210_group_bytes, src + src_group_bytes, groups - 2, carried);

@@ -179,7 +179,7 @@ TNTVT_VBMI inline __m512d filtered_8(__m512d previous, __m512d centre, __m512d n
 }
 
 template <class Matrix, class Order>
-TNTVT_VBMI long groups_avx512(uint8_t* dst, const uint8_t* src, long groups, Carried& carried)
+TNTVT_VBMI long groups_vbmi(uint8_t* dst, const uint8_t* src, long groups, Carried& carried)
 {
     __m512d before_cb = _mm512_set1_pd(carried.cb * Matrix::chroma_scale);
     __m512d before_cr = _mm512_set1_pd(carried.cr * Matrix::chroma_scale);

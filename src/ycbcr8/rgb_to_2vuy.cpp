@@ -135,7 +135,7 @@ TNTVT_VBMI inline __m256i groups_8(__m512d cb, __m512d y0, __m512d cr, __m512d y
 }
 
 template <class Matrix, const Channels& at>
-TNTVT_VBMI long pairs_avx512(uint8_t* dst, const uint8_t* src, long pairs, Carried& carried)
+TNTVT_VBMI long pairs_vbmi(uint8_t* dst, const uint8_t* src, long pairs, Carried& carried)
 {
     using Quarter = Quartered<Matrix>;
     __m512d previous_cb = _mm512_set1_pd(carried.cb * 0.25), previous_cr = _mm512_set1_pd(carried.cr * 0.25);
@@ -160,7 +160,7 @@ long wide_pairs(uint8_t* dst, const uint8_t* src, long pairs, Carried& carried)
 {
     const Tier widest = tier();
     if (widest < Tier::avx2 || pairs < 1 || !disjoint(dst, pairs * 4, src, pairs * 8)) return 0;
-    return widest == Tier::vbmi ? pairs_avx512<Matrix, at>(dst, src, pairs, carried)
+    return widest == Tier::vbmi ? pairs_vbmi<Matrix, at>(dst, src, pairs, carried)
                                 : pairs_avx2<Matrix, at>(dst, src, pairs, carried);
 }
 

@@ -2,10 +2,12 @@
 #include <tintvert/decode.h>
 
 #include "decode/forms.h"
+#include "decode/lane_forms.h"
+#include "decode/plane_forms.h"
 #include "decode/tables.h"
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/walk.h"
+#include "frame/wide.h"
 
 using namespace tintvert;
 
@@ -56,17 +58,70 @@ void decode_line_rgb16(uint8_t* dst, const uint8_t* src, long limit)
     }
 }
 
+Codes codes(const uint8_t* group) { return {group[0], group[1], group[2], group[3]}; }
+
+// Two groups a step.
+template <class Form>
+long pairs_by_lanes(uint8_t* dst, const uint8_t* src, long pairs)
+{
+    long done = 0;
+    for (; pairs - done >= 2; done += 2, src += 8, dst += 4 * Form::pixel_bytes)
+        put_two_pairs(Form{}, dst, codes(src), codes(src + 4));
+    return done;
+}
+
+struct Groups {
+    static constexpr int registers = 4;
+    static constexpr long block_bytes = 128;
+    static constexpr uint8_t sample_place(size_t n) { return static_cast<uint8_t>(n); }
+    TNTVT_VBMI static Block block(const uint8_t* src);
+};
+constexpr Places group_places = places_in<Groups>();
+
+TNTVT_VBMI inline Block Groups::block(const uint8_t* src)
+{
+    return pick(group_places, _mm512_loadu_si512(src), _mm512_loadu_si512(src + 64));
+}
+
+// Whole steps of both pixels of a group, then the plain form.
+template <class Form, auto plain, bool planes>
+void decode_wide(uint8_t* dst, const uint8_t* src, long limit)
+{
+    constexpr long group_pixels = 2 * Form::pixel_bytes;
+    const long pairs = limit / 2 - Form::groups_left;
+    long done = 0;
+    if (pairs > 0 && disjoint(dst, pairs * group_pixels, src, pairs * 4)) {
+        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, pairs);
+        done += pairs_by_lanes<Form>(dst + done * group_pixels, src + done * 4, pairs - done);
+    }
+    plain(dst + done * group_pixels, src + done * 4, limit - 2 * done);
+}
+
 using Line = void (*)(uint8_t* dst, const uint8_t* src, long limit);
 
+template <class Form, auto plain>
+Line whole_line()
+{
+    const Tier widest = tier();
+    return widest == Tier::vbmi   ? decode_wide<Form, plain, true>
+           : widest >= Tier::base ? decode_wide<Form, plain, false>
+                                  : plain;
+}
+
+// Reduced lines stay plain: each drops pixels that it would have to part first.
 template <class Form>
 Line line_at(long scale)
 {
-    return scale == 2 ? decode_line<Form, Half> : scale == 4 ? decode_line<Form, Quarter> : decode_line<Form, Whole>;
+    return scale == 2   ? decode_line<Form, Half>
+           : scale == 4 ? decode_line<Form, Quarter>
+                        : whole_line<Form, decode_line<Form, Whole>>();
 }
 
 Line line_rgb16_at(long scale)
 {
-    return scale == 2 ? decode_line_rgb16<Half> : scale == 4 ? decode_line_rgb16<Quarter> : decode_line_rgb16<Whole>;
+    return scale == 2   ? decode_line_rgb16<Half>
+           : scale == 4 ? decode_line_rgb16<Quarter>
+                        : whole_line<Rgb16, decode_line_rgb16<Whole>>();
 }
 
 long pixels_walked(long width, long scale) { return scale == 4 ? width >> 1 : width; }

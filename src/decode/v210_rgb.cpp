@@ -5,9 +5,12 @@
 #include <type_traits>
 
 #include "decode/forms.h"
+#include "decode/lane_forms.h"
+#include "decode/plane_forms.h"
 #include "decode/tables.h"
 #include "frame/memory.h"
 #include "frame/number.h"
+#include "frame/wide.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -26,12 +29,6 @@ struct Half {
 struct Quarter {
     static constexpr bool both = false;
     static constexpr uint32_t step = 2;
-};
-
-// The second pixel of a pair shows the first one's luma.
-struct Rgb16 {
-    static constexpr long pixel_bytes = 2;
-    static void put(uint8_t* dst, Bgr pixel) { store(dst, rgb16_word(pixel)); }
 };
 
 // Samples count on from group to group.
@@ -67,12 +64,79 @@ void decode_line(uint8_t* dst, const uint8_t* src, long width)
     }
 }
 
+template <uint32_t pair>
+Codes codes(const uint8_t* group)
+{
+    constexpr uint32_t n = pair * v210_pair_samples;
+    return {top_eight(group, n), top_eight(group, n + 1), top_eight(group, n + 2), top_eight(group, n + 3)};
+}
+
+// Two groups a step.
+template <class Form>
+long groups_by_lanes(uint8_t* dst, const uint8_t* src, long groups)
+{
+    constexpr long two_pairs = 4 * Form::pixel_bytes;
+    long done = 0;
+    for (; groups - done >= 2; done += 2, src += 2 * v210_group_bytes, dst += 3 * two_pairs) {
+        const uint8_t* const next = src + v210_group_bytes;
+        put_two_pairs(Form{}, dst, codes<0>(src), codes<1>(src));
+        put_two_pairs(Form{}, dst + two_pairs, codes<2>(src), codes<0>(next));
+        put_two_pairs(Form{}, dst + 2 * two_pairs, codes<1>(next), codes<2>(next));
+    }
+    return done;
+}
+
+// Six samples from two words stand in six bytes of eight.
+struct Groups {
+    static constexpr int registers = 3;
+    static constexpr long block_bytes = 8 * v210_group_bytes;
+    static constexpr uint8_t sample_place(size_t n) { return static_cast<uint8_t>(n / 6 * 8 + n % 6); }
+    TNTVT_VBMI static Block block(const uint8_t* src);
+};
+constexpr Places group_places = places_in<Groups>();
+
+TNTVT_VBMI inline __m512i top_bytes(const uint8_t* src)
+{
+    constexpr long long first_bits = 2 | 12 << 8 | 22 << 16 | 34 << 24 | 44LL << 32 | 54LL << 40;
+    return _mm512_multishift_epi64_epi8(_mm512_set1_epi64(first_bits), _mm512_loadu_si512(src));
+}
+
+TNTVT_VBMI inline Block Groups::block(const uint8_t* src)
+{
+    return pick(group_places, top_bytes(src), top_bytes(src + 64));
+}
+
+// Whole steps of whole groups, then the plain form.
+template <class Form, bool planes>
+void decode_wide(uint8_t* dst, const uint8_t* src, long width)
+{
+    constexpr long group_pixels = v210_group_pixels * Form::pixel_bytes;
+    const long groups = width / v210_group_pixels - Form::groups_left;
+    long done = 0;
+    if (groups > 0 && disjoint(dst, groups * group_pixels, src, groups * v210_group_bytes)) {
+        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, groups * 3) / 3;
+        done += groups_by_lanes<Form>(dst + done * group_pixels, src + done * v210_group_bytes, groups - done);
+    }
+    decode_line<Form, Whole>(dst + done * group_pixels, src + done * v210_group_bytes,
+                             width - done * v210_group_pixels);
+}
+
 using Line = void (*)(uint8_t* dst, const uint8_t* src, long width);
 
 template <class Form>
+Line whole_line()
+{
+    const Tier widest = tier();
+    return widest == Tier::vbmi   ? decode_wide<Form, true>
+           : widest >= Tier::base ? decode_wide<Form, false>
+                                  : decode_line<Form, Whole>;
+}
+
+// Reduced lines stay plain: each drops pixels that it would have to part first.
+template <class Form>
 Line line_at(long scale)
 {
-    return scale == 2 ? decode_line<Form, Half> : scale == 4 ? decode_line<Form, Quarter> : decode_line<Form, Whole>;
+    return scale == 2 ? decode_line<Form, Half> : scale == 4 ? decode_line<Form, Quarter> : whole_line<Form>();
 }
 
 }  // namespace

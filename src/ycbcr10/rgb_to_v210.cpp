@@ -1,8 +1,12 @@
 // RGB to `v210`: a matrix in double precision and a 1-2-1 chroma filter, a group of six pixels at a time.
 #include <tintvert/ycbcr10.h>
 
+#include <algorithm>
+
 #include "frame/memory.h"
 #include "frame/number.h"
+#include "frame/wide.h"
+#include "ycbcr10/rgb_to_v210_wide.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -32,6 +36,11 @@ struct VideoRange601 {
     {
         return code(((previous + centre) + centre) + next + 0.5);
     }
+    // The luma's factor of 4 is in its weights.
+    static constexpr Weights y = scaled({65.738, 129.057, 25.064, 4096.0}, 0.015625);
+    static constexpr Weights cb_row = scaled({-37.945, -74.494, 112.439, 32768.0}, 0.00390625);
+    static constexpr Weights cr_row = scaled({112.439, -94.154, -18.285, 32768.0}, 0.00390625);
+    static constexpr double chroma_scale = 1.0, filter_half = 0.5;
 };
 
 // DELIBERATE (keeps_8_bit_excursion): 10-bit offsets and weights times 1024 of 256 steps a channel, so
@@ -41,6 +50,8 @@ struct NarrowChroma {
     {
         return code((((previous + centre) + centre) + next) * 0.25);
     }
+    // Wide steps have the quarter in the chroma's weights.
+    static constexpr double chroma_scale = 0.25, filter_half = 0.0;
 };
 
 // ITU-R BT.601.
@@ -57,6 +68,9 @@ struct Narrow601 : NarrowChroma {
     {
         return (r * 449.756 - g * 376.616 - b * 73.14) * 0.0009765625 + 512.0;
     }
+    static constexpr Weights y = scaled({262.952, 516.228, 100.256, 65536.0}, 0.0009765625);
+    static constexpr Weights cb_row = scaled({-151.78, -297.976, 449.756, 524288.0}, 0.000244140625);
+    static constexpr Weights cr_row = scaled({449.756, -376.616, -73.14, 524288.0}, 0.000244140625);
 };
 
 // ITU-R BT.709, full-range weights.
@@ -73,26 +87,9 @@ struct Narrow709 : NarrowChroma {
     {
         return (r * 512.0 - g * 465.101 - b * 46.899) * 0.0009765625 + 512.0;
     }
-};
-
-struct Bgra {
-    static constexpr long bytes = 4;
-    static constexpr int r = 2, g = 1, b = 0;
-};
-struct Argb {
-    static constexpr long bytes = 4;
-    static constexpr int r = 1, g = 2, b = 3;
-};
-struct Rgb {
-    static constexpr long bytes = 3;
-    static constexpr int r = 0, g = 1, b = 2;
-};
-
-// Unfiltered chroma of the pixel before the next group.
-// DELIBERATE (keeps_chroma_start_of_512): it begins at 512.0 in every matrix. VideoRange601 has 128.0 for
-// neutral, so the first Cb and the first Cr of its lines come out 384 too high.
-struct Carried {
-    double cb = 512.0, cr = 512.0;
+    static constexpr Weights y = scaled({217.6, 732.57, 72.83, 65536.0}, 0.0009765625);
+    static constexpr Weights cb_row = scaled({-117.248, -394.752, 512.0, 524288.0}, 0.000244140625);
+    static constexpr Weights cr_row = scaled({512.0, -465.101, -46.899, 524288.0}, 0.000244140625);
 };
 
 // Six pixels are read whole before four words are written.
@@ -107,7 +104,7 @@ void convert_group(uint8_t* dst, const uint8_t* src, Carried& carried)
     cr[0] = carried.cr;
     for (int i = 0; i < 6; ++i) {
         const uint8_t* pixel = src + i * Order::bytes;
-        const double r = pixel[Order::r], g = pixel[Order::g], b = pixel[Order::b];
+        const double r = pixel[Order::at.r], g = pixel[Order::at.g], b = pixel[Order::at.b];
         y[i] = Matrix::luma(r, g, b);
         cb[i + 1] = Matrix::cb(r, g, b);
         cr[i + 1] = Matrix::cr(r, g, b);
@@ -121,15 +118,37 @@ void convert_group(uint8_t* dst, const uint8_t* src, Carried& carried)
 }
 
 template <class Matrix, class Order>
+void convert_plainly(uint8_t* dst, const uint8_t* src, long groups, Carried& carried)
+{
+    for (; groups > 0; --groups) {
+        convert_group<Matrix, Order>(dst, src, carried);
+        dst += v210_group_bytes;
+        src += v210_group_pixels * Order::bytes;
+    }
+}
+
+// AVX2 has no loads that leave a byte out, and its steps leave the last group.
+template <class Matrix, class Order>
+void convert_groups(uint8_t* dst, const uint8_t* src, long groups, Carried& carried, Tier widest)
+{
+    constexpr long src_group_bytes = v210_group_pixels * Order::bytes;
+    long done = 0;
+    if (groups > 0 && disjoint(dst, groups * v210_group_bytes, src, groups * src_group_bytes)) {
+        if (widest == Tier::vbmi)
+            done = groups_vbmi<Matrix, Order>(dst, src, groups, carried);
+        else if (widest == Tier::avx2) {
+            convert_group<Matrix, Order>(dst, src, carried);
+            done = 1 + groups_avx2<Matrix, Order>(dst + v210_group_bytes, src + src_group_bytes, groups - 2, carried);
+        }
+    }
+    convert_plainly<Matrix, Order>(dst + done * v210_group_bytes, src + done * src_group_bytes, groups - done, carried);
+}
+
+template <class Matrix, class Order>
 void convert_line(unsigned int* dst, const uint8_t* src, int width)
 {
     Carried carried;
-    uint8_t* group = bytes(dst);
-    for (long i = 0; i < width; i += v210_group_pixels) {
-        convert_group<Matrix, Order>(group, src, carried);
-        group += v210_group_bytes;
-        src += v210_group_pixels * Order::bytes;
-    }
+    convert_groups<Matrix, Order>(bytes(dst), src, (width + 5L) / v210_group_pixels, carried, tier());
 }
 
 // DELIBERATE (keeps_groups_across_lines): the counter runs over the frame, so a line is entered at the
@@ -138,17 +157,13 @@ void convert_line(unsigned int* dst, const uint8_t* src, int width)
 template <class Matrix>
 void convert_frame(void* dst, long dst_stride, void* src, long src_stride, long width, long total)
 {
+    const Tier widest = tier();
+    const long line = magnitude(width);
     Carried carried;
-    uint8_t* group = nullptr;
-    const uint8_t* pixels = nullptr;
-    for (long i = 0; i < total; i += v210_group_pixels) {
-        if (i % width < v210_group_pixels) {
-            group = advance(bytes(dst), line_offset(i / width, dst_stride));
-            pixels = advance(bytes(src), line_offset(i / width, src_stride));
-        }
-        convert_group<Matrix, Bgra>(group, pixels, carried);
-        group += v210_group_bytes;
-        pixels += v210_group_pixels * Bgra::bytes;
+    for (long i = 0, groups = 0; i < total; i += groups * v210_group_pixels) {
+        groups = (std::min(line - i % line, total - i) + v210_group_pixels - 1) / v210_group_pixels;
+        convert_groups<Matrix, Bgra>(advance(bytes(dst), line_offset(i / width, dst_stride)),
+                                     advance(bytes(src), line_offset(i / width, src_stride)), groups, carried, widest);
     }
 }
 

@@ -41,7 +41,7 @@ struct Uyvy {
     static constexpr int step_pixels_512 = 32;
     YCBCR_VBMI Operands512 operands(int x, int pixels) const
     {
-        const __m512i words = load_bytes(line + x * 2, (pixels + 1) / 2 * 4);
+        const __m512i words = load_bytes(line + x * 2, pixels * 2 + pixels % 2);  // Cr of an odd last pixel
         return {_mm512_and_si512(words, _mm512_set1_epi16(-256)), centred(_mm512_slli_epi16(words, 8))};
     }
 };
@@ -94,10 +94,16 @@ struct V210 {
         _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + 40), _mm256_extracti128_si256(p.high, 1));
     }
 
+    // Up to the last word that holds a sample of them.
+    static int bytes_of(int pixels)
+    {
+        const int last = pixels - 1, n = last % 6, luma = n * 2 + 1, cr = n / 2 * 4 + 2;
+        return last / 6 * 16 + ((luma > cr ? luma : cr) / 3 + 1) * 4;
+    }
     static constexpr int step_pixels_512 = 24;
     YCBCR_VBMI Operands512 operands(int x, int pixels) const
     {
-        const __m512i groups = load_bytes(line + x / 6 * 16, (pixels + 5) / 6 * 16);
+        const __m512i groups = load_bytes(line + x / 6 * 16, bytes_of(pixels));
         return {to_words(luma_samples, groups), centred(to_words(chroma_samples, groups))};
     }
 };

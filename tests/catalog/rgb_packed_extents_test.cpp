@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <string_view>
 
 #include "catalog.h"
 #include "rle_scan.h"
@@ -25,7 +26,9 @@ TEST(Extents, rgb10)
             call[Arg::height] = random.between(-2, 12);
             call[Arg::swapBytes] = random.between(0, 1) * random.between(1, 255);
             call[Arg::flipLines] = random.between(0, 1) * random.between(1, 255);
-            expect_exact_extents(*catalog::find(name), call);
+            // No bit of the lowest eight of a word goes into 16 bits a channel.
+            const int64_t idle = std::string_view{name} == "tntvt_rgb10_rgba32" ? 0 : 1;
+            expect_exact_extents(*catalog::find(name), call, {}, idle);
         }
     }
 }

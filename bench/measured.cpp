@@ -8,8 +8,20 @@ namespace tintvert::bench {
 
 using namespace catalog;
 
+namespace {
+
+// What works on one line gets the picture as one.
+Geometry geometry_of(const Routine& routine, const Size& picture)
+{
+    if (std::ranges::find(routine.arguments, Arg::height) != routine.arguments.end())
+        return {picture.width, picture.height};
+    return {picture.width * picture.height, 1};
+}
+
+}  // namespace
+
 Measured::Measured(const Routine& routine, const Size& picture)
-    : call(plain_call(routine, {picture.width, picture.height})), size(picture)
+    : call(plain_call(routine, geometry_of(routine, picture))), size(picture)
 {
     for (const Touch& touch : routine.extents(call)) {
         const Range read = touch.read, written = touch.written;

@@ -87,6 +87,19 @@ TEST(Show, text_carries_the_header_comment)
     EXPECT_EQ(result.out.find("*/"), std::string::npos);
 }
 
+TEST(Show, second_names_and_companions)
+{
+    const json second = json_of({"show", "tntvt_yuvu_2vuy", "--json"})["routine"];
+    EXPECT_EQ(second["same_as"], "tntvt_yuv2_2vuy");
+    EXPECT_EQ(second["companions"], json::array());
+    const json first = json_of({"show", "tntvt_i420_rgb32", "--json"})["routine"];
+    EXPECT_EQ(first["same_as"], json());
+    EXPECT_EQ(first["companions"], (json{"GetMatrixBySize", "cycbcr_i420_to_rgb32"}));
+    EXPECT_NE(run({"show", "tntvt_yuvu_2vuy"}).out.find("\nsame as  tntvt_yuv2_2vuy\n"), std::string::npos);
+    EXPECT_NE(run({"show", "tntvt_i420_rgb32"}).out.find("\ncalls    GetMatrixBySize, cycbcr_i420_to_rgb32\n"),
+              std::string::npos);
+}
+
 // Two declarations under one comment share it.
 TEST(Show, a_comment_holds_for_all_declarations_below_it)
 {
@@ -95,6 +108,17 @@ TEST(Show, a_comment_holds_for_all_declarations_below_it)
     };
     EXPECT_EQ(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_yuv422_rgb16"));
     EXPECT_NE(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_rgb32_2vuy"));
+}
+
+// The ST 2084 conversions have a comment in common, above the comments of each pair.
+TEST(Show, a_comment_above_another_holds_for_all_that_follow)
+{
+    for (const catalog::Routine& routine : catalog::routines()) {
+        const json told = json_of({"show", std::string(routine.name), "--json"})["routine"];
+        const bool is_conversion = routine.chapter == "hdr" && routine.shape == "pitch_pair";
+        EXPECT_EQ(told["documentation"].get<std::string>().starts_with("All six conversions: "), is_conversion)
+            << routine.name;
+    }
 }
 
 }  // namespace

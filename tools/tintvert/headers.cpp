@@ -13,9 +13,10 @@ bool is_blank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0;
 // "/* One\n * two. */" becomes "One\ntwo."
 std::string without_comment_marks(std::string_view comment)
 {
+    std::string text;
+    if (comment.empty()) return text;
     comment.remove_prefix(2);
     comment.remove_suffix(2);
-    std::string text;
     while (!comment.empty()) {
         std::string_view line = comment.substr(0, comment.find('\n'));
         comment.remove_prefix(std::min(line.size() + 1, comment.size()));
@@ -52,7 +53,8 @@ bool declares(std::string_view prototype, std::string_view routine)
 
 }  // namespace
 
-// A comment holds for all the declarations between it and the next.
+// A comment holds for all the declarations between it and the next, and one that another follows at once for
+// all declarations behind it.
 Declaration declaration_of(std::string_view chapter, std::string_view routine)
 {
     const auto header = std::ranges::find(headers(), chapter, &Header::chapter);
@@ -61,7 +63,8 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
     const size_t opening = rest.find("\nTNTVT_BEGIN");
     if (opening != std::string_view::npos) rest.remove_prefix(opening + 12);
 
-    std::string_view comment = "/**/";
+    std::string_view comment, general;
+    bool declared = true;
     while (true) {
         while (!rest.empty() && is_blank(rest.front())) rest.remove_prefix(1);
         const bool in_comment = rest.starts_with("/*");
@@ -70,10 +73,16 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
         if (found == std::string_view::npos) return {};
         const std::string_view piece = rest.substr(0, found + end.size());
         rest.remove_prefix(piece.size());
-        if (in_comment) comment = piece;
+        if (in_comment) {
+            if (!declared) general = comment;
+            comment = piece;
+        }
+        declared = !in_comment;
         if (!piece.starts_with(mark)) continue;
         std::string prototype = on_one_line(piece.substr(mark.size()));
-        if (declares(prototype, routine)) return {std::move(prototype), without_comment_marks(comment)};
+        if (!declares(prototype, routine)) continue;
+        const char* const gap = general.empty() || comment.empty() ? "" : "\n\n";
+        return {std::move(prototype), without_comment_marks(general) + gap + without_comment_marks(comment)};
     }
 }
 

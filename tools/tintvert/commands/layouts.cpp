@@ -83,6 +83,7 @@ void print_json(const std::vector<Layout>& layouts)
                         {"fourcc", layout.fourcc},
                         {"libyuv", layout.libyuv},
                         {"line_bytes_1920", layout.line_bytes(1920)},
+                        {"note", layout.note},
                         {"picture", picture_of(layout, Painter(false))},
                         {"forms", forms_to_json(layout)}});
     fmt::print("{}\n", Json{{"schema", json_schema}, {"layouts", list}}.dump(2));

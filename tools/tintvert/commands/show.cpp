@@ -7,6 +7,7 @@
 
 #include "catalog.h"
 #include "commands.h"
+#include "facts.h"
 #include "headers.h"
 #include "json.h"
 #include "nearest.h"
@@ -32,6 +33,9 @@ void print_json(const catalog::Routine& routine, const Declaration& declaration)
     about["prototype"] = declaration.prototype;
     about["arguments"] = arguments;
     about["documentation"] = declaration.documentation;
+    const catalog::Routine* const same = catalog::alias_of(routine);
+    about["same_as"] = same == nullptr ? Json() : Json(same->name);
+    about["companions"] = catalog::companions_of(routine);
     fmt::print("{}\n", Json{{"schema", json_schema}, {"routine", about}}.dump(2));
 }
 
@@ -52,6 +56,9 @@ void print_text(const catalog::Routine& routine, const Declaration& declaration)
     fmt::print("\nchapter  {}\n", routine.chapter);
     if (routine.from != "none") fmt::print("reads    {}\n", routine.from);
     if (routine.to != "none") fmt::print("writes   {}\n", routine.to);
+    if (const catalog::Routine* const same = catalog::alias_of(routine)) fmt::print("same as  {}\n", same->name);
+    const std::vector<std::string_view> companions = catalog::companions_of(routine);
+    if (!companions.empty()) fmt::print("calls    {}\n", fmt::join(companions, ", "));
     fmt::print("\n");
     print_indented(declaration.documentation);
 }

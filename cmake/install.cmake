@@ -4,8 +4,7 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tintvert)
 
-# A library with its public headers: tintvert_install_library(tintvert_checked checked checked) would install
-# the target as tintvert::checked with the headers of the folder checked/.
+# A library as tintvert::<name>, with its folder of public headers.
 function(tintvert_install_library target name headers)
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} INSTALL_RPATH "$ORIGIN")
   install(TARGETS ${target} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
@@ -13,6 +12,7 @@ function(tintvert_install_library target name headers)
 endfunction()
 
 tintvert_install_library(tintvert tintvert include)
+tintvert_install_library(tintvert_checked checked checked/include)
 
 # The companions' headers keep to a folder of their own, for their names are short. They are installed with a
 # site's own companions too: they say what libtintvert calls. Of the site's libraries only the places are noted.
@@ -28,16 +28,23 @@ write_basic_package_version_file(tintvertConfigVersion.cmake COMPATIBILITY SameM
 install(FILES ${PROJECT_BINARY_DIR}/tintvertConfig.cmake ${PROJECT_BINARY_DIR}/tintvertConfigVersion.cmake
   DESTINATION ${package_dir})
 
-# The .pc file counts its prefix from the folder that it lies in.
+# The .pc files count their prefix from the folder that they lie in.
 file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" to_prefix ${to_prefix})
-configure_file(cmake/tintvert.pc.in tintvert.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/tintvert.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+set(zkutil_link -lzkutil)  # the checked calls ask it for the classes of FourCCs
+if(TINTVERT_COMPANIONS STREQUAL "SYSTEM")
+  set(zkutil_link ${TINTVERT_ZKUTIL})
+endif()
+foreach(name tintvert tintvert-checked)
+  configure_file(cmake/${name}.pc.in ${name}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 if(TINTVERT_TOOL)
   file(RELATIVE_PATH to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
   set_target_properties(tintvert_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
   install(TARGETS tintvert_tool)
+  include(cmake/pages.cmake)
 endif()
 
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -13,6 +13,10 @@ run_all() {
   expect '4 slices of 270 lines: the bytes of one call' "$1/slices"
   expect 'B 18 G 174 R 7' "$1/green"
   expect 'B 20 G 168 R 0' env LD_LIBRARY_PATH="$2" "$1/green"
+  expect 'done
+src: 2457360 bytes, needs 2488278 (from -0 to 2488278)
+tntvt_v210_rgb24: a `scale` of 0 divides by zero' "$1/checked"
+  expect 'dst: 95 bytes, needs 96 (from -0 to 96)' "$1/checked_in_c"
 
   # The picture's header is 12 bytes, a bar 12 pixels: one pixel from the middle of each bar.
   "$1/bars" 96 2 >"$work/bars.v210"
@@ -40,14 +44,17 @@ by_pkg_config() {
   rm -rf "$work/pc"
   mkdir -p "$work/pc/own"
   local warnings=(-Wall -Wextra -Wpedantic -Werror)
-  local flags
+  local flags checked_flags
   read -ra flags <<<"$(pkg-config --cflags --libs tintvert) -Wl,-rpath,$libdir"
+  read -ra checked_flags <<<"$(pkg-config --cflags --libs tintvert-checked) -Wl,-rpath,$libdir"
   for name in readme bars slices; do
     "$cxx" -std=c++20 "${warnings[@]}" "$project/examples/$name.cpp" -o "$work/pc/$name" "${flags[@]}" -pthread
   done
   for name in v210_to_ppm own_companion/green; do
     "$cc" -std=c11 "${warnings[@]}" "$project/examples/$name.c" -o "$work/pc/${name##*/}" "${flags[@]}"
   done
+  "$cxx" -std=c++20 "${warnings[@]}" "$project/examples/checked.cpp" -o "$work/pc/checked" "${checked_flags[@]}"
+  "$cc" -std=c11 "${warnings[@]}" "$project/examples/checked_in_c.c" -o "$work/pc/checked_in_c" "${checked_flags[@]}"
   "$cc" -std=c11 -shared -fPIC "$project/examples/own_companion/kmrutil.c" -Wl,-soname,libkmrutil.so.1 \
     -o "$work/pc/own/libkmrutil.so.1" "${flags[0]}"
   run_all "$work/pc" "$work/pc/own"
@@ -93,6 +100,7 @@ looks() {
     readelf -d "$lib/lib$library.so" | grep -qF "soname: [lib$library.so.1]" || fail "lib$library has another soname"
   done
   for file in include/tintvert.h include/tintvert/rgb.h include/tintvert/companions/zkutil.h \
+    include/tintvert_checked.h include/tintvert/checked{,_routines,_c_routines}.h \
     share/doc/tintvert/LICENSE share/doc/tintvert/README.md share/doc/tintvert/examples/bars.cpp; do
     [ -f "$1/$file" ] || fail "$file is missing"
   done
@@ -100,7 +108,26 @@ looks() {
   known=$(grep -rIlF -e "$project" -e "$build" -e "$work" "$1" || true)
   same '' 'the text that knows its place' "$known"
   readelf -d "$lib/libtintvert.so" | grep -qF 'runpath: [$ORIGIN]' || fail 'libtintvert looks for its companions elsewhere'
-  if [ -e "$1/bin/tintvert" ]; then expect 'tintvert 1.0.0' "$1/bin/tintvert" --version; fi
+  if [ -e "$1/bin/tintvert" ]; then
+    same 'tintvert 1.0.0' 'what the tool calls itself' "$("$1/bin/tintvert" --version | head -n 1)"
+    pages "$1/share" "$1/bin/tintvert"
+  fi
+}
+
+# pages SHARE TOOL: the tool's manual pages, and no others, and its completions, as the tool writes them.
+pages() {
+  local page shell command
+  page=$1/man/man1/tintvert.1
+  expect "$(cat "$page")" "$2" man
+  local commands
+  mapfile -t commands < <(sed -n 's/^\.BR tintvert\\-\([a-z0-9]*\) (1).*/\1/p' "$page")
+  same "$(printf '%s\n' tintvert.1 "${commands[@]/%/.1}" | sed '2,$s/^/tintvert-/' | LC_ALL=C sort)" 'the manual' \
+    "$(find "$1/man" -type f -printf '%f\n' | LC_ALL=C sort)"
+  for command in "${commands[@]}"; do expect "$(cat "$1/man/man1/tintvert-$command.1")" "$2" man "$command"; done
+  for shell in bash:bash-completion/completions/tintvert zsh:zsh/vendor-completions/_tintvert \
+    fish:fish/vendor_completions.d/tintvert.fish; do
+    expect "$(cat "$1/${shell#*:}")" "$2" completions "${shell%%:*}"
+  done
 }
 
 same "$(cat "$project/examples/readme.cpp")" 'the program in README.md' \

@@ -33,19 +33,30 @@ apt update
 # The tool brings its libraries along.
 mapfile -t tool < <(debs tintvert libtintvert1 libtintvert-companions)
 apt install "${tool[@]}"
-[ "$(in_root tintvert --version)" = 'tintvert 1.0.0' ] || fail 'the tool does not tell its version'
+[ "$(in_root tintvert --version)" = $'tintvert 1.0.0\nMOV and AVI: read, by libavformat' ] ||
+  fail "the tool does not tell its version, or reads no MOV: $(in_root tintvert --version)"
 [ "$(in_root tintvert list --json | grep -c '"name"')" -eq 162 ] || fail 'the tool does not list 162 routines'
+for page in man/man1/tintvert.1.gz man/man1/tintvert-convert.1.gz bash-completion/completions/tintvert \
+  zsh/vendor-completions/_tintvert fish/vendor_completions.d/tintvert.fish; do
+  [ -s "$root/usr/share/$page" ] || fail "$page is missing"
+done
 in_root tintvert demo --output /tmp/demo >/dev/null || fail 'the demo fails'
 [ -n "$(find "$root/tmp/demo" -name '*.png')" ] || fail 'the demo leaves no picture'
 
-# A program by the README, as someone who has the -dev and -doc packages builds it.
+# Programs as someone who has the -dev and -doc packages builds them.
 apt install g++ pkg-config
 files >"$root/tmp/before"
 mapfile -t rest < <(debs libtintvert-dev libtintvert-doc)
 apt install "${rest[@]}"
-in_root sh -c 'g++ /usr/share/doc/libtintvert-doc/examples/readme.cpp -o /tmp/readme $(pkg-config --cflags --libs tintvert)' ||
-  fail 'the program of README.md does not build'
+# build EXAMPLE PACKAGE: with the flags that pkg-config tells.
+build() {
+  in_root sh -c "g++ -std=c++20 /usr/share/doc/libtintvert-doc/examples/$1.cpp -o /tmp/$1 \$(pkg-config --cflags --libs $2)" ||
+    fail "$1.cpp does not build"
+}
+build readme tintvert
 [ "$(in_root /tmp/readme)" = '99 81 211 81' ] || fail 'the program of README.md prints something else'
+build checked tintvert-checked
+[ "$(in_root /tmp/checked | head -n 1)" = 'done' ] || fail 'a checked call does something else'
 
 in_root dpkg --purge libtintvert-dev libtintvert-doc >/dev/null || fail 'purging -dev and -doc fails'
 files | diff "$root/tmp/before" - || fail 'files of -dev or -doc are left or missing'

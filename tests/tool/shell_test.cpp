@@ -50,6 +50,17 @@ TEST_F(Shell, bash_completes)
     EXPECT_EQ(completed("tintvert view fra"), "frame.v210\n");
 }
 
+// In a folder of $fpath, zsh runs the file as the body of _tintvert when it first completes.
+TEST_F(Shell, zsh_completes_at_first_sight)
+{
+    if (!has("zsh")) GTEST_SKIP() << "skipped: zsh not found";
+    EXPECT_EQ(shell("tintvert completions zsh > _tintvert\n"
+                    "zsh -fc 'fpath=($PWD); autoload -Uz _tintvert; compadd() { echo $* }\n"
+                    "words=(tintvert view file --color \"\"); CURRENT=5; _tintvert; _tintvert'"),
+              0);
+    EXPECT_EQ(load("said"), "-- auto always never\n-- auto always never\n");
+}
+
 TEST_F(Shell, fish_completes)
 {
     if (!has("fish")) GTEST_SKIP() << "skipped: fish not found";

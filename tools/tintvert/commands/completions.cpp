@@ -76,7 +76,7 @@ complete -o filenames -F _tintvert tintvert
 void print_zsh(const CLI::App& tool)
 {
     fmt::print(
-        "#compdef tintvert\n_tintvert()\n{{\n    local -a commands options words\n    local values=\n    commands=(\n");
+        "#compdef tintvert\n_tintvert()\n{{\n    local -a commands options\n    local values=\n    commands=(\n");
     const std::vector<CommandWords> commands = command_words(tool);
     for (const CommandWords& command : commands)
         fmt::print("        {}\n", zsh(command.name + ":" + command.description));
@@ -105,7 +105,11 @@ void print_zsh(const CLI::App& tool)
         _files
     fi
 }}
-compdef _tintvert tintvert
+if [ "${{funcstack[1]}}" = _tintvert ]; then
+    _tintvert
+else
+    compdef _tintvert tintvert
+fi
 )");
 }
 

@@ -5,12 +5,12 @@
 #include <memory>
 
 #include "call_plan.h"
+#include "clip_options.h"
 #include "commands.h"
 #include "json.h"
 #include "nearest.h"
 #include "oddities.h"
 #include "peer_checks.h"
-#include "raw_frame.h"
 
 namespace tintvert::tool {
 namespace {

@@ -57,6 +57,20 @@ TEST_F(Explain, arguments_of_the_routine)
     EXPECT_EQ(run({"explain", "tntvt_2vuy_v210", "-s", "64x8", "--scale", "2"}).code, 2);
 }
 
+TEST_F(Explain, stride_by_name)
+{
+    const auto argument = [](const char* routine, const char* stride, const char* name) {
+        return explained({routine, "-s", "10x4", "--stride", stride})["arguments"][name];
+    };
+    EXPECT_EQ(argument("tntvt_v210_2vuy", "auto48", "srcStride"), 128);
+    EXPECT_EQ(argument("tntvt_v210_2vuy", "packed", "srcStride"), 32);
+    EXPECT_EQ(argument("tntvt_v210_rgb24", "auto64", "srcStride"), 64);
+    EXPECT_EQ(argument("tntvt_i420_2vuy", "auto64", "stride"), 64);
+    EXPECT_EQ(argument("tntvt_2vuy_i420", "24", "stride"), 24);
+    EXPECT_EQ(run({"explain", "_v210_to_rgb", "-s", "10x4", "--stride", "auto48"}).code, 2);
+    EXPECT_EQ(run({"explain", "tntvt_v210_2vuy", "-s", "10x4", "--stride", "31"}).code, 4);
+}
+
 // Every call as a program: it compiles in both languages without a warning, and runs.
 TEST_F(Explain, calls_compile_and_run)
 {

@@ -11,6 +11,7 @@
 #include "nearest.h"
 #include "oddities.h"
 #include "peer_checks.h"
+#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -18,8 +19,8 @@ namespace {
 using catalog::Range;
 
 struct Options {
-    std::string routine, size, layout = "rgb32";
-    ArgumentOptions numbers;
+    std::string routine, size, stride;
+    RoutineOptions numbers;
     bool show_call = false, json = false;
 };
 
@@ -155,15 +156,26 @@ void print_json(const Options& options, const CallPlan& plan)
                            .dump(2));
 }
 
+// --stride is the argument of that name, or else the lines of the source.
+catalog::Arguments arguments_for(const Options& options, const catalog::Routine& routine, Size size)
+{
+    using catalog::Arg;
+    layout_named(options.numbers.layout);
+    if (options.stride.empty()) return arguments_of(routine, options.numbers, size.width, size.height, 0);
+    const std::string_view layout = layout_of_stride(routine, options.numbers);
+    if (takes(routine, Arg::stride))
+        return arguments_of(routine, options.numbers, size.width, size.height, stride_of(options.stride, layout, size));
+    if (!takes(routine, Arg::srcStride)) throw Failure(Exit::usage, "{} takes no stride of its source", routine.name);
+    RoutineOptions numbers = options.numbers;
+    numbers.numbers[Arg::srcStride] = stride_of(options.stride, layout, size);
+    return arguments_of(routine, numbers, size.width, size.height, 0);
+}
+
 Exit run(const Options& options)
 {
     const catalog::Routine& routine = routine_named(options.routine);
-    layout_named(options.layout);
     const Size size = size_of(options.size);
-    const auto scale = options.numbers.find(catalog::Arg::scale);
-    const CallPlan plan = plan_call(
-        routine, {size.width, size.height, scale == options.numbers.end() ? 1 : scale->second, options.layout},
-        options.numbers);
+    const CallPlan plan = plan_call(routine, arguments_for(options, routine, size), size);
     if (options.json)
         print_json(options, plan);
     else if (options.show_call)
@@ -182,11 +194,10 @@ Command add_explain(CLI::App& tool)
     const auto options = std::make_shared<Options>();
     app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
     app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of the picture that goes in")->required();
-    app->add_option("-l,--layout", options->layout, "what frames hold, for routines that take any")
-        ->capture_default_str();
+    add_stride_option(*app, options->stride);
     app->add_flag("--show-call", options->show_call, "the call as a program in C, ready to paste");
     app->add_flag("--json", options->json, "JSON instead of text");
-    add_argument_options(app, &options->numbers);
+    add_routine_options(*app, options->numbers);
     return {app, [options] { return run(*options); }};
 }
 

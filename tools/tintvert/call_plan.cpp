@@ -71,8 +71,8 @@ Range PlannedBuffer::whole() const { return join(join(picture, read), written); 
 CallPlan plan_call(const catalog::Routine& routine, const catalog::Arguments& arguments, Size size)
 {
     CallPlan plan{&routine, arguments, {}, {}};
-    if (const std::string_view why = catalog::refusal(routine, plan.arguments); !why.empty())
-        throw Failure(Exit::unsafe, "refused: {}", why);
+    if (const auto [refusal, why] = catalog::reason(routine, plan.arguments); refusal != catalog::Refusal::none)
+        throw Failure(Exit::unsafe, "refused: {} ({})", why, catalog::name_of(refusal));
     if (takes(routine, Arg::palette) && routine.from == "rle8") {
         plan.stream = plain_stream(size.width, size.height);
         plan.arguments[Arg::src] = reinterpret_cast<int64_t>(plan.stream.data());

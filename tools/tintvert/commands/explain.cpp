@@ -10,7 +10,7 @@
 #include "json.h"
 #include "nearest.h"
 #include "oddities.h"
-#include "peer_checks.h"
+#include "routine_facts.h"
 #include "routine_options.h"
 
 namespace tintvert::tool {
@@ -70,26 +70,6 @@ void print_range(const char* what, const Range& range, const PlannedBuffer& buff
                more.empty() ? "" : "  ", more);
 }
 
-std::string on_one_line(const std::vector<std::string>& command)
-{
-    std::string text;
-    for (const std::string& word : command) {
-        const bool quoted = word == "!";
-        text += fmt::format("{}{}{}{}", text.empty() ? "" : " ", quoted ? "'" : "", word, quoted ? "'" : "");
-    }
-    return text + " < in > out";
-}
-
-std::vector<std::string> peers_of(const Options& options)
-{
-    std::vector<std::string> commands;
-    const Size size = size_of(options.size);
-    for (const PeerCheck& check : peer_checks())
-        if (check.routine == options.routine && check.direction == PeerCheck::same)
-            commands.push_back(on_one_line(peer_command(check, size.width, size.height)));
-    return commands;
-}
-
 std::string call_text(const CallPlan& plan)
 {
     std::string text;
@@ -104,7 +84,7 @@ std::string call_text(const CallPlan& plan)
     return fmt::format("{}({})", plan.routine->name, text);
 }
 
-void print_text(const Options& options, const CallPlan& plan)
+void print_text(const CallPlan& plan, Size size)
 {
     const catalog::Routine& routine = *plan.routine;
     fmt::print("{}\n  {}\n\n", call_text(plan), routine.summary);
@@ -121,17 +101,19 @@ void print_text(const Options& options, const CallPlan& plan)
         print_range("read", buffer.read, buffer);
         print_range("written", buffer.written, buffer);
     }
-    const std::vector<Oddity> oddities = oddities_of(routine.name);
+    const std::vector<Oddity> oddities = oddities_at(routine, plan.arguments);
     if (!oddities.empty()) fmt::print("\ndeliberate\n");
-    for (const Oddity& oddity : oddities) fmt::print("  {}\n    {}\n", oddity.name, oddity.what);
-    const std::vector<std::string> peers = peers_of(options);
-    if (!peers.empty()) fmt::print("\npeer\n");
-    for (const std::string& peer : peers) fmt::print("  {}\n", peer);
+    for (const Oddity& oddity : oddities)
+        fmt::print("  {}{}{}\n    {}\n", oddity.name, oddity.here.empty() ? "" : ", ", oddity.here, oddity.what);
+    if (const auto peer = catalog::peer_of(routine))
+        fmt::print("\npeer, {}\n  {}\n",
+                   peer->agreement == catalog::Peer::exact ? "with the same bytes" : "by other rules",
+                   peer_command_at(*peer, size.width, size.height));
 }
 
 Json to_json(const Range& range) { return range.empty() ? Json() : Json{range.begin, range.end}; }
 
-void print_json(const Options& options, const CallPlan& plan)
+void print_json(const CallPlan& plan, Size size)
 {
     Json arguments = Json::object(), buffers = Json::array(), oddities = Json::array();
     for (const catalog::Arg argument : plan.routine->arguments)
@@ -142,8 +124,9 @@ void print_json(const Options& options, const CallPlan& plan)
                            {"picture", to_json(buffer.picture)},
                            {"read", to_json(buffer.read)},
                            {"written", to_json(buffer.written)}});
-    for (const Oddity& oddity : oddities_of(plan.routine->name))
-        oddities.push_back({{"name", oddity.name}, {"what", oddity.what}});
+    for (const Oddity& oddity : oddities_at(*plan.routine, plan.arguments))
+        oddities.push_back(
+            {{"name", oddity.name}, {"what", oddity.what}, {"here", oddity.here.empty() ? Json() : Json(oddity.here)}});
     fmt::print("{}\n", Json{{"schema", json_schema},
                             {"routine", plan.routine->name},
                             {"arguments", arguments},
@@ -151,7 +134,7 @@ void print_json(const Options& options, const CallPlan& plan)
                             {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
                             {"buffers", buffers},
                             {"deliberate", oddities},
-                            {"peers", peers_of(options)},
+                            {"peer", peer_to_json(*plan.routine, size.width, size.height)},
                             {"call", c_call(plan)}}
                            .dump(2));
 }
@@ -177,11 +160,11 @@ Exit run(const Options& options)
     const Size size = size_of(options.size);
     const CallPlan plan = plan_call(routine, arguments_for(options, routine, size), size);
     if (options.json)
-        print_json(options, plan);
+        print_json(plan, size);
     else if (options.show_call)
         fmt::print("{}", c_call(plan));
     else
-        print_text(options, plan);
+        print_text(plan, size);
     return Exit::done;
 }
 

@@ -10,6 +10,7 @@
 #include "headers.h"
 #include "json.h"
 #include "nearest.h"
+#include "routine_facts.h"
 
 namespace tintvert::tool {
 namespace {
@@ -31,6 +32,7 @@ void print_json(const catalog::Routine& routine, const Declaration& declaration)
     Json about = to_json(routine);
     about["prototype"] = declaration.prototype;
     about["arguments"] = arguments;
+    about.update(facts_to_json(routine));
     about["documentation"] = declaration.documentation;
     fmt::print("{}\n", Json{{"schema", json_schema}, {"routine", about}}.dump(2));
 }
@@ -49,10 +51,10 @@ void print_text(const catalog::Routine& routine, const Declaration& declaration)
     fmt::print("{}\n  {}\n\n{}\n", routine.name, routine.summary, declaration.prototype);
     for (const catalog::Arg place : routine.arguments)
         fmt::print("  {:<10}  {}\n", catalog::describe(place).name, catalog::describe(place).meaning);
-    fmt::print("\nchapter  {}\n", routine.chapter);
-    if (routine.from != "none") fmt::print("reads    {}\n", routine.from);
-    if (routine.to != "none") fmt::print("writes   {}\n", routine.to);
-    fmt::print("\n");
+    fmt::print("\nchapter     {}\n", routine.chapter);
+    if (routine.from != "none") fmt::print("reads       {}\n", routine.from);
+    if (routine.to != "none") fmt::print("writes      {}\n", routine.to);
+    fmt::print("{}\n", facts_to_text(routine));
     print_indented(declaration.documentation);
 }
 

@@ -19,6 +19,8 @@ enum class Refusal {
     overruns_scratch,   // a copy longer than the routine's own scratch line
 };
 
+std::string_view name_of(Refusal refusal);
+
 struct Reason {
     Refusal refusal = Refusal::none;
     const char* sentence = "";  // for a person

@@ -52,6 +52,10 @@ TEST_F(Clips, of_ycbcr)
         make(file, "102x36", coding);
         EXPECT_TRUE(frames_of(file, layout) == load(file + ".raw")) << file;
     }
+    for (const char* clip : {"v210.mov", "v210.avi"}) {
+        EXPECT_EQ(run({"compare", path(clip), path(std::string(clip) + ".raw"), "-s", "102x36", "--exact"}).code, 0);
+        EXPECT_EQ(run({"view", path(clip), "--frames", "2", "-o", path("out.png")}).code, 0);
+    }
     const std::string frames = load("v210.mov.raw"), one = frames_of("v210.mov", "v210", {"--frames", "1"});
     EXPECT_TRUE(one == frames.substr(frames.size() / 3, frames.size() / 3));
 }

@@ -169,11 +169,11 @@ TEST_F(Compare, mismatched_files)
     save("other", std::string(192, 'a'));
     for (const char* size : {"12x5", "11x4"}) {
         const Result result = run({"compare", path("one"), path("one"), "-l", "2vuy", "-s", size});
-        EXPECT_EQ(result.code, 3) << size;
+        EXPECT_EQ(result.code, 4) << size;
         EXPECT_TRUE(result.has_one_line_of_error()) << result.err;
     }
     const Result two = compare("2vuy");
-    EXPECT_EQ(two.code, 3);
+    EXPECT_EQ(two.code, 4);
     EXPECT_TRUE(two.has_one_line_of_error()) << two.err;
     EXPECT_EQ(two.out, "");
     EXPECT_EQ(files_in("").size(), 2u);

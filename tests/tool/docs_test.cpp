@@ -54,6 +54,8 @@ protected:
         save("photo.png", make_png(PngKind{}, 64, 48));
         save("clip.2vuy", noise(2, 3 * 1920 * 1080 * 2));
         save("clip.v210", noise(3, 3 * 5120 * 1080));
+        for (const char* again : {"again.v210", "clip_1920x1080_25.v210"})
+            std::filesystem::create_hard_link(path("clip.v210"), path(again));
         save("padded.v210", noise(4, 3456 * 720));
         save("clip.y4m", "YUV4MPEG2 W1920 H1080 F25:1 Ip A1:1 C420jpeg\nFRAME\n" + noise(5, 1920 * 1080 * 3 / 2));
         save("picture.bmp", run_length_coded_bmp());

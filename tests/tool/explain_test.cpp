@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "catalog.h"
+#include "facts.h"
 #include "geometry.h"
 #include "tool/run.h"
 
@@ -25,9 +26,11 @@ TEST_F(Explain, text)
 {
     const Result result = run({"explain", "tntvt_v210_2vuy", "-s", "1280x720"});
     EXPECT_EQ(result.code, 0) << result.err;
-    for (const char* line : {"tntvt_v210_2vuy(dst, src, width 1280, height 720, srcStride 3456)\n",
-                             "reads         2488320 bytes, v210\n", "writes        1843200 bytes, 2vuy\n",
-                             "  2564 behind the picture\n", "  keeps_double_length_lines\n", "gst-launch-1.0 -q fdsrc"})
+    for (const char* line :
+         {"tntvt_v210_2vuy(dst, src, width 1280, height 720, srcStride 3456)\n", "reads         2488320 bytes, v210\n",
+          "writes        1843200 bytes, 2vuy\n", "  2564 behind the picture\n", "  keeps_double_length_lines\n",
+          "\npeer, with the same bytes\n  gst-launch-1.0 filesrc location=in '!' rawvideoparse "
+          "format=v210 width=1280 height=720 '!' "})
         EXPECT_NE(result.out.find(line), std::string::npos) << result.out;
 }
 
@@ -55,6 +58,73 @@ TEST_F(Explain, arguments_of_the_routine)
     EXPECT_EQ(told["arguments"]["scale"], 2);
     EXPECT_EQ(told["bytes_out"], 128 * 4);
     EXPECT_EQ(run({"explain", "tntvt_2vuy_v210", "-s", "64x8", "--scale", "2"}).code, 2);
+}
+
+TEST_F(Explain, oddities_are_those_of_the_catalogue_in_the_words_of_the_page)
+{
+    for (const catalog::Routine& routine : catalog::routines()) {
+        const Json told = explained({std::string(routine.name), "--size", "96x6"})["deliberate"];
+        const auto names = catalog::oddities_of(routine);
+        ASSERT_EQ(told.size(), names.size()) << routine.name;
+        for (size_t i = 0; i < names.size(); ++i) {
+            EXPECT_EQ(told[i]["name"], names[i]);
+            const std::string what = told[i]["what"];
+            EXPECT_TRUE(what.size() > 10 && what.ends_with('.') && what.find('|') == std::string::npos) << what;
+        }
+    }
+}
+
+TEST_F(Explain, says_which_oddities_a_call_meets)
+{
+    const auto here = [](std::vector<std::string> call, const std::string& name) {
+        const Json told = explained(std::move(call));
+        for (const Json& oddity : told["deliberate"])
+            if (oddity["name"] == name) return oddity["here"];
+        return Json("there is none");
+    };
+    const std::string luma = "keeps_long_luma_lines_of_odd_width", matrix = "keeps_matrix_change_at_962";
+    EXPECT_EQ(here({"tntvt_i420_2vuy", "-s", "5x4"}, luma), "met: the width is odd");
+    EXPECT_EQ(here({"tntvt_i420_2vuy", "-s", "6x4"}, luma), "not met: the width is even");
+    EXPECT_EQ(here({"tntvt_rgb32_v210", "-s", "960x4"}, matrix), "the width is below 962: BT.601");
+    EXPECT_EQ(here({"tntvt_rgb32_v210", "-s", "962x4"}, matrix), "the width is 962 or more: BT.709");
+    EXPECT_EQ(here({"tntvt_rgb32_v210", "-s", "962x4"}, "keeps_chroma_across_lines"), nullptr);
+    EXPECT_EQ(here({"tntvt_yuv422_8_rgb24", "-s", "96x4", "--scale", "2"}, "keeps_10_bit_decoder_for_8_bit_data"),
+              "not met: reduced");
+}
+
+TEST_F(Explain, peers_are_those_of_the_catalogue_at_this_size)
+{
+    const Json peer = explained({"tntvt_2vuy_planar", "-s", "96x6"})["peer"];
+    EXPECT_EQ(peer, (Json{{"agreement", "exact"},
+                          {"command",
+                           "ffmpeg -f rawvideo -pix_fmt uyvy422 -s 96x6 -i in -f rawvideo -pix_fmt "
+                           "yuv422p out"}}));
+    EXPECT_EQ(explained({"tntvt_2yuv_to_alphay", "-s", "96x6"})["peer"]["agreement"], "near");
+    EXPECT_EQ(explained({"tntvt_rgba_full", "-s", "96x6"})["peer"].is_null(),
+              !catalog::peer_of(*catalog::find("tntvt_rgba_full")));
+}
+
+TEST_F(Explain, refusals_have_names)
+{
+    const Result result = run({"explain", "tntvt_v210_frame_to_rtp_4175", "-s", "7x8"});
+    EXPECT_EQ(result.code, 4);
+    EXPECT_TRUE(result.err.ends_with(" (never_returns)\n")) << result.err;
+    EXPECT_TRUE(
+        run({"explain", "tntvt_yuv422_rgb24", "-s", "8x8", "--scale", "0"}).err.ends_with(" (divides_by_zero)\n"));
+}
+
+TEST_F(Explain, stride_by_name)
+{
+    const auto argument = [](const char* routine, const char* stride, const char* name) {
+        return explained({routine, "-s", "10x4", "--stride", stride})["arguments"][name];
+    };
+    EXPECT_EQ(argument("tntvt_v210_2vuy", "auto48", "srcStride"), 128);
+    EXPECT_EQ(argument("tntvt_v210_2vuy", "packed", "srcStride"), 32);
+    EXPECT_EQ(argument("tntvt_v210_rgb24", "auto64", "srcStride"), 64);
+    EXPECT_EQ(argument("tntvt_i420_2vuy", "auto64", "stride"), 64);
+    EXPECT_EQ(argument("tntvt_2vuy_i420", "24", "stride"), 24);
+    EXPECT_EQ(run({"explain", "_v210_to_rgb", "-s", "10x4", "--stride", "auto48"}).code, 2);
+    EXPECT_EQ(run({"explain", "tntvt_v210_2vuy", "-s", "10x4", "--stride", "31"}).code, 4);
 }
 
 // Every call as a program: it compiles in both languages without a warning, and runs.

@@ -1,7 +1,8 @@
 // list and show tell everything that the catalogue and the headers hold.
 #include <nlohmann/json.hpp>
 
-#include "catalog.h"
+#include "facts.h"
+#include "in_place.h"
 #include "tool/run.h"
 
 namespace tintvert::test {
@@ -29,6 +30,18 @@ void expect_same(const json& told, const catalog::Routine& routine)
     EXPECT_EQ(told["summary"], routine.summary);
     EXPECT_EQ(told["reads"], layout(routine.from));
     EXPECT_EQ(told["writes"], layout(routine.to));
+    const catalog::Routine* const alias = catalog::alias_of(routine);
+    EXPECT_EQ(told["alias_of"], alias == nullptr ? json() : json(alias->name));
+    EXPECT_EQ(told["empty"], catalog::is_empty_entry(routine));
+    EXPECT_EQ(told["deliberate"], json(catalog::oddities_of(routine)));
+    EXPECT_EQ(told["companions"], json(catalog::companions_of(routine)));
+    const auto peer = catalog::peer_of(routine);
+    EXPECT_EQ(told["peer"].is_null(), !peer);
+    if (peer) {
+        EXPECT_EQ(told["peer"]["command"], peer->command);
+    }
+    constexpr const char* in_place[] = {"untold", "fails", "as_apart", "in_its_way"};
+    EXPECT_EQ(told["in_place"], in_place[static_cast<size_t>(catalog::in_place(routine))]);
 }
 
 TEST(List, json_holds_every_routine_in_order)
@@ -87,17 +100,19 @@ TEST(Show, text_carries_the_header_comment)
     EXPECT_EQ(result.out.find("*/"), std::string::npos);
 }
 
-TEST(Show, second_names_and_companions)
+TEST(Show, text_tells_what_the_catalogue_knows)
 {
-    const json second = json_of({"show", "tntvt_yuvu_2vuy", "--json"})["routine"];
-    EXPECT_EQ(second["same_as"], "tntvt_yuv2_2vuy");
-    EXPECT_EQ(second["companions"], json::array());
-    const json first = json_of({"show", "tntvt_i420_rgb32", "--json"})["routine"];
-    EXPECT_EQ(first["same_as"], json());
-    EXPECT_EQ(first["companions"], (json{"GetMatrixBySize", "cycbcr_i420_to_rgb32"}));
-    EXPECT_NE(run({"show", "tntvt_yuvu_2vuy"}).out.find("\nsame as  tntvt_yuv2_2vuy\n"), std::string::npos);
-    EXPECT_NE(run({"show", "tntvt_i420_rgb32"}).out.find("\ncalls    GetMatrixBySize, cycbcr_i420_to_rgb32\n"),
+    const std::string alias = run({"show", "tntvt_rgb24_rgb32"}).out;
+    for (const char* line : {"\nthe same    tntvt_rgb24_rgba32, under a second name\n",
+                             "\ndeliberate  keeps_ascending_writes_in_place\n", "\npeer        exact: ffmpeg "})
+        EXPECT_NE(alias.find(line), std::string::npos) << line << alias;
+    EXPECT_NE(run({"show", "tntvt_rle4_rgb24"}).out.find("\nempty       takes its arguments and does nothing\n"),
               std::string::npos);
+    EXPECT_NE(run({"show", "tntvt_i420_rgb32"}).out.find("\ncalls       GetMatrixBySize, cycbcr_i420_to_rgb32\n"),
+              std::string::npos);
+    EXPECT_NE(run({"show", "argb_to_2vuy"}).out.find("\nin place    yes: the same bytes as with two frames\n"),
+              std::string::npos);
+    EXPECT_NE(run({"list"}).out.find(" The same as tntvt_rgb24_rgba32.\n"), std::string::npos);
 }
 
 // Two declarations under one comment share it.

@@ -94,7 +94,7 @@ TEST_F(View, frames_behind_each_other)
 {
     save("frame", "ab" + std::string(24, '\0') + std::string(24, '\xFF'));
     const auto view = [&](const char* frame) {
-        return run({"view", path("frame"), "-l", "rgb24", "-s", "4x2", "--offset", "2", "--frame", frame});
+        return run({"view", path("frame"), "-l", "rgb24", "-s", "4x2", "--offset", "2", "--frames", frame});
     };
     EXPECT_EQ(view("0").out, "    \n");
     EXPECT_EQ(view("1").out, "@@@@\n");

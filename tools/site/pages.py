@@ -166,7 +166,7 @@ class Site:
         parts = [
             f"# `{name}`",
             links.mark(routine["summary"], name),
-            f"The same as {links.code(routine['same_as'])}." if routine["same_as"] else "",
+            f"The same as {links.code(routine['alias_of'])}." if routine["alias_of"] else "",
             f"```c\n{wrapped(routine['prototype'])}\n```",
             self.sides(routine),
             documentation(routine["documentation"], links, name),
@@ -208,9 +208,8 @@ class Site:
             f"| {row.section} | {row.cells[1]} | {links.mark(row.cells[2], routine['name'])} |\n" for row in rows
         )
         text = f"## Peers\n\n| | Peer | What was compared |\n|---|---|---|\n{lines}\n[How it was measured](../peers.md)"
-        for command in routine["call"]["peers"]:
-            text += f"\n\n```sh\n{command}\n```"
-        return text
+        peer = routine["call"]["peer"]
+        return text + f"\n\n```sh\n{peer['command']}\n```" if peer else text
 
     def write_index(self):
         readme = (self.repository / "README.md").read_text()

@@ -5,8 +5,10 @@
 #include <algorithm>
 
 #include "failure.h"
+#include "geometry.h"
 #include "headers.h"
 #include "refusals.h"
+#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -19,11 +21,6 @@ Range join(Range one, Range other)
     if (one.empty()) return other;
     if (other.empty()) return one;
     return {std::min(one.begin, other.begin), std::max(one.end, other.end)};
-}
-
-bool takes(const catalog::Routine& routine, Arg argument)
-{
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
 }
 
 // A picture of one colour: runs of up to 254 pixels, line ends, the end.
@@ -71,14 +68,13 @@ std::string byte_of(std::string_view name, int64_t offset)
 
 Range PlannedBuffer::whole() const { return join(join(picture, read), written); }
 
-CallPlan plan_call(const catalog::Routine& routine, const catalog::Geometry& geometry, const ArgumentOptions& options)
+CallPlan plan_call(const catalog::Routine& routine, const catalog::Arguments& arguments, Size size)
 {
-    CallPlan plan{&routine, catalog::plain_call(routine, geometry), {}, {}};
-    apply(options, routine, &plan.arguments);
-    if (const std::string_view why = catalog::refusal(routine, plan.arguments); !why.empty())
-        throw Failure(Exit::unsafe, "refused: {}", why);
+    CallPlan plan{&routine, arguments, {}, {}};
+    if (const auto [refusal, why] = catalog::reason(routine, plan.arguments); refusal != catalog::Refusal::none)
+        throw Failure(Exit::unsafe, "refused: {} ({})", why, catalog::name_of(refusal));
     if (takes(routine, Arg::palette) && routine.from == "rle8") {
-        plan.stream = plain_stream(geometry.width, geometry.height);
+        plan.stream = plain_stream(size.width, size.height);
         plan.arguments[Arg::src] = reinterpret_cast<int64_t>(plan.stream.data());
         plan.arguments[Arg::streamSize] = static_cast<int64_t>(plan.stream.size());
     }

@@ -5,8 +5,7 @@
 #include <vector>
 
 #include "catalog.h"
-#include "geometry.h"
-#include "routine_options.h"
+#include "clip_options.h"
 
 namespace tintvert::tool {
 
@@ -25,8 +24,8 @@ struct CallPlan {
     std::vector<uint8_t> stream;  // for run-length decoders, which reach as far as their stream tells
 };
 
-// Throws Failure for geometry that the routine must not be called with.
-CallPlan plan_call(const catalog::Routine& routine, const catalog::Geometry& geometry, const ArgumentOptions& options);
+// Throws Failure for geometry that the routine must not be called with. The size is that of a run-length coded picture.
+CallPlan plan_call(const catalog::Routine& routine, const catalog::Arguments& arguments, Size size);
 
 // A program of C11 and C++20: the buffers, and the call.
 std::string c_call(const CallPlan& plan);

@@ -31,12 +31,17 @@ int64_t packed_line(std::string_view layout, int64_t width)
 
 }  // namespace
 
+void add_stride_option(CLI::App& app, std::string& stride)
+{
+    app.add_option("--stride", stride,
+                   "the lines of raw frames: auto48 (v210: 128 bytes for 48 pixels), auto64 (rounded up to 64 bytes), "
+                   "packed (no padding) or bytes");
+}
+
 void add_clip_options(CLI::App& app, ClipOptions& options)
 {
     app.add_option("-s,--size", options.size, "WIDTHxHEIGHT of raw frames");
-    app.add_option("--stride", options.stride,
-                   "the lines of a raw file: auto48 (v210: 128 bytes for 48 pixels), auto64 (rounded up to 64 bytes), "
-                   "packed (no padding) or bytes");
+    add_stride_option(app, options.stride);
     app.add_option("--offset", options.offset, "bytes to skip at the head of raw files")->check(CLI::NonNegativeNumber);
     app.add_option("--frames", options.frames, "A:B, from frame A up to frame B, or A alone");
 }

@@ -22,6 +22,7 @@ struct ClipOptions {
 
 // --size, --stride, --offset, --frames.
 void add_clip_options(CLI::App& app, ClipOptions& options);
+void add_stride_option(CLI::App& app, std::string& stride);
 
 // Throws Failure for what is no size (usage), and for one below 1 or of more than 2^28 pixels (unsafe).
 Size size_of(const std::string& text);

@@ -13,8 +13,8 @@ namespace {
 
 std::vector<catalog::Content> safe_contents(const catalog::Routine& routine, const catalog::Arguments& call)
 {
-    if (const std::string_view why = catalog::refusal(routine, call); !why.empty())
-        throw Failure(Exit::unsafe, "refused: {}", why);
+    if (const auto [refusal, why] = catalog::reason(routine, call); refusal != catalog::Refusal::none)
+        throw Failure(Exit::unsafe, "refused: {} ({})", why, catalog::name_of(refusal));
     return catalog::contents(routine, call);
 }
 

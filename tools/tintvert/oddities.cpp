@@ -2,49 +2,67 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
+#include "facts.h"
 
 namespace tintvert::tool {
 namespace {
 
-std::string_view trimmed(std::string_view text)
+using catalog::Arg;
+
+struct Condition {
+    std::string_view name;
+    Arg argument;
+    bool (*holds)(int64_t value);
+    std::string_view yes, no;
+};
+
+constexpr auto is_odd = [](int64_t value) { return value % 2 != 0; };
+constexpr auto is_negative = [](int64_t value) { return value < 0; };
+constexpr std::string_view odd_width = "met: the width is odd", even_width = "not met: the width is even";
+constexpr std::string_view below = "met: the height is negative", above = "not met: the height is positive";
+
+constexpr Condition conditions[] = {
+    {"keeps_long_luma_lines_of_odd_width", Arg::width, is_odd, odd_width, even_width},
+    {"keeps_drift_of_odd_width", Arg::width, is_odd, odd_width, even_width},
+    {"keeps_pair_past_odd_width", Arg::width, is_odd, odd_width, even_width},
+    {"keeps_endless_odd_width", Arg::width, is_odd, odd_width, even_width},
+    {"keeps_flip_one_line_off", Arg::height, is_negative, below, above},
+    {"keeps_signed_height_in_addresses", Arg::height, is_negative, below, above},
+    {"keeps_matrix_change_at_962", Arg::width, [](int64_t value) { return value < 962; },
+     "the width is below 962: BT.601", "the width is 962 or more: BT.709"},
+    {"keeps_10_bit_decoder_for_8_bit_data", Arg::scale, [](int64_t value) { return value == 1; }, "met: full size",
+     "not met: reduced"},
+    {"keeps_interlaced_line_order", Arg::interlaced, [](int64_t value) { return value != 0; }, "met: interlaced",
+     "not met: the lines are in order"},
+    {"keeps_orders_that_write_nothing", Arg::order, [](int64_t value) { return value == 1 || value == 3; },
+     "met: order 1 or 3", "not met: order 0 or 2"},
+    {"keeps_plain_copy_of_mode_17", Arg::mode, [](int64_t value) { return value == 17; }, "met: mode 17",
+     "not met: another mode"},
+};
+
+std::string_view here(std::string_view name, const catalog::Arguments& call)
 {
-    while (text.starts_with(' ')) text.remove_prefix(1);
-    while (text.ends_with(' ')) text.remove_suffix(1);
-    return text;
+    for (const Condition& condition : conditions)
+        if (condition.name == name) return condition.holds(call[condition.argument]) ? condition.yes : condition.no;
+    return {};
 }
 
-std::string_view take_line(std::string_view* text)
+// The third cell of the row that begins with the name.
+std::string_view what_is(std::string_view name)
 {
-    const std::string_view line = text->substr(0, text->find('\n'));
-    text->remove_prefix(std::min(line.size() + 1, text->size()));
-    return line;
-}
-
-std::string_view take_cell(std::string_view* row)
-{
-    const std::string_view cell = row->substr(0, row->find('|'));
-    row->remove_prefix(std::min(cell.size() + 1, row->size()));
-    return trimmed(cell);
+    std::string_view row = deliberate_page();
+    row.remove_prefix(row.find(fmt::format("\n| {} |", name)) + 1);
+    row = row.substr(0, row.find(" |\n"));
+    return row.substr(row.rfind(" | ") + 3);
 }
 
 }  // namespace
 
-// "the same" stands for the routines of the row above.
-std::vector<Oddity> oddities_of(std::string_view routine)
+std::vector<Oddity> oddities_at(const catalog::Routine& routine, const catalog::Arguments& call)
 {
-    const std::string quoted = fmt::format("`{}`", routine);
     std::vector<Oddity> oddities;
-    bool before = false;
-    for (std::string_view page = deliberate_page(); !page.empty();) {
-        std::string_view row = take_line(&page);
-        if (!row.starts_with("| keeps_")) continue;
-        row.remove_prefix(1);
-        const std::string_view name = take_cell(&row), routines = take_cell(&row), what = take_cell(&row);
-        const bool own = routines.starts_with("the same") ? before : routines.find(quoted) != std::string_view::npos;
-        if (own) oddities.push_back({name, what});
-        before = own;
-    }
+    for (const std::string_view name : catalog::oddities_of(routine))
+        oddities.push_back({name, what_is(name), here(name, call)});
     return oddities;
 }
 

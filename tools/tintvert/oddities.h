@@ -1,18 +1,19 @@
-// The rows of docs/deliberate.md, which is compiled into the tool.
+// The oddities of a routine: whose they are from the catalogue, what each is from docs/deliberate.md.
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
+
+#include "catalog.h"
 
 namespace tintvert::tool {
 
 struct Oddity {
     std::string_view name, what;
+    std::string_view here;  // whether a call meets it, where its numbers tell; empty where they do not
 };
 
-// Those whose row names the routine.
-std::vector<Oddity> oddities_of(std::string_view routine);
+std::vector<Oddity> oddities_at(const catalog::Routine& routine, const catalog::Arguments& call);
 
 // The page as it stands in docs/; filled in when the tool is built.
 std::string_view deliberate_page();

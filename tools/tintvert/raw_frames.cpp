@@ -15,15 +15,16 @@ public:
     int64_t expect(const FrameForm& form, int64_t stride) override
     {
         form_ = form;
-        stride_ = stride;
         parts_ = form.parts;
         if (files_.size() == 1) parts_ = {static_cast<int64_t>(form.bytes())};
         if (files_.size() != parts_.size())
             throw Failure(Exit::usage, "{} files for the {} buffers that the routine reads", files_.size(),
                           parts_.size());
-        if (stride != 0) {
+        const bool is_as_in_file = stride == form.stride && stride * form.height == static_cast<int64_t>(form.bytes());
+        if (stride != 0 && !is_as_in_file) {
             if (files_.size() > 1) throw Failure(Exit::usage, "--stride is for frames in one file");
             need_lines(form);
+            stride_ = stride;
             parts_ = {stride * form.height};
             lines_.resize(static_cast<size_t>(parts_[0]));
         }
@@ -85,7 +86,7 @@ private:
     }
 
     std::vector<InputFile> files_;
-    int64_t offset_, stride_ = 0;
+    int64_t offset_, stride_ = 0;  // of lines that are to be taken out of the file, one by one
     FrameForm form_;
     std::vector<int64_t> parts_;  // of a frame in each file
     std::vector<uint8_t> lines_;

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "failure.h"
 #include "layouts.h"
-#include "road/holds.h"
 
 namespace tintvert::tool {
 
@@ -20,15 +18,6 @@ int64_t line_bytes(const std::string& layout, int64_t width)
     return known == nullptr ? 0 : known->line_bytes(width);
 }
 
-void apply(const RoutineOptions& options, const Routine& routine, catalog::Arguments& call)
-{
-    for (const auto& [argument, value] : options.numbers) {
-        if (!takes(routine, argument))
-            throw Failure(Exit::usage, "{} takes no {}", routine.name, catalog::describe(argument).name);
-        call[argument] = value;
-    }
-}
-
 std::vector<int64_t> sizes_of(const std::vector<std::span<uint8_t>>& buffers)
 {
     std::vector<int64_t> sizes;
@@ -38,38 +27,14 @@ std::vector<int64_t> sizes_of(const std::vector<std::span<uint8_t>>& buffers)
 
 }  // namespace
 
-bool takes(const Routine& routine, Arg argument)
-{
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
-}
-
-void add_routine_options(CLI::App& app, RoutineOptions& options)
-{
-    for (const Routine& routine : catalog::routines()) {
-        for (const Arg argument : routine.arguments) {
-            const catalog::Argument& about = catalog::describe(argument);
-            const std::string name = "--" + std::string{about.name};
-            const bool told_by_size = argument == Arg::width || argument == Arg::height || argument == Arg::pixels;
-            if (about.kind == catalog::Argument::buffer || argument == Arg::ignored || told_by_size) continue;
-            if (argument == Arg::stride || app.get_option_no_throw(name) != nullptr) continue;
-            app.add_option_function<int64_t>(
-                   name, [&options, argument](const int64_t& value) { options.numbers[argument] = value; },
-                   std::string{about.meaning})
-                ->group("Arguments of the routine");
-        }
-    }
-}
-
 RoutineJob routine_job(const Routine& routine, const RoutineOptions& options, Size size, int64_t stride)
 {
     const auto scale = options.numbers.find(Arg::scale);
     const int64_t reduction = scale == options.numbers.end() ? 1 : scale->second;
     const bool reduces = takes(routine, Arg::scale) && reduction > 1;
     RoutineJob job;
-    job.call = {&routine, catalog::plain_call(routine, {size.width, size.height, reduction, options.layout})};
-    catalog::Arguments& call = job.call.arguments;
-    if (stride != 0) call[Arg::stride] = stride;
-    apply(options, routine, call);
+    job.call = {&routine, arguments_of(routine, options, size.width, size.height, stride)};
+    const catalog::Arguments& call = job.call.arguments;
 
     const Words words{static_cast<int>(std::clamp<int64_t>(call[Arg::bits], 1, 16)), call[Arg::swapBytes] != 0};
     const auto form = [&](std::string_view layout, Size picture, std::initializer_list<Arg> strides) {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "raw_frame.h"
+#include "frame_shape.h"
 
 namespace tintvert::tool {
 

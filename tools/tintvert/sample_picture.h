@@ -3,8 +3,8 @@
 
 #include <vector>
 
+#include "frame_shape.h"
 #include "picture.h"
-#include "raw_frame.h"
 
 namespace tintvert::tool {
 

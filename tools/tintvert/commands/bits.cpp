@@ -1,4 +1,4 @@
-// tintvert bits: the words around a pixel, field by field.
+// tintvert bits: the words around a pixel of a frame, field by field.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -7,9 +7,9 @@
 
 #include "color.h"
 #include "commands.h"
+#include "frame_shape.h"
 #include "json.h"
 #include "layout_picture.h"
-#include "raw_frame.h"
 
 namespace tintvert::tool {
 namespace {
@@ -20,8 +20,7 @@ using catalog::Sample;
 
 struct Options {
     std::string file, at, color;
-    FrameOptions frame;
-    int64_t index = 0;
+    SampleOptions samples;
     bool json = false;
 };
 
@@ -111,18 +110,17 @@ void print_word(const Unit& unit, int word, const uint8_t* bytes, const Point& p
     fmt::print("{:>10}  {}{}\n", file_offset + at, hex, fields);
 }
 
-void print_text(const Options& options, const FrameShape& shape, const std::vector<uint8_t>& frame, const Point& point)
+void print_text(const SampledFrame& frame, const Point& point, const Painter& paint)
 {
-    const Painter paint(wants_color(options.color));
-    const int64_t file_offset = options.frame.offset + options.index * shape.bytes;
+    const FrameShape& shape = frame.shape;
     std::string values;
     fmt::print("{:>10}  bytes, fields from the highest bit down; * those of pixel {},{}\n", "byte", point.x, point.y);
     for (const Unit& unit : units_at(shape, point)) {
         const Plane& plane = *unit.placed->plane;
-        const uint8_t* const bytes = frame.data() + unit.offset;
+        const uint8_t* const bytes = frame.bytes.data() + unit.offset;
         for (int word = 0; word < plane.unit_bytes / plane.word_bytes; ++word) {
             const bool inside = unit.offset + (word + 1) * plane.word_bytes <= shape.bytes;
-            if (inside) print_word(unit, word, bytes, point, shape, file_offset, paint);
+            if (inside) print_word(unit, word, bytes, point, shape, frame.place, paint);
         }
         for (const Sample& sample : plane.fields)
             if (belongs(plane, sample, point.x - unit.pixel) && is_there(unit, sample, shape.width))
@@ -132,8 +130,9 @@ void print_text(const Options& options, const FrameShape& shape, const std::vect
     fmt::print("\npixel {},{}: {}\n", point.x, point.y, values);
 }
 
-void print_json(const Options& options, const FrameShape& shape, const std::vector<uint8_t>& frame, const Point& point)
+void print_json(const SampledFrame& frame, const Point& point)
 {
+    const FrameShape& shape = frame.shape;
     Json samples = Json::array();
     for (const Unit& unit : units_at(shape, point)) {
         const Plane& plane = *unit.placed->plane;
@@ -142,12 +141,11 @@ void print_json(const Options& options, const FrameShape& shape, const std::vect
             samples.push_back({{"component", sample.component},
                                {"pixel", unit.pixel + sample.pixel},
                                {"own", belongs(plane, sample, point.x - unit.pixel)},
-                               {"byte", options.frame.offset + options.index * shape.bytes + unit.offset +
-                                            sample.word * plane.word_bytes},
+                               {"byte", frame.place + unit.offset + sample.word * plane.word_bytes},
                                {"word_bytes", plane.word_bytes},
                                {"low_bit", sample.low},
                                {"bits", sample.bits},
-                               {"value", catalog::load_sample(plane, sample, frame.data() + unit.offset)}});
+                               {"value", catalog::load_sample(plane, sample, frame.bytes.data() + unit.offset)}});
         }
     }
     fmt::print("{}\n", Json{{"schema", json_schema}, {"x", point.x}, {"y", point.y}, {"samples", samples}}.dump(2));
@@ -155,10 +153,12 @@ void print_json(const Options& options, const FrameShape& shape, const std::vect
 
 Exit run(const Options& options)
 {
-    const FrameShape shape = frame_shape(options.frame);
-    const Point point = point_of(options.at, shape);
-    const std::vector<uint8_t> frame = read_frame(options.file, options.frame, shape, options.index);
-    (options.json ? print_json : print_text)(options, shape, frame, point);
+    const SampledFrame frame = read_frame(options.file, options.samples);
+    const Point point = point_of(options.at, frame.shape);
+    if (options.json)
+        print_json(frame, point);
+    else
+        print_text(frame, point, Painter(wants_color(options.color)));
     return Exit::done;
 }
 
@@ -166,12 +166,12 @@ Exit run(const Options& options)
 
 Command add_bits(CLI::App& tool)
 {
-    CLI::App* const app = tool.add_subcommand("bits", "The words around a pixel of a raw frame, field by field.");
+    CLI::App* const app = tool.add_subcommand("bits", "The words around a pixel of a frame, field by field.");
     const auto options = std::make_shared<Options>();
-    app->add_option("file", options->file, "a file of raw frames")->required();
+    app->add_option("file", options->file, "the file; of several frames the first, or the first of --frames")
+        ->required();
     app->add_option("--at", options->at, "X,Y of the pixel, from 0")->required();
-    add_frame_options(app, &options->frame);
-    app->add_option("--frame", options->index, "which one, from 0")->check(CLI::NonNegativeNumber);
+    add_sample_options(*app, options->samples);
     app->add_flag("--json", options->json, "JSON instead of text");
     add_color_option(app, &options->color);
     return {app, [options] { return run(*options); }};

@@ -1,13 +1,11 @@
 // tintvert capture: RTP packets with 10-bit video to `v210` frames.
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <charconv>
-#include <limits>
 #include <memory>
 
 #include "capture/missing_picture.h"
 #include "capture/report.h"
+#include "clip_options.h"
 #include "commands.h"
 #include "json.h"
 #include "output_file.h"
@@ -22,37 +20,15 @@ struct Options {
     bool keeps_incomplete = false, json = false;
 };
 
-constexpr long most_pixels = 1L << 28;
-
-// Up to the end of `text` or an 'x'. A number that no long holds is as large as one can be.
-long leading_number(std::string_view& text)
-{
-    long number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error == std::errc::invalid_argument) return std::numeric_limits<long>::min();
-    text.remove_prefix(static_cast<size_t>(end - text.data()));
-    return error == std::errc() ? number : std::numeric_limits<long>::max();
-}
-
 // Lines and offsets have 15 bits in the payload header, and there are two fields to a frame.
 capture::FrameSize parse_size(const std::string& size, capture::Scan scan)
 {
-    std::string_view rest = size;
-    capture::FrameSize parsed;
-    parsed.width = leading_number(rest);
-    const bool has_x = rest.starts_with('x');
-    if (has_x) rest.remove_prefix(1);
-    parsed.height = leading_number(rest);
-    if (!has_x || !rest.empty() || std::min(parsed.width, parsed.height) == std::numeric_limits<long>::min())
-        throw Failure(Exit::usage, "--size {} is no width and height such as 1920x1080", size);
-    if (parsed.width < 1 || parsed.height < 1)
-        throw Failure(Exit::unsafe, "--size {}: a frame has at least one line and one pair of pixels", size);
-    if (parsed.width > 32768 || parsed.height > (scan == capture::Scan::by_field ? 65536 : 32768) ||
-        parsed.height > most_pixels / parsed.width)
-        throw Failure(Exit::unsafe, "--size {}: more than a payload header can number, or than 2^28 pixels", size);
-    if (parsed.width % 2 != 0)
+    const auto [width, height] = size_of(size);
+    if (width > 32768 || height > (scan == capture::Scan::by_field ? 65536 : 32768))
+        throw Failure(Exit::unsafe, "--size {}: more than a payload header can number", size);
+    if (width % 2 != 0)
         throw Failure(Exit::unsafe, "--size {}: RFC 4175 sends 4:2:2 in pairs of pixels, so no odd width", size);
-    return parsed;
+    return {width, height};
 }
 
 // The frames on their way into the file, which is made for the first of them.

@@ -1,4 +1,4 @@
-// tintvert compare: two files of raw frames, sample by sample.
+// tintvert compare: two files of frames, sample by sample.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace {
 
 struct Options {
     std::string one, other, picture;
-    FrameOptions frame;
+    SampleOptions samples;
     bool exact = false, json = false;
 };
 
@@ -115,23 +115,51 @@ void print_text(const Options& options, const Comparison& result, const SampleDi
                    own.largest, own.mean(), std::isinf(own.psnr()) ? "inf" : fmt::format("{:.2f}", own.psnr()));
 }
 
+// What both files say they hold, unless --layout says it.
+std::string layout_of(const Options& options, const Clip& one, const Clip& other)
+{
+    if (!options.samples.layout.empty()) return options.samples.layout;
+    if (one.layout().empty() || other.layout().empty()) return one.layout().empty() ? other.layout() : one.layout();
+    if (one.layout() != other.layout())
+        throw Failure(Exit::usage, "{} holds {}, and {} {}: give --layout LAYOUT", one.name(), one.layout(),
+                      other.name(), other.layout());
+    return one.layout();
+}
+
 Exit run(const Options& options)
 {
-    const FrameShape shape = frame_shape(options.frame);
+    const ClipOptions& clip_options = options.samples.clip;
+    if (options.one == "-" && options.other == "-")
+        throw Failure(Exit::usage, "one of the files can be standard input, and not both");
+    Clip one(clip_options, {options.one}), other(clip_options, {options.other});
+    if (one.size() != other.size())
+        throw Failure(Exit::unsafe, "{} is {}x{}, and {} {}x{}", one.name(), one.size().width, one.size().height,
+                      other.name(), other.size().width, other.size().height);
+    const std::string layout = layout_of(options, one, other);
+    const FrameShape shape = expect_samples(one, layout, clip_options);
+    expect_samples(other, layout, clip_options);
+    const auto need_as_long = [&](bool is) {
+        if (!is) throw Failure(Exit::unsafe, "{} and {} differ in length", one.name(), other.name());
+    };
+    need_as_long(one.frames() < 0 || other.frames() < 0 || one.frames() == other.frames());
+
     Comparison result;
-    result.frames = whole_frames(options.one, options.frame, shape);
-    if (whole_frames(options.other, options.frame, shape) != result.frames)
-        throw Failure(Exit::no_file, "{} and {} differ in length", options.one, options.other);
     SampleDifference samples(shape);
-    for (int64_t frame = 0; frame < result.frames; ++frame) {
-        const auto a = read_frame(options.one, options.frame, shape, frame),
-                   b = read_frame(options.other, options.frame, shape, frame);
+    std::vector<uint8_t> a(static_cast<size_t>(shape.bytes)), b(a.size());
+    const int64_t first = frame_range_of(clip_options.frames).first;
+    for (;; ++result.frames) {
+        const bool is_there = one.next(a);
+        need_as_long(is_there == other.next(b));
+        if (!is_there) break;
+        const int64_t frame = first + result.frames;
         const bool differed = samples.first().has_value();
-        compare_bytes(&result, options.frame.offset + frame * shape.bytes, a, b);
+        compare_bytes(&result, clip_options.offset + frame * shape.bytes, a, b);
         samples.add(frame, a, b);
         const bool is_first = !differed && samples.first();
-        if (!options.picture.empty() && (frame == 0 || is_first)) result.picture = difference_picture(shape, a, b);
+        if (!options.picture.empty() && (result.frames == 0 || is_first))
+            result.picture = difference_picture(shape, a, b);
     }
+    if (result.frames == 0) throw Failure(Exit::unsafe, "{} holds no frame", one.name());
     if (result.picture) write_png(options.picture, *result.picture);
     const bool equal = !samples.first() && (!options.exact || result.different_bytes == 0);
     if (options.json)
@@ -146,11 +174,11 @@ Exit run(const Options& options)
 Command add_compare(CLI::App& tool)
 {
     CLI::App* const app =
-        tool.add_subcommand("compare", "Two files of raw frames, sample by sample; exit code 1 if they differ.");
+        tool.add_subcommand("compare", "The frames of two files, sample by sample; exit code 1 if they differ.");
     const auto options = std::make_shared<Options>();
-    app->add_option("one", options->one, "a file of raw frames")->required();
+    app->add_option("one", options->one, "a file of frames")->required();
     app->add_option("other", options->other, "another")->required();
-    add_frame_options(app, &options->frame);
+    add_sample_options(*app, options->samples);
     app->add_option("--picture", options->picture, "a PNG of the first frame that differs: where, and how far");
     app->add_flag("--exact", options->exact, "every byte counts, those that hold no sample too");
     app->add_flag("--json", options->json, "JSON instead of text");

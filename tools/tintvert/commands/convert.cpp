@@ -105,18 +105,14 @@ Exit convert_by_routine(const Options& options, const Routine& routine)
     for (const bool road_only : {options.dry_run, options.json, !options.from.empty(), !options.to.empty()})
         if (road_only)
             throw Failure(Exit::usage, "--from, --to, --dry-run and --json go with a road, and not with one routine");
-    if (catalog::find_layout(options.routine.layout) == nullptr) road::holds_of(options.routine.layout);
     const Files files = place_files(options, routine, {options.words.begin() + 1, options.words.end()});
     if (takes(routine, Arg::palette)) return convert_coded(options, routine, files);
     ClipOptions clip_options = options.clip;
     const bool takes_stride = takes(routine, Arg::stride);
     if (takes_stride) clip_options.stride.clear();
     Clip clip(clip_options, files.in);
-    const bool packs = routine.from == "i420" || routine.from == "yv12";
-    const std::string_view lines_of = packs                    ? routine.to
-                                      : routine.from == "none" ? options.routine.layout
-                                                               : routine.from;
-    const int64_t stride = takes_stride ? stride_of(options.clip.stride, lines_of, clip.size()) : 0;
+    const int64_t stride =
+        takes_stride ? stride_of(options.clip.stride, layout_of_stride(routine, options.routine), clip.size()) : 0;
     const RoutineJob job = routine_job(routine, options.routine, clip.size(), stride);
     if (job.from.parts.empty() || job.to.parts.empty())
         throw Failure(Exit::usage, "{} turns no picture into another", routine.name);
@@ -245,8 +241,6 @@ Command add_convert(CLI::App& tool)
     app->add_flag("-q,--quiet", options->quiet, "say nothing of the road, and show no progress");
     app->add_flag("--json", options->json, "the road on stdout as JSON");
     app->add_flag("--alpha", options->sink.alpha, "keep alpha in pictures");
-    app->add_option("--layout", options->routine.layout, "what frames hold, for routines that take any")
-        ->capture_default_str();
     app->add_option("--planes", options->planes,
                     "the files of the planes, or of the fields, in the order of the arguments")
         ->delimiter(',')

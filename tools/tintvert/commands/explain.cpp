@@ -5,12 +5,13 @@
 #include <memory>
 
 #include "call_plan.h"
+#include "clip_options.h"
 #include "commands.h"
 #include "json.h"
 #include "nearest.h"
 #include "oddities.h"
-#include "peer_checks.h"
-#include "raw_frame.h"
+#include "routine_facts.h"
+#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -18,8 +19,8 @@ namespace {
 using catalog::Range;
 
 struct Options {
-    std::string routine, size, layout = "rgb32";
-    ArgumentOptions numbers;
+    std::string routine, size, stride;
+    RoutineOptions numbers;
     bool show_call = false, json = false;
 };
 
@@ -69,26 +70,6 @@ void print_range(const char* what, const Range& range, const PlannedBuffer& buff
                more.empty() ? "" : "  ", more);
 }
 
-std::string on_one_line(const std::vector<std::string>& command)
-{
-    std::string text;
-    for (const std::string& word : command) {
-        const bool quoted = word == "!";
-        text += fmt::format("{}{}{}{}", text.empty() ? "" : " ", quoted ? "'" : "", word, quoted ? "'" : "");
-    }
-    return text + " < in > out";
-}
-
-std::vector<std::string> peers_of(const Options& options)
-{
-    std::vector<std::string> commands;
-    const Size size = size_of(options.size);
-    for (const PeerCheck& check : peer_checks())
-        if (check.routine == options.routine && check.direction == PeerCheck::same)
-            commands.push_back(on_one_line(peer_command(check, size.width, size.height)));
-    return commands;
-}
-
 std::string call_text(const CallPlan& plan)
 {
     std::string text;
@@ -103,7 +84,7 @@ std::string call_text(const CallPlan& plan)
     return fmt::format("{}({})", plan.routine->name, text);
 }
 
-void print_text(const Options& options, const CallPlan& plan)
+void print_text(const CallPlan& plan, Size size)
 {
     const catalog::Routine& routine = *plan.routine;
     fmt::print("{}\n  {}\n\n", call_text(plan), routine.summary);
@@ -120,17 +101,19 @@ void print_text(const Options& options, const CallPlan& plan)
         print_range("read", buffer.read, buffer);
         print_range("written", buffer.written, buffer);
     }
-    const std::vector<Oddity> oddities = oddities_of(routine.name);
+    const std::vector<Oddity> oddities = oddities_at(routine, plan.arguments);
     if (!oddities.empty()) fmt::print("\ndeliberate\n");
-    for (const Oddity& oddity : oddities) fmt::print("  {}\n    {}\n", oddity.name, oddity.what);
-    const std::vector<std::string> peers = peers_of(options);
-    if (!peers.empty()) fmt::print("\npeer\n");
-    for (const std::string& peer : peers) fmt::print("  {}\n", peer);
+    for (const Oddity& oddity : oddities)
+        fmt::print("  {}{}{}\n    {}\n", oddity.name, oddity.here.empty() ? "" : ", ", oddity.here, oddity.what);
+    if (const auto peer = catalog::peer_of(routine))
+        fmt::print("\npeer, {}\n  {}\n",
+                   peer->agreement == catalog::Peer::exact ? "with the same bytes" : "by other rules",
+                   peer_command_at(*peer, size.width, size.height));
 }
 
 Json to_json(const Range& range) { return range.empty() ? Json() : Json{range.begin, range.end}; }
 
-void print_json(const Options& options, const CallPlan& plan)
+void print_json(const CallPlan& plan, Size size)
 {
     Json arguments = Json::object(), buffers = Json::array(), oddities = Json::array();
     for (const catalog::Arg argument : plan.routine->arguments)
@@ -141,8 +124,9 @@ void print_json(const Options& options, const CallPlan& plan)
                            {"picture", to_json(buffer.picture)},
                            {"read", to_json(buffer.read)},
                            {"written", to_json(buffer.written)}});
-    for (const Oddity& oddity : oddities_of(plan.routine->name))
-        oddities.push_back({{"name", oddity.name}, {"what", oddity.what}});
+    for (const Oddity& oddity : oddities_at(*plan.routine, plan.arguments))
+        oddities.push_back(
+            {{"name", oddity.name}, {"what", oddity.what}, {"here", oddity.here.empty() ? Json() : Json(oddity.here)}});
     fmt::print("{}\n", Json{{"schema", json_schema},
                             {"routine", plan.routine->name},
                             {"arguments", arguments},
@@ -150,26 +134,37 @@ void print_json(const Options& options, const CallPlan& plan)
                             {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
                             {"buffers", buffers},
                             {"deliberate", oddities},
-                            {"peers", peers_of(options)},
+                            {"peer", peer_to_json(*plan.routine, size.width, size.height)},
                             {"call", c_call(plan)}}
                            .dump(2));
+}
+
+// --stride is the argument of that name, or else the lines of the source.
+catalog::Arguments arguments_for(const Options& options, const catalog::Routine& routine, Size size)
+{
+    using catalog::Arg;
+    layout_named(options.numbers.layout);
+    if (options.stride.empty()) return arguments_of(routine, options.numbers, size.width, size.height, 0);
+    const std::string_view layout = layout_of_stride(routine, options.numbers);
+    if (takes(routine, Arg::stride))
+        return arguments_of(routine, options.numbers, size.width, size.height, stride_of(options.stride, layout, size));
+    if (!takes(routine, Arg::srcStride)) throw Failure(Exit::usage, "{} takes no stride of its source", routine.name);
+    RoutineOptions numbers = options.numbers;
+    numbers.numbers[Arg::srcStride] = stride_of(options.stride, layout, size);
+    return arguments_of(routine, numbers, size.width, size.height, 0);
 }
 
 Exit run(const Options& options)
 {
     const catalog::Routine& routine = routine_named(options.routine);
-    layout_named(options.layout);
     const Size size = size_of(options.size);
-    const auto scale = options.numbers.find(catalog::Arg::scale);
-    const CallPlan plan = plan_call(
-        routine, {size.width, size.height, scale == options.numbers.end() ? 1 : scale->second, options.layout},
-        options.numbers);
+    const CallPlan plan = plan_call(routine, arguments_for(options, routine, size), size);
     if (options.json)
-        print_json(options, plan);
+        print_json(plan, size);
     else if (options.show_call)
         fmt::print("{}", c_call(plan));
     else
-        print_text(options, plan);
+        print_text(plan, size);
     return Exit::done;
 }
 
@@ -182,11 +177,10 @@ Command add_explain(CLI::App& tool)
     const auto options = std::make_shared<Options>();
     app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
     app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of the picture that goes in")->required();
-    app->add_option("-l,--layout", options->layout, "what frames hold, for routines that take any")
-        ->capture_default_str();
+    add_stride_option(*app, options->stride);
     app->add_flag("--show-call", options->show_call, "the call as a program in C, ready to paste");
     app->add_flag("--json", options->json, "JSON instead of text");
-    add_argument_options(app, &options->numbers);
+    add_routine_options(*app, options->numbers);
     return {app, [options] { return run(*options); }};
 }
 

@@ -9,6 +9,7 @@
 #include "commands.h"
 #include "json.h"
 #include "nearest.h"
+#include "routine_facts.h"
 
 namespace tintvert::tool {
 namespace {
@@ -39,7 +40,11 @@ std::vector<const catalog::Routine*> chosen(const std::string& chapter)
 void print_json(const std::vector<const catalog::Routine*>& routines)
 {
     Json list = Json::array();
-    for (const catalog::Routine* routine : routines) list.push_back(to_json(*routine));
+    for (const catalog::Routine* routine : routines) {
+        Json own = to_json(*routine);
+        own.update(facts_to_json(*routine));
+        list.push_back(own);
+    }
     fmt::print("{}\n", Json{{"schema", json_schema}, {"routines", list}}.dump(2));
 }
 
@@ -51,7 +56,9 @@ void print_text(const std::vector<const catalog::Routine*>& routines)
     for (const catalog::Routine* routine : routines) {
         if (routine->chapter != chapter) fmt::print("{}{}\n", chapter.empty() ? "" : "\n", routine->chapter);
         chapter = routine->chapter;
-        fmt::print("  {:{}}  {}\n", routine->name, longest, routine->summary);
+        const catalog::Routine* const alias = catalog::alias_of(*routine);
+        fmt::print("  {:{}}  {}{}\n", routine->name, longest, routine->summary,
+                   alias == nullptr ? "" : fmt::format(" The same as {}.", alias->name));
     }
 }
 

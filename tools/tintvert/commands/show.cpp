@@ -7,10 +7,10 @@
 
 #include "catalog.h"
 #include "commands.h"
-#include "facts.h"
 #include "headers.h"
 #include "json.h"
 #include "nearest.h"
+#include "routine_facts.h"
 
 namespace tintvert::tool {
 namespace {
@@ -32,10 +32,8 @@ void print_json(const catalog::Routine& routine, const Declaration& declaration)
     Json about = to_json(routine);
     about["prototype"] = declaration.prototype;
     about["arguments"] = arguments;
+    about.update(facts_to_json(routine));
     about["documentation"] = declaration.documentation;
-    const catalog::Routine* const same = catalog::alias_of(routine);
-    about["same_as"] = same == nullptr ? Json() : Json(same->name);
-    about["companions"] = catalog::companions_of(routine);
     fmt::print("{}\n", Json{{"schema", json_schema}, {"routine", about}}.dump(2));
 }
 
@@ -53,13 +51,10 @@ void print_text(const catalog::Routine& routine, const Declaration& declaration)
     fmt::print("{}\n  {}\n\n{}\n", routine.name, routine.summary, declaration.prototype);
     for (const catalog::Arg place : routine.arguments)
         fmt::print("  {:<10}  {}\n", catalog::describe(place).name, catalog::describe(place).meaning);
-    fmt::print("\nchapter  {}\n", routine.chapter);
-    if (routine.from != "none") fmt::print("reads    {}\n", routine.from);
-    if (routine.to != "none") fmt::print("writes   {}\n", routine.to);
-    if (const catalog::Routine* const same = catalog::alias_of(routine)) fmt::print("same as  {}\n", same->name);
-    const std::vector<std::string_view> companions = catalog::companions_of(routine);
-    if (!companions.empty()) fmt::print("calls    {}\n", fmt::join(companions, ", "));
-    fmt::print("\n");
+    fmt::print("\nchapter     {}\n", routine.chapter);
+    if (routine.from != "none") fmt::print("reads       {}\n", routine.from);
+    if (routine.to != "none") fmt::print("writes      {}\n", routine.to);
+    fmt::print("{}\n", facts_to_text(routine));
     print_indented(declaration.documentation);
 }
 

@@ -1,4 +1,4 @@
-// tintvert view: a raw frame as a picture, in the terminal or as PNG.
+// tintvert view: a frame as a picture, in the terminal or as PNG.
 #include <fmt/format.h>
 
 #include <memory>
@@ -14,15 +14,14 @@ namespace {
 
 struct Options {
     std::string file, output, color;
-    FrameOptions frame;
-    int64_t index = 0;
+    SampleOptions samples;
     long width = 0;
 };
 
 Exit run(const Options& options)
 {
-    const FrameShape shape = frame_shape(options.frame);
-    const Picture picture = picture_of_samples(shape, read_frame(options.file, options.frame, shape, options.index));
+    const SampledFrame frame = read_frame(options.file, options.samples);
+    const Picture picture = picture_of_samples(frame.shape, frame.bytes);
     if (!options.output.empty())
         write_png(options.output, picture);
     else
@@ -35,11 +34,11 @@ Exit run(const Options& options)
 
 Command add_view(CLI::App& tool)
 {
-    CLI::App* const app = tool.add_subcommand("view", "A raw frame as a picture, in the terminal or as PNG.");
+    CLI::App* const app = tool.add_subcommand("view", "A frame as a picture, in the terminal or as PNG.");
     const auto options = std::make_shared<Options>();
-    app->add_option("file", options->file, "a file of raw frames")->required();
-    add_frame_options(app, &options->frame);
-    app->add_option("--frame", options->index, "which one, from 0")->check(CLI::NonNegativeNumber);
+    app->add_option("file", options->file, "the file; of several frames the first, or the first of --frames")
+        ->required();
+    add_sample_options(*app, options->samples);
     app->add_option("--width", options->width, "columns of the picture in the terminal")->check(CLI::Range(1, 10000));
     app->add_option("-o,--output", options->output, "a PNG to write instead");
     add_color_option(app, &options->color);

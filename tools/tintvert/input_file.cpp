@@ -61,7 +61,7 @@ void InputFile::read(uint8_t* to, size_t count)
 bool InputFile::skip(int64_t count)
 {
     if (size_ >= 0) {
-        if (count > size_ - at_) return false;
+        if (lacks(count)) return false;
         at_ += count;
         peeked_.clear();
         return std::fseek(file_.get(), at_, SEEK_SET) == 0;

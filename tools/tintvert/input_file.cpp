@@ -77,11 +77,11 @@ bool InputFile::skip(int64_t count)
 
 std::vector<uint8_t> InputFile::read_rest()
 {
-    constexpr size_t step = 1 << 20;
     std::vector<uint8_t> bytes;
-    size_t got = 0;
+    size_t got = 0, step = 0;
     do {
         const size_t had = bytes.size();
+        step = std::max<size_t>(had, 1 << 16);
         bytes.resize(had + step);
         got = read_some(bytes.data() + had, step);
         bytes.resize(had + got);

@@ -60,7 +60,7 @@ const Buffer& Call::given(Arg argument) const
 bool Call::may_be_made(const Options& options, Error& error)
 {
     error.routine = routine_.name.data();
-    if (refused(error)) return false;
+    if (refused(numbers_, error)) return false;
     const catalog::Extents extents = routine_.extents(numbers_);
     if (options.query != nullptr) {
         tell(extents, *options.query);
@@ -72,12 +72,37 @@ bool Call::may_be_made(const Options& options, Error& error)
         if (lacks_room(touch.buffer, all, error)) return false;
         places[static_cast<size_t>(&touch - extents.begin())] = moved(all, address(touch.buffer));
     }
+    if (touches_one_null_frame(error) || interpolates_null(error)) return false;
     return options.allow_overlap || !overlaps(extents, places, error);
 }
 
-bool Call::refused(Error& error) const
+// Two null pointers are two buffers to the rules and one frame to the routine.
+bool Call::touches_one_null_frame(Error& error) const
 {
-    const catalog::Reason reason = catalog::reason(routine_, numbers_);
+    if (address(Arg::dst) != 0 || address(Arg::src) != 0) return false;
+    catalog::Arguments in_place = numbers_;
+    in_place[Arg::dst] = in_place[Arg::src] = 1;
+    if (refused(in_place, error)) return true;
+    return std::ranges::any_of(routine_.extents(in_place), [&](const catalog::Touch& touch) {
+        return lacks_room(touch.buffer, join(touch.read, touch.written), error);
+    });
+}
+
+// To the rules a null is a buffer that is still to come. Mode 11 makes something else of it: where either frame is
+// null it copies the second line of `src` to the first of `dst`, whatever the height.
+bool Call::interpolates_null(Error& error) const
+{
+    if (&routine_ != &routine_at(catalog::RoutineId::tntvt_change_field_rgb)) return false;
+    if (numbers_.as<uint32_t>(Arg::mode) != 11 || (address(Arg::dst) != 0 && address(Arg::src) != 0)) return false;
+    const int64_t dst_pitch = numbers_.as<uint32_t>(Arg::dstStride), given = numbers_.as<uint32_t>(Arg::srcStride);
+    const int64_t pitch = given == 0 ? dst_pitch : given;
+    if (address(Arg::src) + pitch == address(Arg::dst) + dst_pitch) return false;
+    return lacks_room(Arg::src, {pitch, 2 * pitch}, error) || lacks_room(Arg::dst, {0, pitch}, error);
+}
+
+bool Call::refused(const catalog::Arguments& numbers, Error& error) const
+{
+    const catalog::Reason reason = catalog::reason(routine_, numbers);
     if (reason.refusal == catalog::Refusal::none) return false;
     error.code = Code::refused;
     error.refusal = refusal_of(reason.refusal);

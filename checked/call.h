@@ -64,7 +64,9 @@ private:
     // Every buffer that the extents tell has been set.
     const Buffer& given(catalog::Arg argument) const;
     int64_t address(catalog::Arg argument) const { return numbers_[argument]; }
-    bool refused(Error& error) const;
+    bool refused(const catalog::Arguments& numbers, Error& error) const;
+    bool touches_one_null_frame(Error& error) const;
+    bool interpolates_null(Error& error) const;
     using Places = std::array<catalog::Range, 8>;  // by touch, from address 0
 
     bool lacks_room(catalog::Arg argument, catalog::Range all, Error& error) const;

@@ -28,4 +28,7 @@ if(TINTVERT_SANITIZE)
   if(TINTVERT_SANITIZE MATCHES "undefined")
     add_compile_options(-fno-sanitize-recover=undefined)
   endif()
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(-Wno-pass-failed)  # loops that are watched are not widened
+  endif()
 endif()

@@ -26,6 +26,13 @@ struct Picture {
     {}
 };
 
+// Summed as integers: a stride may point anywhere, and a picture of no pixels be null.
+template <class Byte>
+Byte* advance(Byte* from, long offset)
+{
+    return reinterpret_cast<Byte*>(reinterpret_cast<uintptr_t>(from) + static_cast<uintptr_t>(offset));
+}
+
 template <class LineOf>
 int decode(const Picture& picture, LineOf form_of_line)
 {
@@ -33,7 +40,7 @@ int decode(const Picture& picture, LineOf form_of_line)
     const Tier tier = TINTVERT_WIDE ? best_tier() : Tier::plain;
     for (long y = 0; y < picture.lines; ++y) {
         const long place = (picture.flags & CYCBCR_BOTTOM_UP) != 0 ? picture.lines - 1 - y : y;
-        uint8_t* dst = picture.dst + place * picture.dst_stride;
+        uint8_t* dst = advance(picture.dst, place * picture.dst_stride);
         line(tier, dst, form_of_line(y), picture.width, w);
     }
     return 0;
@@ -43,15 +50,16 @@ int decode(const Picture& picture, LineOf form_of_line)
 int decode_420(const Picture& picture, bool cb_first)
 {
     const long n = picture.src_stride * picture.lines;
-    const uint8_t* const first = picture.src + n;
-    const uint8_t* const second = first + (n >> 2);
+    const uint8_t* const first = advance(picture.src, n);
+    const uint8_t* const second = advance(first, n >> 2);
     const long last = picture.lines / 2 - 1;
     return decode(picture, [&](long line) {
         const long chroma = (line / 2 < last ? line / 2 : last) * (picture.src_stride / 2);
         const int samples = last < 0 ? 0 : picture.width / 2;
-        const uint8_t* const one = samples == 0 ? nullptr : first + chroma;
-        const uint8_t* const other = samples == 0 ? nullptr : second + chroma;
-        return Planar{picture.src + line * picture.src_stride, cb_first ? one : other, cb_first ? other : one, samples};
+        const uint8_t* const one = samples == 0 ? nullptr : advance(first, chroma);
+        const uint8_t* const other = samples == 0 ? nullptr : advance(second, chroma);
+        return Planar{advance(picture.src, line * picture.src_stride), cb_first ? one : other, cb_first ? other : one,
+                      samples};
     });
 }
 
@@ -61,14 +69,14 @@ int cycbcr_uyvy_to_rgb32(void* dst, void* src, int width, int height, int dstStr
                          unsigned int flags)
 {
     const Picture picture(dst, src, width, height, dstStride, srcStride, matrix, flags);
-    return decode(picture, [&](long line) { return Uyvy{picture.src + line * picture.src_stride}; });
+    return decode(picture, [&](long line) { return Uyvy{advance(picture.src, line * picture.src_stride)}; });
 }
 
 int cycbcr_012v_to_rgb32(void* dst, void* src, int width, int height, int dstStride, int srcStride, unsigned int matrix,
                          unsigned int flags)
 {
     const Picture picture(dst, src, width, height, dstStride, srcStride, matrix, flags);
-    return decode(picture, [&](long line) { return V210{picture.src + line * picture.src_stride}; });
+    return decode(picture, [&](long line) { return V210{advance(picture.src, line * picture.src_stride)}; });
 }
 
 int cycbcr_i420_to_rgb32(void* dst, void* src, int width, int height, int dstStride, int srcStride, unsigned int matrix,

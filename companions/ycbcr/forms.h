@@ -38,10 +38,13 @@ struct Uyvy {
         store_16(dst, convert(w, luma, centred(_mm256_slli_epi16(words, 8))));
     }
 
+    // Of a pair that is begun, up to its Cr.
+    static constexpr int bytes_of(int pixels) { return pixels * 2 + pixels % 2; }
+
     static constexpr int step_pixels_512 = 32;
     YCBCR_VBMI Operands512 operands(int x, int pixels) const
     {
-        const __m512i words = load_bytes(line + x * 2, pixels * 2 + pixels % 2);  // Cr of an odd last pixel
+        const __m512i words = load_bytes(line + x * 2, bytes_of(pixels));
         return {_mm512_and_si512(words, _mm512_set1_epi16(-256)), centred(_mm512_slli_epi16(words, 8))};
     }
 };
@@ -94,12 +97,9 @@ struct V210 {
         _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + 40), _mm256_extracti128_si256(p.high, 1));
     }
 
-    // Up to the last word that holds a sample of them.
-    static int bytes_of(int pixels)
-    {
-        const int last = pixels - 1, n = last % 6, luma = n * 2 + 1, cr = n / 2 * 4 + 2;
-        return last / 6 * 16 + ((luma > cr ? luma : cr) / 3 + 1) * 4;
-    }
+    // Up to the word of the last sample that is wanted: the Cr of a pair's first pixel, the luma of its second.
+    static constexpr int bytes_of(int pixels) { return (2 * pixels - (pixels % 2 == 0 ? 1 : 0)) / 3 * 4 + 4; }
+
     static constexpr int step_pixels_512 = 24;
     YCBCR_VBMI Operands512 operands(int x, int pixels) const
     {
@@ -107,6 +107,9 @@ struct V210 {
         return {to_words(luma_samples, groups), centred(to_words(chroma_samples, groups))};
     }
 };
+
+static_assert(V210::bytes_of(1) == 4 && V210::bytes_of(2) == 8 && V210::bytes_of(3) == 12 && V210::bytes_of(4) == 12);
+static_assert(V210::bytes_of(5) == 16 && V210::bytes_of(6) == 16 && V210::bytes_of(7) == 20);
 
 // A luma line and the chroma lines that serve it; null where there is no chroma line.
 struct Planar {

@@ -22,9 +22,10 @@ extern "C" {
  * hardware overlays that these pictures are compared with do the same, and it costs nothing.
  *
  * |`height`| lines are converted; a `width` or `height` of 0, or a negative `width`, is no work. Strides are
- * bytes from line to line, used as given, and may be negative. A line writes `width` x 4 bytes and reads
- * the whole groups that its pixels lie in and no more: four bytes for two pixels of `uyvy`, 16 bytes for
- * six pixels of `v210`. `src` and `dst` do not overlap. All return 0 and may run on any number of threads.
+ * bytes from line to line, used as given, and may be negative. A line writes `width` x 4 bytes and reads up to
+ * the last sample that its pixels need: four bytes for two pixels of `uyvy` and three for one; 16 bytes for six
+ * pixels of `v210`, and 4, 8, 12, 12 and 16 for one to five. `src` and `dst` do not overlap. All return 0 and may
+ * run on any number of threads.
  *
  * Each call takes the widest form that the processor has: plain, AVX2, or AVX-512 (F, BW, VL, DQ and VBMI).
  * All write the same bytes.

@@ -72,6 +72,12 @@ Margins margins_of(uint32_t dst_stride, uint32_t src_stride, uint32_t flags)
     }
 }
 
+// memset takes no null pointer, not even for 0 bytes.
+void clear(uint8_t* bytes, uint32_t count)
+{
+    if (count != 0) std::memset(bytes, 0, count);
+}
+
 struct Placed {
     uint32_t dst_stride, src_stride;
     Margins margins;
@@ -80,8 +86,8 @@ struct Placed {
     void clear_margins(uint8_t* line) const
     {
         if (keep_margins) return;
-        std::memset(line, 0, margins.left);
-        std::memset(advance(line, margins.left + src_stride), 0, margins.right);
+        clear(line, margins.left);
+        clear(advance(line, margins.left + src_stride), margins.right);
     }
 };
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "frame/memory.h"
+
 namespace tintvert {
 
 struct BitCursor {
@@ -34,7 +36,7 @@ inline void restart(BitCursor* bits, uint8_t* start, uint8_t* limit)
 inline void step(BitCursor* bits)
 {
     if (bits->bitsLeft == 0) {
-        ++bits->cursor;
+        bits->cursor = advance(bits->cursor, 1);
         bits->bitsLeft = 8;
     }
 }

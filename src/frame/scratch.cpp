@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "frame/imports.h"
+#include "frame/memory.h"
 
 namespace {
 
@@ -16,17 +17,19 @@ unsigned int request_for(int size)
 
 }  // namespace
 
+using namespace tintvert;
+
 void malloc_own_cache_lines(int size, void** raw, void** aligned)
 {
     void* block = ZKAlloc(request_for(size));
-    *raw = block;
+    store(raw, block);
     const uintptr_t past = reinterpret_cast<uintptr_t>(block) & 31;
-    *aligned = past == 0 ? block : static_cast<unsigned char*>(block) + (32 - past);
+    store<void*>(aligned, past == 0 ? block : static_cast<unsigned char*>(block) + (32 - past));
 }
 
 void free_own_cache_lines(void** raw, void** aligned)
 {
-    if (*raw != nullptr) ZKFree(*raw);
-    *raw = nullptr;
-    *aligned = nullptr;
+    if (void* const block = load<void*>(raw); block != nullptr) ZKFree(block);
+    store<void*>(raw, nullptr);
+    store<void*>(aligned, nullptr);
 }

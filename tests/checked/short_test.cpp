@@ -50,6 +50,32 @@ TEST(CheckedBuffers, null_src_of_a_field_change_is_handed_on)
     EXPECT_EQ(checked::tntvt_change_field_rgb(frame, 9, 2, 4, 8, {}, 8).code, checked::Code::null);
 }
 
+// Of no lines as well: null makes the interpolation copy one.
+TEST(CheckedBuffers, null_of_an_interpolation_is_refused)
+{
+    uint8_t frame[32] = {};
+    const checked::Error no_src = checked::tntvt_change_field_rgb(frame, 11, 2, 0, 8, {}, 8);
+    EXPECT_EQ(no_src.code, checked::Code::null);
+    EXPECT_STREQ(no_src.buffer, "src");
+    const checked::Error no_dst = checked::tntvt_change_field_rgb({}, 11, 2, 0, 8, frame, 8);
+    EXPECT_EQ(no_dst.code, checked::Code::null);
+    EXPECT_STREQ(no_dst.buffer, "dst");
+    EXPECT_EQ(checked::tntvt_change_field_rgb({}, 11, 2, 0, 8, {}, 8).value, -2);
+}
+
+// With two frames there is nothing to copy from lines of 0 bytes, in place there is. Null twice is in place.
+TEST(CheckedBuffers, null_twice_is_one_frame)
+{
+    const checked::Error error = checked::tntvt_flip_vert_flags({}, {}, 0, 0, 8, 64, 0, 0, 1);
+    EXPECT_EQ(error.code, checked::Code::null);
+    EXPECT_STREQ(error.buffer, "dst");
+    EXPECT_EQ(error.needs, 512u);
+    EXPECT_EQ(checked::tntvt_flip_vert_flags({}, {}, 0, 0, -1, 64, 0, 0, 1).refusal,
+              checked::Refusal::reads_as_unsigned);
+    EXPECT_TRUE(checked::tntvt_flip_vert_flags({}, {}, 0, 0, 1, 64, 0, 0, 1));
+    EXPECT_EQ(checked::tntvt_flip_vert({}, {}, 0, 0, 64).code, checked::Code::ok);
+}
+
 TEST(CheckedBuffers, one_byte_short_are_refused)
 {
     int cases = 0;

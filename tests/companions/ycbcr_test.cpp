@@ -177,14 +177,14 @@ TEST(Cycbcr, planes_of_420)
     }
 }
 
-// Between fences: `width` x 4 bytes are written and whole groups are read, no byte more.
+// Between fences: `width` x 4 bytes are written, and what is read ends with the last sample.
 TEST(Cycbcr, stays_in_its_lines)
 {
     const struct {
         Routine routine;
         int64_t (*source)(int64_t width);
-    } forms[] = {{cycbcr_uyvy_to_rgb32, [](int64_t w) { return (w + 1) / 2 * 4; }},
-                 {cycbcr_012v_to_rgb32, [](int64_t w) { return (w + 5) / 6 * 16; }},
+    } forms[] = {{cycbcr_uyvy_to_rgb32, [](int64_t w) { return w * 2 + w % 2; }},
+                 {cycbcr_012v_to_rgb32, [](int64_t w) { return (w * 2 - (w % 2 == 0 ? 1 : 0)) / 3 * 4 + 4; }},
                  {cycbcr_i420_to_rgb32, [](int64_t w) { return w; }}};
     for (const auto& [routine, source] : forms) {
         for (int width = 1; width < 130; ++width) {

@@ -322,6 +322,16 @@ TEST_F(Convert, run_length_coded_bmp)
     EXPECT_EQ(run({"convert", "tntvt_rle8_rgba32", path("in.bmp"), path("out.png")}).code, 0);
 }
 
+TEST_F(Convert, run_length_coded_bmp_of_nothing)
+{
+    save("in.bmp", bmp({"\0\1", 2}));
+    for (const char* routine : {"tntvt_rle8_rgb32", "tntvt_rle8_rgb24"}) {
+        const Result result = run({"convert", routine, path("in.bmp"), path("out.raw")});
+        ASSERT_EQ(result.code, 0) << result.err;
+        EXPECT_EQ(load("out.raw"), std::string(routine[14] == '3' ? 24 : 18, '\0'));
+    }
+}
+
 TEST_F(Convert, run_length_streams_that_go_wrong)
 {
     const auto refused = [&](const char* routine, const std::string& stream) {

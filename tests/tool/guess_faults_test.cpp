@@ -60,6 +60,20 @@ TEST_F(Guessing, nothing_fits)
     }
 }
 
+// What has no length leaves nothing to go by.
+TEST_F(Guessing, a_pipe)
+{
+    const Result result = run({"guess", "-"}, [] {
+        int ends[2];
+        if (pipe(ends) != 0) return;
+        close(ends[1]);
+        dup2(ends[0], STDIN_FILENO);
+    });
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.err, "tintvert: guess goes by the length of a file, and standard input does not tell its own\n");
+    EXPECT_EQ(result.out, "");
+}
+
 class Faults : public ToolTest {
 protected:
     // compare, view and bits with the same complaint.

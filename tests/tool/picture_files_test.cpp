@@ -79,6 +79,7 @@ TEST_F(PictureFiles, broken_pictures)
         EXPECT_EQ(code("a.ppm", bytes), 3) << bytes;
     EXPECT_EQ(code("a.ppm", "P6 0 1 255\n"), 4);
     EXPECT_EQ(code("a.ppm", "P6 2000000000 2000000000 255\n"), 4);
+    EXPECT_EQ(code("a.ppm", "P6 16384 16384 65535\n"), 3);
     EXPECT_EQ(code("a.pam", "P7\nWIDTH 1\nHEIGHT 1\nDEPTH 1\nMAXVAL 255\nTUPLTYPE GRAYSCALE\nENDHDR\nx"), 3);
     EXPECT_EQ(code("a.pam", "P7\nWIDTH 1\nHEIGHT 1\nDEPTH 9\nMAXVAL 255\nENDHDR\nx"), 3);
     EXPECT_EQ(code("a.pam", "P7\nWIDTH 1\n"), 3);

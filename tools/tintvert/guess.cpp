@@ -1,12 +1,13 @@
 #include "guess.h"
-#include "clip_options.h"
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <cstdlib>
 
+#include "clip_options.h"
+#include "failure.h"
 #include "layouts.h"
+#include "name_hints.h"
 
 namespace tintvert::tool {
 namespace {
@@ -22,35 +23,6 @@ constexpr Size usual_sizes[] = {{176, 144},   {320, 240},   {352, 288},   {640, 
                                 {2048, 1556}, {2560, 1440}, {3840, 2160}, {4096, 2160}, {7680, 4320}};
 
 constexpr int64_t most_read = int64_t{1} << 26;
-
-// What a name such as clip_1920x1080_25.v210 tells.
-struct NameHints {
-    std::vector<std::string> words;  // in lower case
-    std::vector<Size> sizes;
-};
-
-NameHints hints_of(const std::string& name)
-{
-    NameHints hints;
-    std::string word;
-    for (const char c : name + ".") {
-        if (std::isalnum(static_cast<unsigned char>(c)) != 0) {
-            word += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-            continue;
-        }
-        Size size{};
-        const char* const end = word.data() + word.size();
-        const auto width = std::from_chars(word.data(), end, size.width);
-        if (width.ec == std::errc() && width.ptr != end && *width.ptr == 'x') {
-            const auto height = std::from_chars(width.ptr + 1, end, size.height);
-            const bool sane = size.width > 0 && size.height > 0 && size.width < 65536 && size.height < 65536;
-            if (height.ec == std::errc() && height.ptr == end && sane) hints.sizes.push_back(size);
-        }
-        if (!word.empty()) hints.words.push_back(word);
-        word.clear();
-    }
-    return hints;
-}
 
 // Whether a word is the layout's own name or one of those that it has elsewhere.
 bool is_named(const catalog::Layout& layout, const NameHints& hints)
@@ -168,6 +140,8 @@ double Guess::score() const
 
 std::vector<Guess> guesses(InputFile& file)
 {
+    if (file.size() < 0)
+        throw Failure(Exit::usage, "guess goes by the length of a file, and {} does not tell its own", file.name());
     const NameHints hints = hints_of(std::filesystem::path(file.name()).filename().string());
     std::vector<uint8_t> head(static_cast<size_t>(std::min(file.size(), most_read)));
     file.read(head.data(), head.size());

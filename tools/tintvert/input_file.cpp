@@ -61,7 +61,7 @@ void InputFile::read(uint8_t* to, size_t count)
 bool InputFile::skip(int64_t count)
 {
     if (size_ >= 0) {
-        if (count > size_ - at_) return false;
+        if (lacks(count)) return false;
         at_ += count;
         peeked_.clear();
         return std::fseek(file_.get(), at_, SEEK_SET) == 0;
@@ -77,11 +77,11 @@ bool InputFile::skip(int64_t count)
 
 std::vector<uint8_t> InputFile::read_rest()
 {
-    constexpr size_t step = 1 << 20;
     std::vector<uint8_t> bytes;
-    size_t got = 0;
+    size_t got = 0, step = 0;
     do {
         const size_t had = bytes.size();
+        step = std::max<size_t>(had, 1 << 16);
         bytes.resize(had + step);
         got = read_some(bytes.data() + had, step);
         bytes.resize(had + got);

@@ -25,6 +25,7 @@ public:
     size_t read_some(uint8_t* to, size_t count);
     void read(uint8_t* to, size_t count);  // throws Failure if the file ends before
     bool skip(int64_t count);              // whether there was as much
+    bool lacks(int64_t count) const { return size_ >= 0 && count > size_ - at_; }  // as far as it can tell
     std::vector<uint8_t> read_rest();
 
 private:

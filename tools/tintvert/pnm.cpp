@@ -91,6 +91,8 @@ std::unique_ptr<Picture> read_samples(InputFile& file, const Header& header)
     const bool deep = header.highest > 255;
     const size_t sample = deep ? 2 : 1, depth = static_cast<size_t>(header.depth);
     const unsigned highest = static_cast<unsigned>(header.highest), full = deep ? 65535 : 255;
+    if (file.lacks(header.width * header.height * header.depth * (deep ? 2 : 1)))
+        throw broken(file, "the file ends too early");
     auto picture = std::make_unique<Picture>(header.width, header.height, deep ? Picture::bits16 : Picture::bits8);
     std::vector<uint8_t> line(static_cast<size_t>(header.width) * depth * sample);
     for (long y = 0; y < picture->height; ++y) {

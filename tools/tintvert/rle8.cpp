@@ -12,12 +12,17 @@ using catalog::Arg;
 
 namespace {
 
+int64_t frame_bytes(bool is_24, const catalog::Arguments& call, const BmpRle8& picture)
+{
+    return (is_24 ? picture.width * 3 : call[Arg::dstStride]) * picture.height;
+}
+
 void need_sound_stream(bool is_24, const catalog::Arguments& call, const BmpRle8& picture)
 {
     const auto scan = is_24 ? catalog::scan_rle8_rgb24(picture.stream, call[Arg::height])
                             : catalog::scan_rle8_rgb32(picture.stream, call[Arg::dstStride], call[Arg::height]);
     if (!scan.ends) throw Failure(Exit::unsafe, "refused: the coded stream runs out at byte {}", scan.wanted);
-    const int64_t room = (is_24 ? picture.width * 3 : call[Arg::dstStride]) * picture.height;
+    const int64_t room = frame_bytes(is_24, call, picture);
     if (!scan.written.empty() && (scan.written.begin < 0 || scan.written.end > room))
         throw Failure(Exit::unsafe, "refused: the coded stream writes bytes {} to {} of a picture of {}",
                       scan.written.begin, scan.written.end, room);
@@ -37,8 +42,10 @@ std::vector<uint8_t> decode_rle8(const catalog::Routine& routine, catalog::Argum
     for (size_t i = 0; i < 256; ++i) std::copy_n(&picture.palette[i * 4], entry, &palette[i * entry]);
     std::ranges::copy(picture.stream, conversion.bytes(Arg::src, call[Arg::streamSize]).begin());
     conversion.run();
-    const auto frame = conversion.outputs().at(0);
-    return {frame.begin(), frame.end()};
+    const auto frames = conversion.outputs();
+    if (frames.empty())  // the stream ends before it draws anything
+        return std::vector<uint8_t>(static_cast<size_t>(frame_bytes(is_24, call, picture)));
+    return {frames[0].begin(), frames[0].end()};
 }
 
 }  // namespace tintvert::tool

@@ -146,7 +146,7 @@ TEST_F(Explain, calls_compile_and_run)
     const std::string warnings = " -Wall -Wextra -Wpedantic -Werror -I" TINTVERT_PROJECT "/include ";
     const auto shell = [](const std::string& command) { return std::system(command.c_str()); };
     EXPECT_EQ(shell(TINTVERT_CXX_COMPILER " -std=c++20 -x c++ -fsyntax-only" + warnings + path("calls.c")), 0);
-    ASSERT_EQ(shell(TINTVERT_C_COMPILER " -std=c11 " TINTVERT_LINK_FLAGS + warnings + path("calls.c") + " -o " +
+    ASSERT_EQ(shell(TINTVERT_C_COMPILER " -std=c11 " TINTVERT_SANITIZE_FLAG + warnings + path("calls.c") + " -o " +
                     path("calls") + " -L" TINTVERT_LIBRARIES " -Wl,-rpath," TINTVERT_LIBRARIES " -ltintvert"),
               0);
     EXPECT_EQ(shell(path("calls")), 0);

@@ -36,12 +36,6 @@ V210_LINES = {
     "unrounded": ("tntvt_v210_2vuy", "tntvt_yuv422_10_yuv422_8"),
 }
 
-UNMEASURED = """# Performance
-
-Nothing has been measured for this build of the site. `scripts/bench --docs` measures every routine beside memcpy
-of the same bytes and beside its peers, and writes this page with its plot.
-"""
-
 BY_THE_TOOL = """, as `tintvert layouts` prints it. This page is made by
 `tintvert layouts --markdown`."""
 BY_THE_SITE = """, drawn from the catalogue. A bit tells what it is when the
@@ -84,8 +78,6 @@ class Site:
                 self.write(page.name, self.links().page(page.read_text()))
             elif page.is_file():
                 shutil.copy(page, self.output)
-        if not (self.output / "performance.md").exists():
-            self.write("performance.md", UNMEASURED)
         self.write("contributing.md", from_root((self.repository / "CONTRIBUTING.md").read_text()))
         self.write("changes.md", from_root((self.repository / "CHANGELOG.md").read_text()))
 

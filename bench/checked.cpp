@@ -161,7 +161,7 @@ int main(int argc, char** argv)
         if (routine.chapter == "frame") continue;  // blocks would pile up
         const std::string name{routine.name};
         const auto add = [&](const char* face, Call call) {
-            benchmark::RegisterBenchmark((name + face).c_str(), run, routine, call);
+            benchmark::RegisterBenchmark((name + face).c_str(), run, routine, call)->Repetitions(5)->MinTime(0.005);
         };
         add("@bare", call_bare);
         add("@checked", in_cxx[static_cast<size_t>(id_of(routine))]);

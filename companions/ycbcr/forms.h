@@ -1,6 +1,6 @@
 // The three source forms: where the samples of a line stand. `pixel` is the definition; `step` converts
-// `step_pixels` of them at once to the same bytes, and `operands` loads up to `step_pixels_512`, as far as
-// `sampled` says that every pixel has chroma of its own.
+// `step_pixels` of them at once to the same bytes, and `operands` loads up to 32, a part of `step_pixels_512`, as far
+// as `sampled` says that every pixel has chroma of its own.
 #pragma once
 
 #include <cstdint>
@@ -42,8 +42,9 @@ struct Uyvy {
     static constexpr int bytes_of(int pixels) { return pixels * 2 + pixels % 2; }
 
     static constexpr int step_pixels_512 = 32;
-    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
     {
+        const int x = step + part;
         const __m512i words = load_bytes(line + x * 2, bytes_of(pixels));
         return {_mm512_and_si512(words, _mm512_set1_epi16(-256)), centred(_mm512_slli_epi16(words, 8))};
     }
@@ -100,16 +101,18 @@ struct V210 {
     // Up to the word of the last sample that is wanted: the Cr of a pair's first pixel, the luma of its second.
     static constexpr int bytes_of(int pixels) { return (2 * pixels - (pixels % 2 == 0 ? 1 : 0)) / 3 * 4 + 4; }
 
-    static constexpr int step_pixels_512 = 24;
-    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    static constexpr int step_pixels_512 = 96;
+    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
     {
-        const __m512i groups = load_bytes(line + x / 6 * 16, bytes_of(pixels));
-        return {to_words(luma_samples, groups), centred(to_words(chroma_samples, groups))};
+        const int first = part % 6;
+        const TwoRegisters groups = load_two(line + step / 6 * 16 + part / 6 * 16, bytes_of(first + pixels));
+        return {to_words(luma_samples[first / 2], groups), centred(to_words(chroma_samples[first / 2], groups))};
     }
 };
 
 static_assert(V210::bytes_of(1) == 4 && V210::bytes_of(2) == 8 && V210::bytes_of(3) == 12 && V210::bytes_of(4) == 12);
-static_assert(V210::bytes_of(5) == 16 && V210::bytes_of(6) == 16 && V210::bytes_of(7) == 20);
+static_assert(V210::bytes_of(5) == 16 && V210::bytes_of(6) == 16 && V210::bytes_of(7) == 20 &&
+              V210::bytes_of(4 + 32) == 96);
 
 // A luma line and the chroma lines that serve it; null where there is no chroma line.
 struct Planar {
@@ -135,8 +138,9 @@ struct Planar {
     }
 
     static constexpr int step_pixels_512 = 32;
-    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
     {
+        const int x = step + part;
         const auto pairs = static_cast<__mmask16>(~0U >> (32 - pixels / 2));
         const __m128i first = _mm_maskz_loadu_epi8(pairs, cb + x / 2), second = _mm_maskz_loadu_epi8(pairs, cr + x / 2);
         const __m512i chroma = _mm512_castsi256_si512(_mm256_set_m128i(second, first));

@@ -44,7 +44,7 @@ YCBCR_AVX2 void line_avx2(uint8_t* dst, const Form& src, int width, const Weight
     line_plain(dst, src, x, width, w);
 }
 
-// Whole steps, and what has chroma of its own of the rest as a step behind masks.
+// Whole steps, and what has chroma of its own of the rest behind masks, 32 pixels a part.
 template <class Form>
 YCBCR_VBMI void line_vbmi(uint8_t* dst, const Form& src, int width, const Weights& w)
 {
@@ -53,12 +53,13 @@ YCBCR_VBMI void line_vbmi(uint8_t* dst, const Form& src, int width, const Weight
     const int sampled = src.sampled(width);
     int x = 0;
     for (; sampled - x >= step; x += step)
-        store_step<step>(dst + static_cast<long>(x) * 4, convert(wide, src.operands(x, step)));
-    if (const int rest = sampled - x; rest > 0) {
-        store_pixels(dst + static_cast<long>(x) * 4, convert(wide, src.operands(x, rest)), rest);
-        x = sampled;
+        for (int part = 0; part < step; part += 32)
+            store_32(dst + (static_cast<long>(x) + part) * 4, convert(wide, src.operands(x, part, 32)));
+    for (int part = 0; x + part < sampled; part += 32) {
+        const int rest = sampled - x - part, pixels = rest < 32 ? rest : 32;
+        store_pixels(dst + (static_cast<long>(x) + part) * 4, convert(wide, src.operands(x, part, pixels)), pixels);
     }
-    line_plain(dst, src, x, width, w);
+    line_plain(dst, src, sampled, width, w);
 }
 
 template <class Form>

@@ -24,6 +24,17 @@ YCBCR_VBMI __m512i load_bytes(const uint8_t* address, int count)
     return _mm512_maskz_loadu_epi8(~uint64_t{0} >> (64 - count), address);
 }
 
+// The first `count` bytes, 1 to 128 of them, and zeros.
+struct TwoRegisters {
+    __m512i low, high;
+};
+
+YCBCR_VBMI TwoRegisters load_two(const uint8_t* address, int count)
+{
+    if (count <= 64) return {load_bytes(address, count), _mm512_setzero_si512()};
+    return {load_bytes(address, 64), load_bytes(address + 64, count - 64)};
+}
+
 struct Weights512 {
     __m512i luma, blue_red, green;
 };
@@ -78,16 +89,10 @@ YCBCR_VBMI Pixels512 convert(const Weights512& w, const Operands512& of)
             _mm512_permutex2var_epi8(bg, load(second_sixteen), ra)};
 }
 
-// 32 pixels, or the first 24 of them.
-template <int pixels>
-YCBCR_VBMI void store_step(uint8_t* dst, const Pixels512& of)
+YCBCR_VBMI void store_32(uint8_t* dst, const Pixels512& of)
 {
     _mm512_storeu_si512(dst, of.first);
-    if constexpr (pixels == 32)
-        _mm512_storeu_si512(dst + 64, of.second);
-    else
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + 64), _mm512_maskz_extracti64x4_epi64(0xF, of.second, 0));
-    static_assert(pixels == 32 || pixels == 24);
+    _mm512_storeu_si512(dst + 64, of.second);
 }
 
 // The first `count` pixels, 1 to 32 of them.
@@ -115,8 +120,7 @@ YCBCR_VBMI __m512i to_upper_halves(const Places& places, __m512i bytes)
     return _mm512_maskz_permutexvar_epi8(0xAAAAAAAAAAAAAAAA, load(places), bytes);
 }
 
-// Every second of the samples of four `v210` groups. Each gets a word of its own, where a shift brings it to
-// the top.
+// Every second of 64 samples of `v210`. Each gets a word of its own, where a shift brings it to the top.
 struct Samples {
     Places bytes;
     alignas(64) uint16_t shifts[32];
@@ -125,19 +129,22 @@ struct Samples {
 constexpr Samples every_second_from(int first)
 {
     Samples samples{};
-    for (int n = 0; n < 24; ++n) {
-        const int sample = first + n % 6 * 2, byte = n / 6 * 16 + sample / 3 * 4 + sample % 3;
+    for (int n = 0; n < 32; ++n) {
+        const int sample = first + n * 2, byte = sample / 3 * 4 + sample % 3;
         samples.bytes.of[n * 2] = static_cast<uint8_t>(byte);
         samples.bytes.of[n * 2 + 1] = static_cast<uint8_t>(byte + 1);
         samples.shifts[n] = static_cast<uint16_t>(6 - sample % 3 * 2);
     }
     return samples;
 }
-inline constexpr Samples chroma_samples = every_second_from(0), luma_samples = every_second_from(1);
 
-YCBCR_VBMI __m512i to_words(const Samples& samples, __m512i groups)
+// Of pixels that begin with pair 0, 1 or 2 of a group.
+inline constexpr Samples chroma_samples[] = {every_second_from(0), every_second_from(4), every_second_from(8)};
+inline constexpr Samples luma_samples[] = {every_second_from(1), every_second_from(5), every_second_from(9)};
+
+YCBCR_VBMI __m512i to_words(const Samples& samples, const TwoRegisters& groups)
 {
-    const __m512i words = _mm512_maskz_permutexvar_epi8(~__mmask64{0}, load(samples.bytes), groups);
+    const __m512i words = _mm512_permutex2var_epi8(groups.low, load(samples.bytes), groups.high);
     return _mm512_and_si512(_mm512_sllv_epi16(words, _mm512_load_si512(samples.shifts)), _mm512_set1_epi16(-64));
 }
 

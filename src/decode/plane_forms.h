@@ -8,11 +8,24 @@
 namespace tintvert {
 
 template <int shift>
+TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, WordPair chroma)
+{
+    const __m512i first = _mm512_srai_epi16(_mm512_adds_epi16(luma.first, chroma.first), shift);
+    const __m512i second = _mm512_srai_epi16(_mm512_adds_epi16(luma.second, chroma.second), shift);
+    return _mm512_packus_epi16(first, second);
+}
+
+// Of even and of odd pixels, which share their chroma.
+template <int shift>
 TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, __m512i chroma)
 {
-    const __m512i even = _mm512_srai_epi16(_mm512_adds_epi16(luma.first, chroma), shift);
-    const __m512i odd = _mm512_srai_epi16(_mm512_adds_epi16(luma.second, chroma), shift);
-    return _mm512_packus_epi16(even, odd);
+    return clipped_bytes<shift>(luma, WordPair{chroma, chroma});
+}
+
+// The bits of `one` where the mask has ones, those of `other` where it has zeros.
+TNTVT_VBMI inline __m512i either(__m512i mask, __m512i one, __m512i other)
+{
+    return _mm512_ternarylogic_epi64(mask, one, other, 0xCA);
 }
 
 // Sixteen pixels of four bytes a register.
@@ -47,87 +60,98 @@ TNTVT_VBMI inline void put_block(Rgb32, uint8_t* dst, WordPair luma, __m512i blu
     for (int i = 0; i < registers; ++i) store_64(dst + 64 * i, pixels.at[i]);
 }
 
-// Byte n of the 64-byte piece `piece`, counted from the piece's own register.
-constexpr std::array<uint8_t, 64> places_of_rgb24(int piece)
+// Where the bytes of the 64-byte piece `piece` of a block stand: blue and green in two registers, red in a third.
+struct Rgb24Piece {
+    alignas(64) std::array<uint8_t, 64> blue_green, red;
+    uint64_t red_bytes;
+};
+
+constexpr Rgb24Piece piece_of_rgb24(size_t piece)
 {
-    std::array<uint8_t, 64> result{};
-    for (int n = 0; n < 64; ++n) {
-        const int byte = 64 * piece + n;
-        result[static_cast<size_t>(n)] = static_cast<uint8_t>((byte / 3 - 16 * piece) * 4 + byte % 3);
+    Rgb24Piece result{};
+    for (size_t n = 0; n < 64; ++n) {
+        const size_t byte = 64 * piece + n, pixel = byte / 3, channel = byte % 3;
+        const auto at = static_cast<uint8_t>(place_of(pixel));
+        result.blue_green[n] = static_cast<uint8_t>(at + 64 * (channel % 2));
+        result.red[n] = at;
+        if (channel == 2) result.red_bytes |= uint64_t{1} << n;
     }
     return result;
 }
-alignas(64) inline constexpr std::array<uint8_t, 64> rgb24_places[] = {places_of_rgb24(0), places_of_rgb24(1),
-                                                                       places_of_rgb24(2)};
+inline constexpr Rgb24Piece rgb24_pieces[] = {piece_of_rgb24(0), piece_of_rgb24(1), piece_of_rgb24(2)};
 
-TNTVT_VBMI inline __m512i piece_of_rgb24(const Registers& pixels, int piece)
+TNTVT_VBMI inline __m512i woven(const Rgb24Piece& piece, __m512i blue, __m512i green, __m512i red)
 {
-    return _mm512_permutex2var_epi8(pixels.at[piece], _mm512_loadu_si512(rgb24_places + piece), pixels.at[piece + 1]);
+    const __m512i blue_green = _mm512_permutex2var_epi8(blue, entries(piece.blue_green.data()), green);
+    return _mm512_mask_permutexvar_epi8(blue_green, piece.red_bytes, entries(piece.red.data()), red);
 }
 
 template <int registers>
 TNTVT_VBMI inline void put_block(Rgb24, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
 {
-    const Registers pixels = pixels_of(luma, blue, green, red);
-    store_64(dst, piece_of_rgb24(pixels, 0));
-    store_64(dst + 64, piece_of_rgb24(pixels, 1));
+    const __m512i b = clipped_bytes<4>(luma, blue), g = clipped_bytes<4>(luma, green), r = clipped_bytes<4>(luma, red);
+    store_64(dst, woven(rgb24_pieces[0], b, g, r));
+    store_64(dst + 64, woven(rgb24_pieces[1], b, g, r));
+    const __m512i last = woven(rgb24_pieces[2], b, g, r);
     if constexpr (registers == 4)
-        store_64(dst + 128, piece_of_rgb24(pixels, 2));
+        store_64(dst + 128, last);
     else
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(dst + 128), _mm512_castsi512_si128(piece_of_rgb24(pixels, 2)));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(dst + 128), _mm512_castsi512_si128(last));
 }
 
-// Places of the words of sixteen pairs, each twice.
-constexpr std::array<uint16_t, 32> places_of_rgb16(size_t piece)
+template <int registers, class Form>
+TNTVT_VBMI inline void put_blocks(Form form, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
 {
-    std::array<uint16_t, 32> result{};
-    for (size_t quarter = 0; quarter < 4; ++quarter)
-        for (size_t place = 4 * piece; place < 4 * piece + 4; ++place)
-            for (size_t twice = 0; twice < 2; ++twice)
-                result[(pair_at(quarter, place) - 16 * piece) * 2 + twice] = static_cast<uint16_t>(quarter * 8 + place);
+    put_block<registers>(form, dst, look_up(plane_terms.luma, one.luma), chroma.blue.first, chroma.green.first,
+                         chroma.red.first);
+    put_block<registers>(form, dst + 16 * registers * Form::pixel_bytes, look_up(plane_terms.luma, other.luma),
+                         chroma.blue.second, chroma.green.second, chroma.red.second);
+}
+
+// Where the bytes of sixteen pairs of one word, written twice, stand: low bytes in one register, high bytes in another,
+// each as the pairs of the one block and of the other by turns of eight.
+constexpr std::array<uint8_t, 64> places_of_rgb16(size_t registers, size_t piece)
+{
+    std::array<uint8_t, 64> result{};
+    for (size_t n = 0; n < 64; ++n) {
+        const size_t pair = 16 * piece + n / 4, block = pair / (8 * registers), first = pair % (8 * registers) * 2;
+        result[n] = static_cast<uint8_t>(place_of(first) + 8 * block + 64 * (n % 2));
+    }
     return result;
 }
-alignas(64) inline constexpr std::array<uint16_t, 32> rgb16_places[] = {places_of_rgb16(0), places_of_rgb16(1)};
+template <size_t registers>
+alignas(64) inline constexpr std::array<uint8_t, 64> rgb16_places[] = {
+    places_of_rgb16(registers, 0), places_of_rgb16(registers, 1), places_of_rgb16(registers, 2),
+    places_of_rgb16(registers, 3)};
 
-// Five bits of a sum: its clipped byte without three bits.
-TNTVT_VBMI inline __m512i clipped_five(__m512i luma, __m512i term)
-{
-    const __m512i sum = _mm512_srai_epi16(_mm512_add_epi16(luma, term), 7);
-    return _mm512_min_epi16(_mm512_max_epi16(sum, _mm512_setzero_si512()), _mm512_set1_epi16(31));
-}
-
+// The pixels of the first lumas: of blue bits 3 to 7, of green and of red the same above them.
 template <int registers>
-TNTVT_VBMI inline void put_block(Rgb16, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
+TNTVT_VBMI inline void put_blocks(Rgb16, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
 {
-    const __m512i low =
-        _mm512_or_si512(clipped_five(luma.first, blue), _mm512_slli_epi16(clipped_five(luma.first, green), 5));
-    const __m512i pairs = _mm512_or_si512(low, _mm512_slli_epi16(clipped_five(luma.first, red), 10));
-    store_64(dst, _mm512_permutexvar_epi16(_mm512_loadu_si512(rgb16_places), pairs));
-    const __m512i rest = _mm512_permutexvar_epi16(_mm512_loadu_si512(rgb16_places + 1), pairs);
-    if constexpr (registers == 4)
-        store_64(dst + 64, rest);
-    else
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + 64), _mm512_castsi512_si256(rest));
+    const WordPair luma = look_up(plane_terms.luma, _mm512_unpacklo_epi64(one.luma, other.luma));
+    const __m512i blue = clipped_bytes<4>(luma, chroma.blue), green = clipped_bytes<4>(luma, chroma.green);
+    const __m512i red = clipped_bytes<4>(luma, chroma.red);
+    const __m512i low = either(_mm512_set1_epi8(0x1F), _mm512_srli_epi16(blue, 3), _mm512_slli_epi16(green, 2));
+    const __m512i high = either(_mm512_set1_epi8(0x03), _mm512_srli_epi16(green, 6), _mm512_srli_epi16(red, 1));
+    const __m512i seven = _mm512_and_si512(high, _mm512_set1_epi8(0x7F));
+    for (int i = 0; i < registers; ++i)
+        store_64(dst + 64 * i, _mm512_permutex2var_epi8(low, entries(rgb16_places<registers>[i].data()), seven));
 }
 
-// Two blocks of `Source`: their lumas, their chroma, their pixels. Returns the pairs done, two blocks a step.
+// Two blocks of `Source` a step: their lumas, their chroma, their pixels. `pairs` are whole units of `Source`. Returns
+// the pairs done, all of them or, where they fill no step, none: the last step ends with them and makes some anew.
 template <class Form, class Source>
 TNTVT_VBMI long pairs_vbmi(uint8_t* dst, const uint8_t* src, long pairs)
 {
-    constexpr long block_pairs = 8 * Source::registers;
-    constexpr long dst_bytes = 2 * block_pairs * Form::pixel_bytes;
-    long done = 0;
-    for (; pairs - done >= 2 * block_pairs; done += 2 * block_pairs) {
-        const Block one = Source::block(src), other = Source::block(src + Source::block_bytes);
-        const Chroma chroma = chroma_of(one, other);
-        put_block<Source::registers>(Form{}, dst, luma_words(one.luma), chroma.blue.first, chroma.green.first,
-                                     chroma.red.first);
-        put_block<Source::registers>(Form{}, dst + dst_bytes, luma_words(other.luma), chroma.blue.second,
-                                     chroma.green.second, chroma.red.second);
-        src += 2 * Source::block_bytes;
-        dst += 2 * dst_bytes;
+    constexpr long block_pairs = 8 * Source::registers, step = 2 * block_pairs;
+    if (pairs < step) return 0;
+    for (long done = 0; done < pairs; done += step) {
+        const long at = done < pairs - step ? done : pairs - step;
+        const uint8_t* const from = src + at * Source::block_bytes / block_pairs;
+        const Block one = Source::block(from), other = Source::block(from + Source::block_bytes);
+        put_blocks<Source::registers>(Form{}, dst + 2 * at * Form::pixel_bytes, one, other, chroma_of(one, other));
     }
-    return done;
+    return pairs;
 }
 
 // Where the codes of a block stand in two registers of samples: `sample_place` says it of sample n.

@@ -6,6 +6,7 @@
 #include "frame/byte_lookup.h"
 #include "frame/memory.h"
 #include "hdr/st2084_tables.h"
+#include "hdr/v210_lookup_wide.h"
 
 using namespace tintvert;
 
@@ -68,10 +69,14 @@ uint32_t odd_word(const uint32_t* table, uint32_t w)
 // DELIBERATE (keeps_words_one_byte_on): every word is read and written one byte past its place.
 int map_v210(const Frame& frame, const uint32_t* table)
 {
-    return for_each_line(frame, 1, [table](uint8_t* dst, const uint8_t* src, uint32_t count) {
+    EntryPlanes planes;
+    const bool wide = tier() == Tier::vbmi && take_entries_vbmi(planes, table);
+    return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
         ++dst;
         ++src;
-        for (uint64_t o = 0; o < count; o += 16) {
+        const long bytes = (long{count} + 15) / 16 * 16;
+        long o = wide && same_or_disjoint(dst, src, bytes) ? map_v210_vbmi(dst, src, bytes, planes) : 0;
+        for (; o < bytes; o += 16) {
             store(dst + o, even_word(table, load<uint32_t>(src + o)));
             store(dst + o + 4, odd_word(table, load<uint32_t>(src + o + 4)));
             store(dst + o + 8, even_word(table, load<uint32_t>(src + o + 8)));

@@ -153,9 +153,9 @@ struct WrongStep : Form {
         Form::step(dst, x, w);
         dst[4 * (Form::step_pixels - 1)] ^= 1;
     }
-    YCBCR_VBMI Operands512 operands(int x, int pixels) const
+    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
     {
-        const Operands512 right = Form::operands(x, pixels);
+        const Operands512 right = Form::operands(step, part, pixels);
         alignas(64) uint16_t luma[32];
         _mm512_store_si512(luma, right.luma);
         luma[pixels - 1] ^= 0x4000;

@@ -14,6 +14,7 @@
 #include "commands.h"
 #include "interrupt.h"
 #include "nearest.h"
+#include "version.h"
 
 namespace tintvert::tool {
 namespace {
@@ -53,15 +54,6 @@ std::string complaint(const CLI::ParseError& error, int argc, char** argv, const
     }
     const std::vector<std::string_view> candidates(names.begin(), names.end());
     return fmt::format("there is no command '{}'{}", argv[1], suggestion(argv[1], candidates));
-}
-
-std::string version_text()
-{
-#ifdef TINTVERT_LIBAVFORMAT
-    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: read, by libavformat";
-#else
-    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: not read, built without libavformat";
-#endif
 }
 
 Exit run(int argc, char** argv)

@@ -55,7 +55,7 @@ Command add_verify(CLI::App& tool)
     CLI::App* const app = tool.add_subcommand(
         "verify", "Our routines against FFmpeg, GStreamer, OpenImageIO, libyuv and zimg; exit code 1 if one differs.");
     const auto options = std::make_shared<Options>();
-    app->add_option("routine", options->routine, "one of them; without it, all that have a peer");
+    app->add_option("routine", options->routine, "one of the routines; without it, all that have a peer");
     app->add_flag("--json", options->json, "JSON instead of text");
     return {app, [options] { return run(*options); }};
 }

@@ -53,12 +53,11 @@ Command add_view(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand("view", "A frame as a picture, in the terminal or as PNG.");
     const auto options = std::make_shared<Options>();
-    app->add_option("file", options->file, "the file; of several frames the first, or the first of --frames")
+    app->add_option("file", options->file, "a file of frames; the first is taken, or the first of --frames")
         ->required();
     add_sample_options(*app, options->samples);
     app->add_option("--width", options->width, "columns of the picture in the terminal")->check(CLI::Range(1, 10000));
-    app->add_option("--as", options->drawing,
-                    "letters, blocks, symbols, sixels or kitty; else what the terminal can, and blocks in a pipe")
+    app->add_option("--as", options->drawing, "how it is drawn; else what the terminal can, and blocks in a pipe")
         ->check(CLI::IsMember(drawings));
     app->add_option("-o,--output", options->output, "a PNG to write instead");
     add_color_option(app, &options->color);

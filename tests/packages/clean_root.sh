@@ -33,8 +33,9 @@ apt update
 # The tool brings its libraries along.
 mapfile -t tool < <(debs tintvert libtintvert1 libtintvert-companions)
 apt install "${tool[@]}"
-[ "$(in_root tintvert --version)" = $'tintvert 1.0.0\nMOV and AVI: read, by libavformat' ] ||
-  fail "the tool does not tell its version, or reads no MOV: $(in_root tintvert --version)"
+version=$(in_root tintvert --version)
+[ "${version%%$'\n'*}" = 'tintvert 1.0.0' ] || fail "the tool does not tell its version: $version"
+! grep without <<<"$version" || fail 'the tool is built without a library that it could have'
 [ "$(in_root tintvert list --json | grep -c '"name"')" -eq 162 ] || fail 'the tool does not list 162 routines'
 for page in man/man1/tintvert.1.gz man/man1/tintvert-convert.1.gz bash-completion/completions/tintvert \
   zsh/vendor-completions/_tintvert fish/vendor_completions.d/tintvert.fish; do

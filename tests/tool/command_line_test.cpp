@@ -20,6 +20,33 @@ TEST(CommandLine, helps_on_stdout)
     EXPECT_EQ(result.err, "");
 }
 
+// Every option of every command: a word for its value, and no type of the parser's.
+TEST(CommandLine, helps_in_words)
+{
+    const std::string all = run({"--help"}).out;
+    EXPECT_NE(all.find("Usage: tintvert [OPTIONS] COMMAND\n"), std::string::npos);
+    EXPECT_NE(all.find("\n\nCommands:\n  bits "), std::string::npos);
+    EXPECT_TRUE(all.ends_with("\n\n`tintvert COMMAND --help` tells the options of a command.\n")) << all;
+    const std::string view = run({"view", "--help"}).out;
+    EXPECT_NE(view.find("  -s,--size WxH               width and height of raw frames"), std::string::npos) << view;
+    EXPECT_NE(view.find("  --color auto|always|never (else auto)\n"), std::string::npos) << view;
+    EXPECT_NE(run({"bits", "--help"}).out.find("  --at X,Y (required)         the pixel"), std::string::npos);
+    EXPECT_NE(run({"capture", "--help"}).out.find("  --interlaced[=field|frame]  weave"), std::string::npos);
+    for (const char* command : {"bits", "capture", "compare", "completions", "convert", "demo", "explain", "guess",
+                                "layouts", "list", "man", "names", "show", "st2084", "verify", "view"}) {
+        const Result help = run({command, "--help"});
+        EXPECT_EQ(help.code, 0) << command;
+        for (const char* word : {"TEXT", "INT", "REQUIRED", " in [", "{", "\n\n\n"})
+            EXPECT_EQ(help.out.find(word), std::string::npos) << command << ": " << word << '\n' << help.out;
+    }
+}
+
+TEST(CommandLine, says_where_the_help_is)
+{
+    EXPECT_TRUE(run({"view"}).err.ends_with(" (tintvert view --help tells more)\n")) << run({"view"}).err;
+    EXPECT_TRUE(run({"veiw"}).err.ends_with(" (tintvert --help tells more)\n"));
+}
+
 TEST(CommandLine, refuses_what_makes_no_sense)
 {
     const std::vector<std::vector<std::string>> wrong = {

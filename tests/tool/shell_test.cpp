@@ -44,6 +44,8 @@ TEST_F(Shell, bash_completes)
     EXPECT_EQ(completed("tintvert show tntvt_yuv422_rgb"), "tntvt_yuv422_rgb24 tntvt_yuv422_rgb16\n");
     EXPECT_EQ(completed("tintvert view file --layout v2"), "v210\n");
     EXPECT_EQ(completed("tintvert view file --color a"), "auto always\n");
+    EXPECT_EQ(completed("tintvert view file --as s"), "symbols sixels\n");
+    EXPECT_EQ(completed("tintvert convert --format p"), "png ppm pam\n");
     EXPECT_EQ(completed("tintvert list yc"), "ycbcr8 ycbcr10\n");
     EXPECT_EQ(completed("tintvert compare --pic"), "--picture\n");
     save("frame.v210", "");
@@ -80,7 +82,7 @@ TEST_F(Shell, manual_pages_are_sound)
         EXPECT_EQ(shell("tintvert man " + std::string(command) + check), 0) << command << load("said");
         EXPECT_NE(run({"man"}).out.find(".B " + std::string(command) + "\n"), std::string::npos) << command;
     }
-    EXPECT_NE(run({"man", "compare"}).out.find(".B \\-\\-picture VALUE\n"), std::string::npos);
+    EXPECT_NE(run({"man", "compare"}).out.find(".B \\-\\-picture FILE\n"), std::string::npos);
     EXPECT_EQ(run({"man", "comare"}).err, "tintvert: there is no command 'comare'; did you mean 'compare'?\n");
 }
 

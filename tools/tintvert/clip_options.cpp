@@ -40,10 +40,10 @@ void add_stride_option(CLI::App& app, std::string& stride)
 
 void add_clip_options(CLI::App& app, ClipOptions& options)
 {
-    app.add_option("-s,--size", options.size, "WIDTHxHEIGHT of raw frames");
+    app.add_option("-s,--size", options.size, "width and height of raw frames, such as 1920x1080");
     add_stride_option(app, options.stride);
     app.add_option("--offset", options.offset, "bytes to skip at the head of raw files")->check(CLI::NonNegativeNumber);
-    app.add_option("--frames", options.frames, "A:B, from frame A up to frame B, or A alone");
+    app.add_option("--frames", options.frames, "from frame A up to frame B, which is not taken; or A alone");
 }
 
 Size size_of(const std::string& text)

@@ -21,7 +21,7 @@ constexpr Shade shades[] = {{"Y", 33}, {"Cb", 94}, {"Cr", 91}, {"R", 31}, {"G", 
 
 void add_color_option(CLI::App* app, std::string* choice)
 {
-    app->add_option("--color", *choice, "auto, always or never")
+    app->add_option("--color", *choice, "colour; auto is for a terminal, unless NO_COLOR is set")
         ->default_str("auto")
         ->check(CLI::IsMember({"auto", "always", "never"}));
 }

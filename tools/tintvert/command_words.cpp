@@ -1,17 +1,32 @@
 #include "command_words.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "catalog.h"
 #include "layouts.h"
+#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {
 
-// What stands behind a name of the catalogue, on the command line.
+// What an option with few answers may be.
+std::vector<std::string> choices_of(const std::string& name)
+{
+    if (name == "as") return {"letters", "blocks", "symbols", "sixels", "kitty"};
+    if (name == "color") return {"auto", "always", "never"};
+    if (name == "format") return {"raw", "y4m", "png", "ppm", "pam", "bmp"};
+    if (name == "shell") return {"bash", "zsh", "fish"};
+    return {};
+}
+
+// And what stands behind a name of the catalogue.
 std::vector<std::string> values_of(const std::string& name)
 {
-    std::vector<std::string> values;
+    std::vector<std::string> values = choices_of(name);
     if (name == "routine")
         for (const catalog::Routine& routine : catalog::routines()) values.emplace_back(routine.name);
     if (name == "layout")
@@ -19,13 +34,27 @@ std::vector<std::string> values_of(const std::string& name)
     if (name == "chapter")
         for (const catalog::Routine& routine : catalog::routines())
             if (values.empty() || values.back() != routine.chapter) values.emplace_back(routine.chapter);
-    if (name == "color") values = {"auto", "always", "never"};
-    if (name == "interlaced") values = {"field", "frame"};
-    if (name == "shell") values = {"bash", "zsh", "fish"};
     return values;
 }
 
+constexpr std::pair<std::string_view, const char*> words_for_values[] = {
+    {"at", "X,Y"},   {"frames", "A:B"},   {"from", "LAYOUT"},  {"layout", "LAYOUT"}, {"output", "FILE"},
+    {"size", "WxH"}, {"to", "LAYOUT"},    {"stride", "LINES"}, {"table", "TABLE"},   {"input", "FILE"},
+    {"png", "FILE"}, {"missing", "FILE"}, {"palette", "FILE"}, {"picture", "FILE"},  {"planes", "FILE,..."},
+};
+
 }  // namespace
+
+std::string value_word(const CLI::Option& option)
+{
+    if (option.get_items_expected_max() == 0) return {};
+    if (option.get_group() == routine_arguments) return "N";
+    const std::string name = option.get_lnames().front();
+    if (const std::vector<std::string> choices = choices_of(name); !choices.empty())
+        return fmt::format("{}", fmt::join(choices, "|"));
+    const auto word = std::ranges::find(words_for_values, name, &std::pair<std::string_view, const char*>::first);
+    return word == std::end(words_for_values) ? "N" : word->second;
+}
 
 std::vector<CommandWords> command_words(const CLI::App& tool)
 {
@@ -41,10 +70,11 @@ std::vector<CommandWords> command_words(const CLI::App& tool)
                 command.positionals.emplace_back(option->get_name(), option->get_description());
                 continue;
             }
-            OptionWords words{{}, option->get_description(), option->get_items_expected_max() > 0, {}};
+            OptionWords words{{}, option->get_description(), value_word(*option), {}};
             for (const std::string& name : option->get_snames()) words.names.push_back("-" + name);
             for (const std::string& name : option->get_lnames()) words.names.push_back("--" + name);
-            if (!option->get_lnames().empty()) words.values = values_of(option->get_lnames().front());
+            if (option->get_group() != routine_arguments && !option->get_lnames().empty())
+                words.values = values_of(option->get_lnames().front());
             command.options.push_back(words);
         }
         commands.push_back(command);

@@ -1,4 +1,4 @@
-// The commands with their options as words: for completions and man pages.
+// The commands with their options as words: for help, completions and manual pages.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -10,7 +10,7 @@ namespace tintvert::tool {
 struct OptionWords {
     std::vector<std::string> names;  // with their hyphens
     std::string description;
-    bool takes_value;
+    std::string value;                // the word for it, such as WxH; empty for flags
     std::vector<std::string> values;  // empty for files and numbers
 };
 
@@ -20,6 +20,9 @@ struct CommandWords {
     std::vector<std::pair<std::string, std::string>> positionals;  // name, description
     std::vector<std::string> positional_values;                    // of the first; empty for files
 };
+
+// What stands for an option's value: its choices, or a word.
+std::string value_word(const CLI::Option& option);
 
 std::vector<CommandWords> command_words(const CLI::App& tool);
 

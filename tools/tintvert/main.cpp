@@ -7,13 +7,16 @@
 #include <cstring>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <new>
 #include <string_view>
 #include <vector>
 
 #include "commands.h"
+#include "help.h"
 #include "interrupt.h"
 #include "nearest.h"
+#include "version.h"
 
 namespace tintvert::tool {
 namespace {
@@ -40,6 +43,14 @@ std::string unknown_option(const CLI::App& command, int argc, char** argv)
     return {};
 }
 
+// The command that is asked for, or the tool.
+std::string named(int argc, char** argv, const std::vector<Command>& commands)
+{
+    for (const Command& command : commands)
+        if (argc > 1 && command.app->get_name() == argv[1]) return "tintvert " + command.app->get_name();
+    return "tintvert";
+}
+
 // A word that is no command, and an option that a command has not, get a better answer than the parser's.
 std::string complaint(const CLI::ParseError& error, int argc, char** argv, const std::vector<Command>& commands)
 {
@@ -55,29 +66,25 @@ std::string complaint(const CLI::ParseError& error, int argc, char** argv, const
     return fmt::format("there is no command '{}'{}", argv[1], suggestion(argv[1], candidates));
 }
 
-std::string version_text()
-{
-#ifdef TINTVERT_LIBAVFORMAT
-    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: read, by libavformat";
-#else
-    return "tintvert " TINTVERT_VERSION "\nMOV and AVI: not read, built without libavformat";
-#endif
-}
-
 Exit run(int argc, char** argv)
 {
     CLI::App tool("Pixel layout conversion for professional video.", "tintvert");
-    tool.set_version_flag("--version", version_text());
+    tool.formatter(std::make_shared<Help>());
+    tool.set_help_flag("-h,--help", "this help");
+    tool.set_version_flag("--version", version_text(), "the version, and the libraries that it is built with");
     tool.require_subcommand(1);
     std::vector<Command> commands;
     for (const auto add : adders) commands.push_back(add(tool));
+    for (const Command& command : commands) command.app->group("Commands");
+    tool.footer("`tintvert COMMAND --help` tells the options of a command.");
     try {
         tool.parse(argc, argv);
     } catch (const CLI::Success& asked_for_help_or_version) {
         tool.exit(asked_for_help_or_version);
         return Exit::done;
     } catch (const CLI::ParseError& error) {
-        throw Failure(Exit::usage, "{} (tintvert --help tells more)", complaint(error, argc, argv, commands));
+        throw Failure(Exit::usage, "{} ({} --help tells more)", complaint(error, argc, argv, commands),
+                      named(argc, argv, commands));
     }
     for (const Command& command : commands)
         if (command.app->parsed()) return command.run();

@@ -24,7 +24,7 @@ void add_routine_options(CLI::App& app, RoutineOptions& options)
             app.add_option_function<int64_t>(
                    name, [&options, argument](const int64_t& value) { options.numbers[argument] = value; },
                    std::string{about.meaning})
-                ->group("Arguments of the routine");
+                ->group(routine_arguments);
         }
     }
 }

@@ -16,6 +16,8 @@ struct RoutineOptions {
     std::string layout = "rgb32";             // of frames, for routines that take any
 };
 
+inline constexpr const char* routine_arguments = "Arguments of the routine";  // the heading of their options
+
 // --layout, and an option for each number that a routine takes; but for the size, which is told by --size, and for
 // `stride`, which --stride tells in more ways than one.
 void add_routine_options(CLI::App& app, RoutineOptions& options);

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "chafa_picture.h"
+
 namespace tintvert::tool {
 namespace {
 
@@ -52,9 +54,11 @@ long terminal_columns()
     return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
-std::string terminal_picture(const Picture& picture, long columns, bool color)
+std::string terminal_picture(const Picture& picture, long columns, Drawing drawing)
 {
     const long width = std::clamp<long>(columns, 1, picture.width);
+    if (drawing != Drawing::letters && drawing != Drawing::blocks) return chafa_picture(picture, width, drawing);
+    const bool color = drawing == Drawing::blocks;
     const long height = std::max<long>((picture.height * width + picture.width / 2) / picture.width, 1);
     const Picture small = reduced(with_8_bits(picture), width, height);
     std::string text;

@@ -168,9 +168,9 @@ Command add_bits(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand("bits", "The words around a pixel of a frame, field by field.");
     const auto options = std::make_shared<Options>();
-    app->add_option("file", options->file, "the file; of several frames the first, or the first of --frames")
+    app->add_option("file", options->file, "a file of frames; the first is taken, or the first of --frames")
         ->required();
-    app->add_option("--at", options->at, "X,Y of the pixel, from 0")->required();
+    app->add_option("--at", options->at, "the pixel, counted from 0")->required();
     add_sample_options(*app, options->samples);
     app->add_flag("--json", options->json, "JSON instead of text");
     add_color_option(app, &options->color);

@@ -138,7 +138,8 @@ Command add_capture(CLI::App& tool)
         ->check(CLI::Range(1, 65535));
     app->add_flag("--interlaced{field}", options->interlaced,
                   "weave two fields into a frame; =frame if lines are numbered through the frame, not by field")
-        ->check(CLI::IsMember({"field", "frame"}));
+        ->check(CLI::IsMember({"field", "frame"}))
+        ->option_text("[=field|frame]");
     app->add_flag("--keep-incomplete", options->keeps_incomplete,
                   "write frames with missing samples too, which are 0 there");
     app->add_option("--missing", options->missing,

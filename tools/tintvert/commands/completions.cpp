@@ -48,7 +48,7 @@ _tintvert()
         fmt::print("    {})\n        case $before in\n", command.name);
         for (const OptionWords& option : command.options) {
             options.insert(options.end(), option.names.begin(), option.names.end());
-            if (!option.takes_value) continue;
+            if (option.value.empty()) continue;
             const std::string pattern = fmt::format("{}", fmt::join(option.names, "|"));
             fmt::print(
                 "        {}) values='{}'; [ -n \"$values\" ] || {{ COMPREPLY=($(compgen -f -- \"$word\")); return; }} "
@@ -86,7 +86,7 @@ void print_zsh(const CLI::App& tool)
     for (const CommandWords& command : commands) {
         fmt::print("    {})\n        case ${{words[CURRENT-1]}} in\n", command.name);
         for (const OptionWords& option : command.options)
-            if (option.takes_value)
+            if (!option.value.empty())
                 fmt::print("        {}) {} ;;\n", fmt::join(option.names, "|"),
                            option.values.empty() ? std::string("_files; return")
                                                  : "compadd -- " + joined(option.values) + "; return");
@@ -126,7 +126,7 @@ void print_fish(const CLI::App& tool)
                 names += name.starts_with("--") ? " -l " + name.substr(2) : " -s " + name.substr(1);
             const std::string values = option.values.empty() ? "" : " -x -a " + fish(joined(option.values));
             fmt::print("{}{} -d {}{}\n", here, names, fish(option.description),
-                       option.takes_value && values.empty() ? " -r" : values);
+                       !option.value.empty() && values.empty() ? " -r" : values);
         }
         if (!command.positional_values.empty())
             fmt::print("{} -f -a {}\n", here, fish(joined(command.positional_values)));

@@ -227,14 +227,14 @@ Command add_convert(CLI::App& tool)
     CLI::App* const app =
         tool.add_subcommand("convert", "Sends the frames of a file through one routine, or from layout to layout.");
     const auto options = std::make_shared<Options>();
-    app->add_option("words", options->words,
+    app->add_option("files", options->words,
                     "ROUTINE IN OUT, or IN OUT: raw frames, .png, .ppm, .pam, .bmp, .y4m; .mov and .avi to read; - for "
                     "stdin and stdout");
     app->add_option("--from", options->from, "the layout that is read; files that tell theirs need none");
     app->add_option("--to", options->to, "the layout that is written; else the nearest that the file can hold");
     app->add_flag("--dry-run", options->dry_run, "say which routines would be taken and what is lost, and stop");
     add_clip_options(*app, options->clip);
-    app->add_option("--format", options->sink.format, "of what is written; else by the ending of its name")
+    app->add_option("--format", options->sink.format, "what kind of file is written; else by the ending of its name")
         ->check(CLI::IsMember({"raw", "y4m", "png", "ppm", "pam", "bmp"}));
     app->add_option("-j,--jobs", options->jobs, "frames that are converted at a time; else one for each processor")
         ->check(CLI::Range(1, 1024));

@@ -176,7 +176,8 @@ Command add_explain(CLI::App& tool)
         "explain", "One call at a given size: bytes in and out, how far it reaches, and what is odd about it.");
     const auto options = std::make_shared<Options>();
     app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
-    app->add_option("-s,--size", options->size, "WIDTHxHEIGHT of the picture that goes in")->required();
+    app->add_option("-s,--size", options->size, "width and height of the picture that goes in, such as 1920x1080")
+        ->required();
     add_stride_option(*app, options->stride);
     app->add_flag("--show-call", options->show_call, "the call as a program in C, ready to paste");
     app->add_flag("--json", options->json, "JSON instead of text");

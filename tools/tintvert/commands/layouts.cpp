@@ -144,7 +144,7 @@ Command add_layouts(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand("layouts", "The memory layouts, byte by byte.");
     const auto options = std::make_shared<Options>();
-    app->add_option("layout", options->name, "one of them; without it, all");
+    app->add_option("layout", options->name, "one of the layouts; without it, all");
     app->add_flag("--json", options->json, "JSON instead of text");
     app->add_flag("--markdown", options->markdown, "the page docs/layouts.md");
     add_color_option(app, &options->color);

@@ -75,7 +75,7 @@ Command add_list(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand("list", "The routines of the library, or of one chapter.");
     const auto options = std::make_shared<Options>();
-    app->add_option("chapter", options->chapter, "frame, ycbcr8, decode, ycbcr10, rgb, field or hdr");
+    app->add_option("chapter", options->chapter, "frame, ycbcr8, decode, ycbcr10, rgb, field or hdr; without it, all");
     app->add_flag("--json", options->json, "JSON instead of text");
     return {app, [options] { return run(*options); }};
 }

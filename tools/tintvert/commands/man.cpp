@@ -67,7 +67,8 @@ void print_one(const CommandWords& command)
     for (const OptionWords& option : command.options) {
         std::string names;
         for (const std::string& name : option.names) names += (names.empty() ? "" : ", ") + roff(name);
-        fmt::print(".TP\n.B {}{}\n{}\n", names, option.takes_value ? " VALUE" : "", roff(option.description));
+        fmt::print(".TP\n.B {}{}\n{}\n", names, option.value.empty() ? "" : " " + roff(option.value),
+                   roff(option.description));
     }
     print_exit_codes();
     fmt::print(".SH SEE ALSO\n.BR tintvert (1)\n");
@@ -95,7 +96,7 @@ Command add_man(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand("man", "The manual page of tintvert, or of one command, in roff.");
     const auto name = std::make_shared<std::string>();
-    app->add_option("command", *name, "one of them; without it, the page of all");
+    app->add_option("command", *name, "one of the commands; without it, the page of the tool");
     return {app, [name, &tool] { return run(tool, *name); }};
 }
 

@@ -1,4 +1,4 @@
-// tintvert verify: our routines against the independent programs that this machine has.
+// tintvert verify: our routines against the independent programs and libraries that this machine has.
 #include <fmt/format.h>
 
 #include <array>
@@ -7,7 +7,7 @@
 #include "commands.h"
 #include "json.h"
 #include "nearest.h"
-#include "peer_checks.h"
+#include "peers/check.h"
 
 namespace tintvert::tool {
 namespace {
@@ -17,21 +17,25 @@ struct Options {
     bool json = false;
 };
 
-constexpr std::array words{"equal", "differs", "skipped"};
+constexpr std::array words{"equal", "near", "differs", "skipped"};
 
 Exit run(const Options& options)
 {
     if (!options.routine.empty()) routine_named(options.routine);
-    std::array<int, 3> counts{};
+    std::array<int, words.size()> counts{};
     Json list = Json::array();
     for (const PeerCheck& check : peer_checks()) {
         if (!options.routine.empty() && check.routine != options.routine) continue;
         const PeerVerdict verdict = verify_by_peer(check);
         ++counts[verdict.kind];
         const char* const word = words[verdict.kind];
-        list.push_back({{"routine", check.routine}, {"peer", check.program}, {"result", word}, {"why", verdict.why}});
+        list.push_back({{"routine", check.routine},
+                        {"peer", check.peer},
+                        {"asked", check.asked},
+                        {"result", word},
+                        {"why", verdict.why}});
         if (options.json) continue;
-        fmt::print("{:<34}  {:<15}  {}{}{}\n", check.routine, check.program, word, verdict.why.empty() ? "" : ": ",
+        fmt::print("{:<34}  {:<15}  {}{}{}\n", check.routine, check.peer, word, verdict.why.empty() ? "" : ": ",
                    verdict.why);
         std::fflush(stdout);
     }
@@ -40,7 +44,7 @@ Exit run(const Options& options)
         fmt::print("{}\n",
                    Json{{"schema", json_schema}, {"checks", list}}.dump(2, ' ', false, Json::error_handler_t::replace));
     else
-        fmt::print("\n{} equal, {} differ, {} skipped\n", counts[0], counts[1], counts[2]);
+        fmt::print("\n{} equal, {} near, {} differ, {} skipped\n", counts[0], counts[1], counts[2], counts[3]);
     return counts[PeerVerdict::differs] == 0 ? Exit::done : Exit::differs;
 }
 
@@ -49,9 +53,9 @@ Exit run(const Options& options)
 Command add_verify(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand(
-        "verify", "Our routines against FFmpeg and GStreamer, where they are installed; exit code 1 if one differs.");
+        "verify", "Our routines against FFmpeg, GStreamer, OpenImageIO, libyuv and zimg; exit code 1 if one differs.");
     const auto options = std::make_shared<Options>();
-    app->add_option("routine", options->routine, "one of them; without it, all that have a peer");
+    app->add_option("routine", options->routine, "one of the routines; without it, all that have a peer");
     app->add_flag("--json", options->json, "JSON instead of text");
     return {app, [options] { return run(*options); }};
 }

@@ -1,4 +1,4 @@
-#include "peer_program.h"
+#include "peers/process.h"
 
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -55,8 +55,6 @@ private:
     int descriptor_;
 };
 
-}  // namespace
-
 bool is_installed(const std::string& program)
 {
     const char* const path = std::getenv("PATH");
@@ -66,7 +64,13 @@ bool is_installed(const std::string& program)
     return false;
 }
 
-PeerOutput run_peer(const std::vector<std::string>& command, const std::vector<uint8_t>& input)
+struct PeerOutput {
+    int code;  // the exit code, or minus the signal that ended it
+    std::vector<uint8_t> bytes;
+    std::string words;  // what it said on stderr
+};
+
+PeerOutput run(const std::vector<std::string>& command, const std::vector<uint8_t>& input)
 {
     NamelessFile in, out, words;
     in.write(input);
@@ -87,6 +91,17 @@ PeerOutput run_peer(const std::vector<std::string>& command, const std::vector<u
     }
     const std::vector<uint8_t> said = words.read();
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), out.read(), {said.begin(), said.end()}};
+}
+
+}  // namespace
+
+PeerAnswer answer_of(const std::vector<std::string>& command, const std::vector<uint8_t>& input)
+{
+    if (!is_installed(command[0])) return {.why_none = command[0] + " not found"};
+    PeerOutput output = run(command, input);
+    if (output.code == 0) return {.frame = std::move(output.bytes)};
+    const std::string line = output.words.substr(0, output.words.find('\n'));
+    return {.why_none = fmt::format("{} ended with {}: {}", command[0], output.code, line)};
 }
 
 }  // namespace tintvert::tool

@@ -6,6 +6,8 @@
 #include <type_traits>
 
 #include "extents.h"
+#include "routine_id.h"
+#include "shapes.h"
 
 namespace tintvert::catalog {
 namespace {
@@ -15,19 +17,6 @@ constexpr Argument arguments[] = {
 #include "arguments.def"
 #undef TNTVT_ARGUMENT
 };
-
-template <class... Args>
-constexpr std::array<Arg, sizeof...(Args)> in_order(Args... arguments_of_shape)
-{
-    return {arguments_of_shape...};
-}
-
-namespace shapes {
-using enum Arg;
-#define TNTVT_SHAPE(name, ...) constexpr auto name = in_order(__VA_ARGS__);
-#include "shapes.def"
-#undef TNTVT_SHAPE
-}  // namespace shapes
 
 // A call by name: each argument of the routine takes its value by the name that its shape gives the place.
 template <auto routine, auto& shape, class Result, class... Parameters>
@@ -90,7 +79,8 @@ struct Types<Result (*)(Parameters...)> {
 
 constexpr Routine all[] = {
 #define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) \
-    {#chapter,                                                       \
+    {RoutineId::name,                                                \
+     #chapter,                                                       \
      #name,                                                          \
      #shape,                                                         \
      #from,                                                          \

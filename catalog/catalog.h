@@ -58,10 +58,19 @@ struct Range {
     bool operator==(const Range&) const = default;
 };
 
+// From the lowest to the highest byte of both.
+inline Range join(Range one, Range other)
+{
+    if (one.empty()) return other;
+    if (other.empty()) return one;
+    return {one.begin < other.begin ? one.begin : other.begin, one.end > other.end ? one.end : other.end};
+}
+
 // From the lowest to the highest byte that a call reads and writes in one buffer.
 struct Touch {
     Arg buffer{};
     Range read, written;
+    Range touched = join(read, written);
 };
 
 // One entry for each buffer that the call touches. Entries that are not there are not cleared either.
@@ -80,7 +89,10 @@ private:
     size_t count_;
 };
 
+enum class RoutineId : size_t;  // routine_id.h
+
 struct Routine {
+    RoutineId id;
     std::string_view chapter, name, shape, from, to, summary;
     std::span<const Arg> arguments;
     Extents (*extents)(const Arguments&);

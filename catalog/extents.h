@@ -12,12 +12,7 @@ namespace tintvert::catalog::extents {
 
 // Parts that rules are made of.
 
-inline Range join(Range one, Range other)
-{
-    if (one.empty()) return other;
-    if (other.empty()) return one;
-    return {one.begin < other.begin ? one.begin : other.begin, one.end > other.end ? one.end : other.end};
-}
+using catalog::join;
 
 // `count` lines of `bytes` bytes that begin at `first`, `first` + `stride`, ...
 inline Range lines(int64_t first, int64_t stride, int64_t count, int64_t bytes)

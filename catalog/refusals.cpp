@@ -5,19 +5,10 @@
 
 #include "refusals/rules.h"
 #include "routine_id.h"
+#include "shapes.h"
 
 namespace tintvert::catalog {
 namespace {
-
-using Rule = Reason (*)(const Arguments&);
-
-constexpr auto rules = [] {
-    std::array<Rule, routine_count> table{};
-#define TNTVT_REFUSES(routine, rule) table[static_cast<size_t>(RoutineId::routine)] = refusals::rule;
-#include "refusals.def"
-#undef TNTVT_REFUSES
-    return table;
-}();
 
 // How an argument enters the size of a frame.
 enum class Part : uint8_t { none, size, lines, distance };
@@ -49,31 +40,61 @@ constexpr Part part_of(Arg argument)
     }
 }
 
-constexpr auto parts = [] {
-    std::array<Part, argument_count> table{};
-    for (size_t i = 0; i < table.size(); ++i) table[i] = part_of(static_cast<Arg>(i));
-    return table;
-}();
-
 constexpr int64_t memory = int64_t{1} << 47;
 
 // Numbers of up to 2^31 - 1, distances of up to 2^32 - 1, and no product of one with the lines beyond memory.
-bool fits_in_memory(const Routine& routine, const Arguments& call)
-{
-    using namespace refusals;
+struct Size {
     int64_t lines = 1, longest = 0;
-    for (const Arg argument : routine.arguments) {
-        const Part part = parts[static_cast<size_t>(argument)];
-        if (part == Part::none) continue;
-        const int64_t number = call[argument], most = part == Part::distance ? most_unsigned : most_signed;
+
+    // Whether `number` is within what its argument may be.
+    template <Arg argument>
+    bool takes(int64_t number)
+    {
+        constexpr Part part = part_of(argument);
+        constexpr int64_t most = part == Part::distance ? refusals::most_unsigned : refusals::most_signed;
+        if constexpr (part == Part::none) return true;
         if (number > most || number < -most) return false;
-        if (part == Part::lines)
-            lines = size_of(number);
+        if constexpr (part == Part::lines)
+            lines = refusals::size_of(number);
         else if (argument != Arg::scale)
-            longest = std::max(longest, size_of(number));
+            longest = std::max(longest, refusals::size_of(number));
+        return true;
     }
-    return longest * lines <= memory;
+    bool fits_in_memory() const { return longest * lines <= memory; }
+};
+
+using Rule = Reason (*)(const Arguments&);
+
+constexpr auto rules = [] {
+    std::array<Rule, routine_count> table{};
+#define TNTVT_REFUSES(routine, rule) table[static_cast<size_t>(RoutineId::routine)] = refusals::rule;
+#include "refusals.def"
+#undef TNTVT_REFUSES
+    return table;
+}();
+
+template <auto& shape, Rule rule>
+Reason reason_by(const Arguments& call)
+{
+    Size size;
+    const bool fits = [&]<size_t... place>(std::index_sequence<place...>)
+    {
+        return (size.takes<shape[place]>(call[shape[place]]) && ...);
+    }
+    (std::make_index_sequence<shape.size()>{});
+    if (!fits || !size.fits_in_memory()) return {Refusal::too_large, "the numbers make more than memory can hold"};
+    if constexpr (rule == nullptr)
+        return {};
+    else
+        return rule(call);
 }
+
+constexpr Rule reasons[] = {
+#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) \
+    reason_by<shapes::shape, rules[static_cast<size_t>(RoutineId::name)]>,
+#include "routines.def"
+#undef TNTVT_ROUTINE
+};
 
 }  // namespace
 
@@ -87,9 +108,7 @@ std::string_view name_of(Refusal refusal)
 
 Reason reason(const Routine& routine, const Arguments& call)
 {
-    if (!fits_in_memory(routine, call)) return {Refusal::too_large, "the numbers make more than memory can hold"};
-    const Rule rule = rules[static_cast<size_t>(id_of(routine))];
-    return rule == nullptr ? Reason{} : rule(call);
+    return reasons[static_cast<size_t>(id_of(routine))](call);
 }
 
 }  // namespace tintvert::catalog

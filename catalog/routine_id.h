@@ -17,6 +17,6 @@ enum class RoutineId : size_t {
 inline constexpr size_t routine_count = static_cast<size_t>(RoutineId::count);
 
 inline const Routine& routine_at(RoutineId id) { return routines()[static_cast<size_t>(id)]; }
-inline RoutineId id_of(const Routine& routine) { return static_cast<RoutineId>(&routine - routines().data()); }
+inline RoutineId id_of(const Routine& routine) { return routine.id; }
 
 }  // namespace tintvert::catalog

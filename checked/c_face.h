@@ -4,11 +4,9 @@
 #include <tintvert/checked.h>
 #include <tintvert_checked.h>
 
-#include <algorithm>
+#include "call.h"
 
 namespace tintvert::checked {
-
-inline Buffer from_c(const tntvt_checked_buffer& buffer) { return {buffer.pointer, buffer.size, buffer.front}; }
 
 inline tntvt_checked_range to_c(Range range) { return {range.from, range.to}; }
 
@@ -47,20 +45,22 @@ tntvt_checked_result to_c(const Result<Value>& result)
     return told;
 }
 
-template <class Call>
-tntvt_checked_result answer(const char* routine, const tntvt_checked_options* options, Call call) noexcept
+template <class Value, catalog::Arg... arguments, class... Values>
+tntvt_checked_result run_in_c(catalog::RoutineId id, const tntvt_checked_options* options,
+                              const Values&... values) noexcept
 {
     try {
-        if (options == nullptr) return to_c(call(Options{}));
+        const bool allow_overlap = options != nullptr && options->allow_overlap != 0;
+        if (options == nullptr || options->query == nullptr)
+            return to_c(run<Value, arguments...>(id, {allow_overlap, nullptr}, values...));
         Extents extents;
-        const bool asks = options->query != nullptr;
-        const auto result = call(Options{options->allow_overlap != 0, asks ? &extents : nullptr});
-        if (asks) to_c(extents, *options->query);
+        const auto result = run<Value, arguments...>(id, {allow_overlap, &extents}, values...);
+        to_c(extents, *options->query);
         return to_c(result);
     } catch (...) {
         Error error;
         error.code = Code::failed;
-        error.routine = routine;
+        error.routine = catalog::routine_at(id).name.data();
         return to_c(error);
     }
 }

@@ -39,8 +39,6 @@ catalog::Range common(catalog::Range one, catalog::Range other)
     return {std::max(one.begin, other.begin), std::min(one.end, other.end)};
 }
 
-bool apart(catalog::Range one, catalog::Range other) { return common(one, other).empty(); }
-
 catalog::Range moved(catalog::Range range, int64_t distance) { return {range.begin + distance, range.end + distance}; }
 
 bool knows(const catalog::Extents& extents, Arg buffer)
@@ -49,13 +47,6 @@ bool knows(const catalog::Extents& extents, Arg buffer)
 }
 
 }  // namespace
-
-const Buffer& Call::given(Arg argument) const
-{
-    const Given* given = given_.data();
-    while (given->argument != argument) ++given;
-    return *given->buffer;
-}
 
 bool Call::may_be_made(const Options& options, Error& error)
 {
@@ -66,38 +57,33 @@ bool Call::may_be_made(const Options& options, Error& error)
         tell(extents, *options.query);
         return true;
     }
-    Places places;
-    for (const catalog::Touch& touch : extents) {
-        const catalog::Range all = join(touch.read, touch.written);
-        if (lacks_room(touch.buffer, all, error)) return false;
-        places[static_cast<size_t>(&touch - extents.begin())] = moved(all, address(touch.buffer));
-    }
-    if (touches_one_null_frame(error) || interpolates_null(error)) return false;
-    return options.allow_overlap || !overlaps(extents, places, error);
+    for (const catalog::Touch& touch : extents)
+        if (lacks_room(touch, error)) return false;
+    if (null_frames_ > 0 && (touches_one_null_frame(error) || interpolates_null(error))) return false;
+    return options.allow_overlap || !overlaps(extents, error);
 }
 
 // Two null pointers are two buffers to the rules and one frame to the routine.
 bool Call::touches_one_null_frame(Error& error) const
 {
-    if (address(Arg::dst) != 0 || address(Arg::src) != 0) return false;
+    if (null_frames_ < 2) return false;
     catalog::Arguments in_place = numbers_;
     in_place[Arg::dst] = in_place[Arg::src] = 1;
     if (refused(in_place, error)) return true;
-    return std::ranges::any_of(routine_.extents(in_place), [&](const catalog::Touch& touch) {
-        return lacks_room(touch.buffer, join(touch.read, touch.written), error);
-    });
+    return std::ranges::any_of(routine_.extents(in_place),
+                               [&](const catalog::Touch& touch) { return lacks_room(touch, error); });
 }
 
 // To the rules a null is a buffer that is still to come. Mode 11 makes something else of it: where either frame is
 // null it copies the second line of `src` to the first of `dst`, whatever the height.
 bool Call::interpolates_null(Error& error) const
 {
-    if (&routine_ != &routine_at(catalog::RoutineId::tntvt_change_field_rgb)) return false;
-    if (numbers_.as<uint32_t>(Arg::mode) != 11 || (address(Arg::dst) != 0 && address(Arg::src) != 0)) return false;
+    if (id_of(routine_) != catalog::RoutineId::tntvt_change_field_rgb) return false;
+    if (numbers_.as<uint32_t>(Arg::mode) != 11) return false;
     const int64_t dst_pitch = numbers_.as<uint32_t>(Arg::dstStride), given = numbers_.as<uint32_t>(Arg::srcStride);
     const int64_t pitch = given == 0 ? dst_pitch : given;
     if (address(Arg::src) + pitch == address(Arg::dst) + dst_pitch) return false;
-    return lacks_room(Arg::src, {pitch, 2 * pitch}, error) || lacks_room(Arg::dst, {0, pitch}, error);
+    return lacks_room({Arg::src, {pitch, 2 * pitch}, {}}, error) || lacks_room({Arg::dst, {}, {0, pitch}}, error);
 }
 
 bool Call::refused(const catalog::Arguments& numbers, Error& error) const
@@ -110,24 +96,24 @@ bool Call::refused(const catalog::Arguments& numbers, Error& error) const
     return true;
 }
 
-bool Call::lacks_room(Arg argument, catalog::Range all, Error& error) const
+bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
 {
+    const catalog::Range& all = touch.touched;
     if (all.empty()) return false;
-    const Buffer& buffer = given(argument);
-    const int64_t front = buffer.front();
-    const bool null = buffer.pointer() == nullptr;
-    if (!null && all.begin >= -front && all.end <= bytes_of(buffer) - front) return false;
+    const Room& room = room_of(touch.buffer);
+    const bool null = address(touch.buffer) == 0;
+    if (!null && room.holds(all)) return false;
     error.code = null ? Code::null : Code::too_small;
-    error.buffer = name_of(argument);
-    error.has = buffer.size();
-    error.front = front;
+    error.buffer = name_of(touch.buffer);
+    error.has = room.size;
+    error.front = room.front;
     error.needs = static_cast<uint64_t>(std::max<int64_t>(all.end, 0) - std::min<int64_t>(all.begin, 0));
     error.where = told(all);
     return true;
 }
 
 // What is written in one buffer and touched in another. A frame in place is known to some rules as `dst` alone.
-bool Call::overlaps(const catalog::Extents& extents, const Places& places, Error& error) const
+inline bool Call::overlaps(const catalog::Extents& extents, Error& error) const
 {
     if (catalog::extents::in_place(numbers_) && knows(extents, Arg::dst)) {
         if (promised_in_place(routine_, numbers_)) return false;
@@ -136,13 +122,14 @@ bool Call::overlaps(const catalog::Extents& extents, const Places& places, Error
             return overlap(frame, {Arg::src, frame.read, {}}, error);
         }
     }
-    const catalog::Touch* const touches = extents.begin();
-    const auto count = static_cast<size_t>(extents.end() - touches);
-    for (size_t i = 0; i < count; ++i) {
-        if (touches[i].written.empty()) continue;
-        for (size_t j = 0; j < count; ++j) {
-            const bool seen = j == i || (j < i && !touches[j].written.empty());
-            if (!seen && !apart(places[i], places[j]) && overlap(touches[i], touches[j], error)) return true;
+    for (const catalog::Touch& one : extents) {
+        if (one.written.empty()) continue;
+        const catalog::Range place = moved(one.touched, address(one.buffer));
+        for (const catalog::Touch& other : extents) {
+            const int64_t at = address(other.buffer);
+            if (place.begin >= at + other.touched.end || at + other.touched.begin >= place.end) continue;
+            const bool seen = &other == &one || (&other < &one && !other.written.empty());
+            if (!seen && overlap(one, other, error)) return true;
         }
     }
     return false;
@@ -159,8 +146,8 @@ bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error
     error.code = Code::overlap;
     error.buffer = name_of(one.buffer);
     error.other = name_of(other.buffer);
-    error.has = given(one.buffer).size();
-    error.front = given(one.buffer).front();
+    error.has = room_of(one.buffer).size;
+    error.front = room_of(one.buffer).front;
     error.where = told(both);
     return true;
 }

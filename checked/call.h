@@ -2,44 +2,43 @@
 #pragma once
 
 #include <tintvert/checked.h>
+#include <tintvert_checked.h>
 
 #include <algorithm>
-#include <limits>
 
 #include "catalog.h"
 #include "routine_id.h"
 
 namespace tintvert::checked {
 
-inline int64_t bytes_of(const Buffer& buffer)
-{
-    constexpr auto most = static_cast<size_t>(std::numeric_limits<int64_t>::max());
-    return static_cast<int64_t>(std::min(buffer.size(), most));
-}
+// The memory of a buffer, about its pointer.
+struct Room {
+    size_t size;
+    int64_t front;
 
-// How far a stream may be read: up to the end of its memory, if its pointer is in there.
-inline int64_t bytes_behind(const Buffer& buffer)
-{
-    if (buffer.pointer() == nullptr || buffer.front() < 0) return 0;
-    return std::max<int64_t>(bytes_of(buffer) - buffer.front(), 0);
-}
+    // Bytes [begin, end) from the pointer.
+    bool holds(catalog::Range range) const
+    {
+        return range.begin >= -front && static_cast<size_t>(range.end) + static_cast<size_t>(front) <= size;
+    }
+};
 
 class Call {
 public:
-    explicit Call(const catalog::Routine& routine) : routine_(routine), buffers_(0) {}
+    explicit Call(const catalog::Routine& routine) : routine_(routine) {}
 
     template <class Number>
-    void set(size_t place, Number value)
+    void set(catalog::Arg argument, Number value)
     {
-        numbers_[routine_.arguments[place]] = static_cast<int64_t>(value);
+        numbers_[argument] = static_cast<int64_t>(value);
     }
-    void set(size_t place, const Buffer& buffer)
+    void set(catalog::Arg argument, const Buffer& buffer)
     {
-        const catalog::Arg argument = routine_.arguments[place];
-        if (argument == catalog::Arg::ignored) return;
-        numbers_[argument] = reinterpret_cast<int64_t>(buffer.pointer());
-        given_[buffers_++] = {argument, &buffer};
-        if (argument == catalog::Arg::src) numbers_[catalog::Arg::streamSize] = bytes_behind(buffer);
+        set(argument, buffer.pointer(), {buffer.size(), buffer.front()});
+    }
+    void set(catalog::Arg argument, const tntvt_checked_buffer& buffer)
+    {
+        set(argument, buffer.pointer, {buffer.size, buffer.front});
     }
 
     // Whether the call may be made. What speaks against it is told in `error`.
@@ -56,36 +55,40 @@ public:
     }
 
 private:
-    struct Given {
-        catalog::Arg argument;
-        const Buffer* buffer;
-    };
+    void set(catalog::Arg argument, const void* pointer, Room room)
+    {
+        numbers_[argument] = reinterpret_cast<int64_t>(pointer);
+        rooms_[static_cast<size_t>(argument)] = room;
+        const bool frame = argument == catalog::Arg::dst || argument == catalog::Arg::src;
+        if (frame && pointer == nullptr) ++null_frames_;
+        // How far a stream may be read: up to the end of its memory, if its pointer is in there.
+        if (argument == catalog::Arg::src && pointer != nullptr && room.front >= 0)
+            numbers_[catalog::Arg::streamSize] =
+                static_cast<int64_t>(room.size - std::min(room.size, static_cast<size_t>(room.front)));
+    }
 
     // Every buffer that the extents tell has been set.
-    const Buffer& given(catalog::Arg argument) const;
+    const Room& room_of(catalog::Arg argument) const { return rooms_[static_cast<size_t>(argument)]; }
     int64_t address(catalog::Arg argument) const { return numbers_[argument]; }
     bool refused(const catalog::Arguments& numbers, Error& error) const;
     bool touches_one_null_frame(Error& error) const;
     bool interpolates_null(Error& error) const;
-    using Places = std::array<catalog::Range, 8>;  // by touch, from address 0
-
-    bool lacks_room(catalog::Arg argument, catalog::Range all, Error& error) const;
-    bool overlaps(const catalog::Extents& extents, const Places& places, Error& error) const;
+    bool lacks_room(const catalog::Touch& touch, Error& error) const;
+    bool overlaps(const catalog::Extents& extents, Error& error) const;
     bool overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const;
 
     const catalog::Routine& routine_;
     catalog::Arguments numbers_;
-    std::array<Given, 8> given_;
-    size_t buffers_;
+    std::array<Room, catalog::argument_count> rooms_;
+    int null_frames_ = 0;  // of `dst` and `src`
 };
 
-template <class Value, class... Values>
-Result<Value> run(catalog::RoutineId id, const Options& options, const Values&... values)
+template <class Value, catalog::Arg... arguments, class... Values>
+inline Result<Value> run(catalog::RoutineId id, const Options& options, const Values&... values)
 {
     Result<Value> result;
     Call call(catalog::routine_at(id));
-    size_t place = 0;
-    (call.set(place++, values), ...);
+    (call.set(arguments, values), ...);
     if (!call.may_be_made(options, result) || options.query != nullptr) return result;
     if constexpr (std::is_void_v<Value>)
         call.make<int64_t>();

@@ -24,24 +24,17 @@ std::string parameters(const Routine& routine, std::string_view buffer)
     return text;
 }
 
-// Each argument, and 0 for those that the routine ignores.
-std::string values(const Routine& routine)
+// The arguments that the routine does not ignore, by name and with their values.
+std::string definition(const Routine& routine, const std::string& declaration, const std::string& run)
 {
-    std::string text;
-    for (const Arg argument : routine.arguments)
-        text += ", " + (argument == Arg::ignored ? "0" : std::string{describe(argument).name});
-    return text;
-}
-
-std::string values_from_c(const Routine& routine)
-{
-    std::string text;
-    for (size_t i = 0; i < routine.arguments.size(); ++i) {
-        const std::string name{describe(routine.arguments[i]).name};
-        const bool ignored = routine.arguments[i] == Arg::ignored;
-        text += ", " + (ignored ? "0" : is_pointer(routine.types[i]) ? "from_c(" + name + ')' : name);
+    std::string arguments, values;
+    for (const Arg argument : routine.arguments) {
+        if (argument == Arg::ignored) continue;
+        arguments += ", Arg::" + std::string{describe(argument).name};
+        values += ", " + std::string{describe(argument).name};
     }
-    return text;
+    return '\n' + declaration + "\n{\n    return " + run + '<' + std::string{routine.result} + arguments +
+           ">(RoutineId::" + std::string{routine.name} + ", options" + values + ");\n}\n";
 }
 
 std::string comment(const Routine& routine, std::string_view open, std::string_view close)
@@ -94,25 +87,18 @@ std::string c_header()
 
 std::string definitions()
 {
-    return "#include \"call.h\"\n\nnamespace tintvert::checked {\n\nusing catalog::RoutineId;\n" +
+    return "#include \"call.h\"\n\nnamespace tintvert::checked {\n\nusing catalog::Arg;\nusing catalog::RoutineId;\n" +
            all([](const Routine& routine) {
-               return '\n' + declaration(routine) + "const Options& options)\n{\n    return run<" +
-                      std::string{routine.result} + ">(RoutineId::" + std::string{routine.name} + ", options" +
-                      values(routine) + ");\n}\n";
+               return definition(routine, declaration(routine) + "const Options& options)", "run");
            }) +
            "\n}  // namespace tintvert::checked\n";
 }
 
 std::string c_definitions()
 {
-    return "#include \"c_face.h\"\n#include \"call.h\"\n\nusing namespace tintvert::checked;\n"
-           "using tintvert::catalog::RoutineId;\n" +
-           all([](const Routine& routine) {
-               const std::string name{routine.name};
-               return '\n' + c_declaration(routine) + "\n{\n    return answer(\"" + name +
-                      "\", options, [&](const Options& chosen) { return run<" + std::string{routine.result} +
-                      ">(RoutineId::" + name + ", chosen" + values_from_c(routine) + "); });\n}\n";
-           });
+    return "#include \"c_face.h\"\n\nusing namespace tintvert::checked;\n"
+           "using tintvert::catalog::Arg;\nusing tintvert::catalog::RoutineId;\n" +
+           all([](const Routine& routine) { return definition(routine, c_declaration(routine), "run_in_c"); });
 }
 
 }  // namespace

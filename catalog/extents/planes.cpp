@@ -27,7 +27,7 @@ Extents part_planes(const Arguments& call)
 Extents join_fields(const Arguments& call)
 {
     Extents result;
-    const int64_t groups = call.as<uint32_t>(Arg::groups);
+    const auto groups = call.as<uint32_t>(Arg::groups);
     const int64_t of_field = call.as<uint32_t>(Arg::total) / 2 / groups * groups;
     result.add(Arg::dst, {}, {0, of_field * 8});
     for (const Arg y : {Arg::y1, Arg::y2}) result.add(y, {0, of_field * 2}, {});

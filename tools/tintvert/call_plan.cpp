@@ -16,13 +16,6 @@ namespace {
 using catalog::Arg;
 using catalog::Range;
 
-Range join(Range one, Range other)
-{
-    if (one.empty()) return other;
-    if (other.empty()) return one;
-    return {std::min(one.begin, other.begin), std::max(one.end, other.end)};
-}
-
 // A picture of one colour: runs of up to 254 pixels, line ends, the end.
 std::vector<uint8_t> plain_stream(int64_t width, int64_t height)
 {

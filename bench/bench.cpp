@@ -59,8 +59,8 @@ void repeat(benchmark::State& state, Work work)
 
 void run_memcpy(benchmark::State& state, int64_t moved)
 {
-    std::vector<uint8_t> from(static_cast<size_t>(moved / 2), 1), to(from.size());
-    repeat(state, [&] { std::memcpy(to.data(), from.data(), from.size()); });
+    const Placed to(0, moved / 2, 0), from(0, moved / 2, 1);
+    repeat(state, [&] { std::memcpy(to.pointer(), from.pointer(), static_cast<size_t>(moved / 2)); });
 }
 
 void run_tier(benchmark::State& state, const catalog::Routine* routine, const Size* size, Tier tier)

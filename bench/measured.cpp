@@ -40,9 +40,9 @@ Measured::Measured(const Routine& routine, const Size& picture)
 {
     const bool coded = routine.from == "rle8";
     if (coded) {
-        const auto& stream = buffers_.emplace_back(coded_picture(picture));
-        call[Arg::src] = reinterpret_cast<int64_t>(stream.data());
-        call[Arg::streamSize] = static_cast<int64_t>(stream.size());
+        stream_ = coded_picture(picture);
+        call[Arg::src] = reinterpret_cast<int64_t>(stream_.data());
+        call[Arg::streamSize] = static_cast<int64_t>(stream_.size());
     }
     for (const Touch& touch : routine.extents(call)) {
         const Range read = touch.read, written = touch.written;
@@ -51,9 +51,8 @@ Measured::Measured(const Routine& routine, const Size& picture)
         if (coded && touch.buffer == Arg::src) continue;
         const int64_t begin = std::min({int64_t{0}, read.begin, written.begin});
         const int64_t end = std::max({int64_t{0}, read.end, written.end});
-        auto& buffer = buffers_.emplace_back(static_cast<size_t>(end - begin));
-        for (size_t i = 0; i < buffer.size(); ++i) buffer[i] = static_cast<uint8_t>(i * 167 >> 3);
-        call[touch.buffer] = reinterpret_cast<int64_t>(buffer.data() - begin);
+        const Placed& buffer = buffers_.emplace_back(begin, end, static_cast<int64_t>(buffers_.size()));
+        call[touch.buffer] = buffer.address();
     }
 }
 

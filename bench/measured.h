@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "catalog.h"
+#include "placed.h"
 
 namespace tintvert::bench {
 
@@ -25,7 +26,8 @@ struct Measured {
     uint8_t* buffer(catalog::Arg argument) const { return call.as<uint8_t*>(argument); }
 
 private:
-    std::vector<std::vector<uint8_t>> buffers_;
+    std::vector<uint8_t> stream_;
+    std::vector<Placed> buffers_;
 };
 
 }  // namespace tintvert::bench

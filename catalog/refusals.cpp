@@ -65,8 +65,11 @@ struct Size {
 
 using Rule = Reason (*)(const Arguments&);
 
+Reason no_rule(const Arguments&) { return {}; }
+
 constexpr auto rules = [] {
     std::array<Rule, routine_count> table{};
+    table.fill(no_rule);
 #define TNTVT_REFUSES(routine, rule) table[static_cast<size_t>(RoutineId::routine)] = refusals::rule;
 #include "refusals.def"
 #undef TNTVT_REFUSES
@@ -83,10 +86,7 @@ Reason reason_by(const Arguments& call)
     }
     (std::make_index_sequence<shape.size()>{});
     if (!fits || !size.fits_in_memory()) return {Refusal::too_large, "the numbers make more than memory can hold"};
-    if constexpr (rule == nullptr)
-        return {};
-    else
-        return rule(call);
+    return rule(call);
 }
 
 constexpr Rule reasons[] = {

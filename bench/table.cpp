@@ -105,6 +105,8 @@ std::string as_markdown(const std::vector<Row>& rows, std::string_view machine, 
         "no wide form of a tier, the next lower one runs and the row shows it again. libycbcr chooses its own form:\n"
         "the rows of `tntvt_yuv422_8_rgb32`, `tntvt_yuv422_10_rgb32`, `tntvt_i420_rgb32` and `tntvt_yv12_rgb32`\n"
         "show the widest. A peer may do less or round otherwise; [peers.md](peers.md) says which bytes agree.\n\n"
+        "Frames are noise. RGB to `2vuy` by the BT.601 matrix takes greys, whose chroma is a whole number, in doubles:\n"
+        "a frame of them takes twice as long.\n\n"
         "![The widest tier and the plain form beside memcpy](performance.svg)\n\n"
         "| routine | tier | slice ns/px | x memcpy | x peer | frame ns/px | x memcpy | x peer | peer |\n"
         "|---|---|--:|--:|--:|--:|--:|--:|---|\n",

@@ -22,6 +22,9 @@ inline Range lines(int64_t first, int64_t stride, int64_t count, int64_t bytes)
     return join({first, first + bytes}, {last, last + bytes});
 }
 
+// The distance of the lines that a reduction takes. Where it takes none, no refusal holds the product small.
+inline int64_t reduced_stride(int64_t stride, int64_t scale, int64_t rows) { return rows < 1 ? 0 : stride * scale; }
+
 // The first and the last `few` of `count` lines, each once: where lines follow a pattern that repeats after
 // `few` or fewer, one of these is the lowest and one the highest.
 template <class Visit>

@@ -29,7 +29,8 @@ Extents yuv422_rgb24(const Arguments& call)
     const Walk line = walk(call, scale, true);
     const int64_t pixel_bytes = call[Arg::width] / scale * 4 <= call[Arg::dstStride] ? 4 : 3;
     result.add(Arg::dst, {}, lines(0, call[Arg::dstStride], line.rows, line.pixels * pixel_bytes));
-    result.add(Arg::src, lines(0, call[Arg::srcStride] * scale, line.rows, line.read_bytes), {});
+    result.add(Arg::src, lines(0, reduced_stride(call[Arg::srcStride], scale, line.rows), line.rows, line.read_bytes),
+               {});
     return result;
 }
 
@@ -39,7 +40,7 @@ Extents yuv422_rgb16(const Arguments& call)
     Extents result;
     const int64_t scale = call[Arg::scale] == 0 ? 1 : call[Arg::scale];
     const Walk line = walk(call, scale, false);
-    const int64_t stride = call[Arg::srcStride] * scale;
+    const int64_t stride = reduced_stride(call[Arg::srcStride], scale, line.rows);
     const int64_t first = line.rows == 1 ? stride : 0;
     const int64_t count = line.rows == 1 ? 1 : round_up(line.rows, 2);
     result.add(Arg::dst, {}, lines(0, call[Arg::dstStride], line.rows, line.pixels * 2));

@@ -18,7 +18,7 @@ Extents reduced(const Arguments& call, int64_t scale, int64_t pixel_bytes, bool 
     const int64_t last_sample = 4 * last_pair + (both && second_luma ? 3 : 2);
     const int64_t line = pairs == 0 ? 0 : last_sample / 3 * 4 + last_sample % 3 + 2;
     result.add(Arg::dst, {}, lines(0, call[Arg::dstStride], rows, pairs * (both ? 2 : 1) * pixel_bytes));
-    result.add(Arg::src, lines(0, call[Arg::srcStride] * scale, rows, line), {});
+    result.add(Arg::src, lines(0, reduced_stride(call[Arg::srcStride], scale, rows), rows, line), {});
     return result;
 }
 

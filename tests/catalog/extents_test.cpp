@@ -46,5 +46,19 @@ TEST(Extents, yuv422_rgb)
     }
 }
 
+// Where no row is left, numbers of any size touch nothing.
+TEST(Extents, reduction_to_no_row_touches_nothing)
+{
+    for (const char* name : {"tntvt_yuv422_rgb24", "tntvt_yuv422_rgb16", "tntvt_v210_rgb24", "tntvt_v210_rgb16"}) {
+        catalog::Arguments call;
+        call[Arg::width] = 64;
+        call[Arg::height] = 8;
+        call[Arg::scale] = -INT32_MAX;
+        call[Arg::dstStride] = call[Arg::srcStride] = UINT32_MAX * int64_t{2};
+        for (const catalog::Touch& touch : catalog::find(name)->extents(call))
+            EXPECT_TRUE(touch.read.empty() && touch.written.empty()) << name;
+    }
+}
+
 }  // namespace
 }  // namespace tintvert::test

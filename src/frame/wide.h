@@ -26,13 +26,15 @@ inline Tier tier_of_machine()
 #endif
 }
 
-// Asked once a call; the library keeps no answer. Tests and benchmarks of the forms hold a tier of their own.
+// Tests and benchmarks of the forms hold a tier of their own.
 #ifdef TINTVERT_TIER_HELD_BY_PROGRAM
 extern Tier highest_tier;
-inline Tier tier() { return std::min(highest_tier, tier_of_machine()); }
 #else
-inline Tier tier() { return tier_of_machine(); }
+constexpr Tier highest_tier = Tier::vbmi;
 #endif
+
+// Asked once a call; the library keeps no answer.
+inline Tier tier() { return std::min(highest_tier, tier_of_machine()); }
 
 // Where two runs of bytes share none, the order of loads and stores cannot show.
 inline bool disjoint(const uint8_t* one, long one_bytes, const uint8_t* other, long other_bytes)

@@ -126,6 +126,10 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
     const int64_t slack = any_of(random, {0, 0, 1, 2, 4, 16, 64, 77});
     c[Arg::dstStride] += slack;
     c[Arg::srcStride] += any_of(random, {0, slack, 1, 4, 8, 64});
+    if (routine.name == "tntvt_rgba_full") {  // its strides tell the sizes of a pixel
+        c[Arg::dstStride] = width * any_of(random, {3, 4}) + std::min(slack, width / 2);
+        c[Arg::srcStride] = width * any_of(random, {3, 4, 4, 8});
+    }
     // A flip of fields keeps a line of the source in a scratch line of the destination's length.
     if (routine.shape == "field_change") c[Arg::srcStride] = std::min(c[Arg::srcStride], c[Arg::dstStride]);
     c[Arg::stride] += any_of(random, {0, 0, 4, 6, 64});

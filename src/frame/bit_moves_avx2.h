@@ -86,6 +86,7 @@ struct Avx2BitMoves {
         }
     };
     static constexpr Plan plan{};
+    static constexpr bool one_shuffle = whole && half_bytes == 16 && plan.parts == 1;
 
     // A step loads whole windows; the last one ends where the last unit's own reads do, or before.
     static constexpr int end_of_loads =
@@ -132,6 +133,8 @@ struct Avx2BitMoves {
         _mm_storel_epi64(reinterpret_cast<__m128i*>(to + 16), _mm256_extracti128_si256(closed, 1));
     }
 
+    static long leading(long count) { return count < room ? 0 : ((count - room) / units + 1) * units; }
+
     // Leading pixels; with `down` the rightmost step goes first.
     TNTVT_AVX2 static long run_avx2(uint8_t* to, const uint8_t* from, long count, bool down)
     {
@@ -139,10 +142,12 @@ struct Avx2BitMoves {
         if (takes_alpha<Units>())
             rest = _mm256_or_si256(rest,
                                    _mm256_and_si256(constant_avx2(plan.alpha), _mm256_set1_epi8(static_cast<char>(a))));
-        const long steps = count < room ? 0 : (count - room) / units + 1;
-        long x = down ? (steps - 1) * units : 0;
-        for (long n = 0; n < steps; ++n, x += down ? -units : units)
-            store_avx2(to + x * dst, _mm256_or_si256(step_avx2(from + x * src), rest));
+        const long steps = leading(count) / units;
+        const long first = down ? (steps - 1) * units : 0, apart = down ? -units : units;
+        to += first * dst;
+        from += first * src;
+        for (long n = 0; n < steps; ++n, to += apart * dst, from += apart * src)
+            store_avx2(to, _mm256_or_si256(step_avx2(from), rest));
         return steps * units;
     }
 };

@@ -121,9 +121,11 @@ struct VbmiBitMoves {
         if (left > 0)
             step_vbmi(to + steps * units * dst, from + steps * units * src, rest, plan.read & ones(left * src),
                       plan.stored & ones(left * dst));
-        long x = down ? (steps - 1) * units : 0;
-        for (long n = 0; n < steps; ++n, x += down ? -units : units)
-            step_vbmi(to + x * dst, from + x * src, rest, plan.read, plan.stored);
+        const long first = down ? (steps - 1) * units : 0, apart = down ? -units : units;
+        to += first * dst;
+        from += first * src;
+        for (long n = 0; n < steps; ++n, to += apart * dst, from += apart * src)
+            step_vbmi(to, from, rest, plan.read, plan.stored);
         return count;
     }
 };

@@ -46,7 +46,7 @@ TEST(Extents, yuv422_rgb)
     }
 }
 
-// Where no row is left, numbers of any size touch nothing.
+// Where no row is left, numbers of any size touch nothing. An overflowing product shows under the sanitizers.
 TEST(Extents, reduction_to_no_row_touches_nothing)
 {
     for (const char* name : {"tntvt_yuv422_rgb24", "tntvt_yuv422_rgb16", "tntvt_v210_rgb24", "tntvt_v210_rgb16"}) {

@@ -1,4 +1,4 @@
-// Every routine of the catalogue at every tier of the machine, over a 1080p frame and over a slice of sixteen
+// Every routine of the catalogue at every level of the machine, over a 1080p frame and over a slice of sixteen
 // lines, beside memcpy of the same bytes and beside the peers, in one run.
 #include <benchmark/benchmark.h>
 
@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/wide.h"
+#include "frame/simd.h"
 #include "measured.h"
 #include "peers/peers.h"
 #include "table.h"
 
 namespace tintvert {
-Tier highest_tier = Tier::vbmi;
+InstructionSet highest_instruction_set = InstructionSet::avx512;
 }
 
 using namespace tintvert;
@@ -28,8 +28,11 @@ namespace {
 
 constexpr struct {
     const char* name;
-    Tier tier;
-} tiers[] = {{"plain", Tier::plain}, {"base", Tier::base}, {"avx2", Tier::avx2}, {"vbmi", Tier::vbmi}};
+    InstructionSet level;
+} levels[] = {{"scalar", InstructionSet::scalar},
+              {"sse2", InstructionSet::sse2},
+              {"avx2", InstructionSet::avx2},
+              {"avx512", InstructionSet::avx512}};
 
 // The processor's own name for itself.
 std::string machine()
@@ -63,10 +66,10 @@ void run_memcpy(benchmark::State& state, int64_t moved)
     repeat(state, [&] { std::memcpy(to.pointer(), from.pointer(), static_cast<size_t>(moved / 2)); });
 }
 
-void run_tier(benchmark::State& state, const catalog::Routine* routine, const Size* size, Tier tier)
+void run_level(benchmark::State& state, const catalog::Routine* routine, const Size* size, InstructionSet level)
 {
     const Measured measured(*routine, *size);
-    highest_tier = tier;
+    highest_instruction_set = level;
     repeat(state, [&] { routine->call(measured.call); });
 }
 
@@ -83,9 +86,9 @@ void add(const catalog::Routine& routine, const Size& size)
     if (measured.moved == 0) return;
     const std::string prefix = std::string{routine.name} + '@' + size.name + '@';
     benchmark::RegisterBenchmark((prefix + "memcpy").c_str(), run_memcpy, measured.moved);
-    for (const auto& [name, tier] : tiers)
-        if (tier <= tier_of_machine())
-            benchmark::RegisterBenchmark((prefix + name).c_str(), run_tier, &routine, &size, tier);
+    for (const auto& [name, level] : levels)
+        if (level <= machine_instruction_set())
+            benchmark::RegisterBenchmark((prefix + name).c_str(), run_level, &routine, &size, level);
     const std::vector<Peer> peers = peers_of(routine, measured);
     for (size_t i = 0; i < peers.size(); ++i)
         benchmark::RegisterBenchmark((prefix + peers[i].name).c_str(), run_peer, &routine, &size, i);

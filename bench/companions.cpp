@@ -1,4 +1,4 @@
-// libycbcr, and each of its tiers that the machine has, beside what a user can put together today: libyuv for
+// libycbcr, and each of its levels that the machine has, beside what a user can put together today: libyuv for
 // 8 bits, libavcodec's v210 decoder followed by libyuv for 10. 1080p frames, one thread.
 #include <benchmark/benchmark.h>
 #include <libyuv.h>
@@ -35,14 +35,14 @@ void measure(benchmark::State& state, size_t source_bytes, Work work)
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-// The frame line by line in one tier.
+// The frame line by line in one level.
 template <class FormOfLine>
-void measure_tier(benchmark::State& state, ycbcr::Tier tier, size_t source_bytes, FormOfLine form_of_line)
+void measure_level(benchmark::State& state, ycbcr::InstructionSet level, size_t source_bytes, FormOfLine form_of_line)
 {
-    if (!ycbcr::machine_has(tier)) return state.SkipWithError("this machine has no such tier");
+    if (!ycbcr::machine_has(level)) return state.SkipWithError("this machine has no such level");
     measure(state, source_bytes, [&](uint8_t* dst, const uint8_t* src) {
         for (int y = 0; y < height; ++y)
-            ycbcr::line(tier, dst + y * width * 4, form_of_line(src, y), width, ycbcr::bt601);
+            ycbcr::line(level, dst + y * width * 4, form_of_line(src, y), width, ycbcr::bt601);
     });
 }
 
@@ -53,10 +53,10 @@ void uyvy_ours(benchmark::State& state)
     });
 }
 
-void uyvy_tier(benchmark::State& state, ycbcr::Tier tier)
+void uyvy_level(benchmark::State& state, ycbcr::InstructionSet level)
 {
-    measure_tier(state, tier, width * height * 2,
-                 [](const uint8_t* src, int y) { return ycbcr::Uyvy{src + y * width * 2}; });
+    measure_level(state, level, width * height * 2,
+                  [](const uint8_t* src, int y) { return ycbcr::Uyvy{src + y * width * 2}; });
 }
 
 void uyvy_libyuv(benchmark::State& state)
@@ -72,9 +72,9 @@ void i420_ours(benchmark::State& state)
     });
 }
 
-void i420_tier(benchmark::State& state, ycbcr::Tier tier)
+void i420_level(benchmark::State& state, ycbcr::InstructionSet level)
 {
-    measure_tier(state, tier, width * height * 3 / 2, [](const uint8_t* src, int y) {
+    measure_level(state, level, width * height * 3 / 2, [](const uint8_t* src, int y) {
         const uint8_t* const cb = src + width * height + y / 2 * (width / 2);
         return ycbcr::Planar{src + y * width, cb, cb + width * height / 4, width / 2};
     });
@@ -98,10 +98,10 @@ void v210_ours(benchmark::State& state)
     });
 }
 
-void v210_tier(benchmark::State& state, ycbcr::Tier tier)
+void v210_level(benchmark::State& state, ycbcr::InstructionSet level)
 {
-    measure_tier(state, tier, v210_line * height,
-                 [](const uint8_t* src, int y) { return ycbcr::V210{src + y * v210_line}; });
+    measure_level(state, level, v210_line * height,
+                  [](const uint8_t* src, int y) { return ycbcr::V210{src + y * v210_line}; });
 }
 
 void v210_libavcodec_libyuv(benchmark::State& state)
@@ -132,18 +132,18 @@ void v210_libavcodec_libyuv(benchmark::State& state)
 }  // namespace
 
 BENCHMARK(uyvy_ours);
-BENCHMARK_CAPTURE(uyvy_tier, plain, ycbcr::Tier::plain);
-BENCHMARK_CAPTURE(uyvy_tier, avx2, ycbcr::Tier::avx2);
-BENCHMARK_CAPTURE(uyvy_tier, vbmi, ycbcr::Tier::vbmi);
+BENCHMARK_CAPTURE(uyvy_level, scalar, ycbcr::InstructionSet::scalar);
+BENCHMARK_CAPTURE(uyvy_level, avx2, ycbcr::InstructionSet::avx2);
+BENCHMARK_CAPTURE(uyvy_level, avx512, ycbcr::InstructionSet::avx512);
 BENCHMARK(uyvy_libyuv);
 BENCHMARK(i420_ours);
-BENCHMARK_CAPTURE(i420_tier, plain, ycbcr::Tier::plain);
-BENCHMARK_CAPTURE(i420_tier, avx2, ycbcr::Tier::avx2);
-BENCHMARK_CAPTURE(i420_tier, vbmi, ycbcr::Tier::vbmi);
+BENCHMARK_CAPTURE(i420_level, scalar, ycbcr::InstructionSet::scalar);
+BENCHMARK_CAPTURE(i420_level, avx2, ycbcr::InstructionSet::avx2);
+BENCHMARK_CAPTURE(i420_level, avx512, ycbcr::InstructionSet::avx512);
 BENCHMARK(i420_libyuv);
 BENCHMARK(v210_ours);
-BENCHMARK_CAPTURE(v210_tier, plain, ycbcr::Tier::plain);
-BENCHMARK_CAPTURE(v210_tier, avx2, ycbcr::Tier::avx2);
-BENCHMARK_CAPTURE(v210_tier, vbmi, ycbcr::Tier::vbmi);
+BENCHMARK_CAPTURE(v210_level, scalar, ycbcr::InstructionSet::scalar);
+BENCHMARK_CAPTURE(v210_level, avx2, ycbcr::InstructionSet::avx2);
+BENCHMARK_CAPTURE(v210_level, avx512, ycbcr::InstructionSet::avx512);
 BENCHMARK(v210_libavcodec_libyuv);
 BENCHMARK_MAIN();

@@ -10,7 +10,7 @@ namespace tintvert::bench {
 namespace {
 
 constexpr size_t frame = std::size(sizes) - 1;
-constexpr std::string_view tiers[] = {"plain", "base", "avx2", "vbmi"};
+constexpr std::string_view levels[] = {"scalar", "sse2", "avx2", "avx512"};
 
 double find(const Medians& medians, const std::string& name)
 {
@@ -25,7 +25,7 @@ std::string quickest_peer(const Medians& medians, const std::string& prefix)
     double least = 0;
     for (auto it = medians.lower_bound(prefix); it != medians.end() && it->first.starts_with(prefix); ++it) {
         const std::string name = it->first.substr(prefix.size());
-        if (name == "memcpy" || std::ranges::find(tiers, name) != std::end(tiers)) continue;
+        if (name == "memcpy" || std::ranges::find(levels, name) != std::end(levels)) continue;
         if (least == 0 || it->second < least) {
             least = it->second;
             quickest = name;
@@ -44,12 +44,12 @@ std::vector<Row> rows_of(const Medians& medians)
     for (const catalog::Routine& routine : catalog::routines()) {
         const std::string at_frame = fmt::format("{}@{}@", routine.name, sizes[frame].name);
         const std::string peer = quickest_peer(medians, at_frame);
-        for (const std::string_view tier : tiers) {
-            if (find(medians, at_frame + std::string{tier}) == 0) continue;
-            Row row{std::string{routine.name}, std::string{tier}, {}, {}, {}, peer};
+        for (const std::string_view level : levels) {
+            if (find(medians, at_frame + std::string{level}) == 0) continue;
+            Row row{std::string{routine.name}, std::string{level}, {}, {}, {}, peer};
             for (size_t i = 0; i < std::size(sizes); ++i) {
                 const std::string at = fmt::format("{}@{}@", routine.name, sizes[i].name);
-                const double ns = find(medians, at + row.tier), copy = find(medians, at + "memcpy"),
+                const double ns = find(medians, at + row.level), copy = find(medians, at + "memcpy"),
                              other = peer.empty() ? 0 : find(medians, at + peer);
                 row.ns[i] = ns / static_cast<double>(sizes[i].width * sizes[i].height);
                 row.of_memcpy[i] = ns / copy;
@@ -63,11 +63,11 @@ std::vector<Row> rows_of(const Medians& medians)
 
 std::string as_text(const std::vector<Row>& rows)
 {
-    std::string text = fmt::format("{:32} {:6}", "routine", "tier");
+    std::string text = fmt::format("{:32} {:6}", "routine", "level");
     for (const Size& size : sizes) text += fmt::format("{:>7} ns/px  x memcpy  x peer", size.name);
     text += "   peer\n";
     for (const Row& row : rows) {
-        text += fmt::format("{:32} {:6}", row.routine, row.tier);
+        text += fmt::format("{:32} {:6}", row.routine, row.level);
         for (size_t i = 0; i < std::size(sizes); ++i)
             text += fmt::format("{:13.3f} {:>9} {:>7}", row.ns[i], ratio(row.of_memcpy[i]), ratio(row.of_peer[i]));
         text += fmt::format("   {}\n", row.peer);
@@ -79,7 +79,7 @@ std::string as_json(const std::vector<Row>& rows, std::string_view machine)
 {
     nlohmann::json json = {{"schema", 1}, {"machine", machine}, {"rows", nlohmann::json::array()}};
     for (const Row& row : rows) {
-        nlohmann::json entry = {{"routine", row.routine}, {"tier", row.tier}};
+        nlohmann::json entry = {{"routine", row.routine}, {"level", row.level}};
         if (!row.peer.empty()) entry["peer"] = row.peer;
         for (size_t i = 0; i < std::size(sizes); ++i) {
             nlohmann::json& size = entry[sizes[i].name];
@@ -101,22 +101,24 @@ std::string as_markdown(const std::vector<Row>& rows, std::string_view machine, 
         "hand;\n"
         "below 1 the routine is ahead. `slice` is 1920x16 again and again, which the second-level cache holds, and\n"
         "`frame` 1920x1080. Every buffer begins on a cache line, at a place of its own within a page.\n\n"
-        "The tiers are the plain form, what every x86-64 has (base), AVX2, and AVX-512 with VBMI; where a routine has\n"
-        "no wide form of a tier, the next lower one runs and the row shows it again. libycbcr chooses its own form:\n"
+        "The levels are the scalar version, what every x86-64 has (base), AVX2, and AVX-512 with VBMI; where a routine "
+        "has\n"
+        "no SIMD version of a level, the next lower one runs and the row shows it again. libycbcr chooses its own "
+        "form:\n"
         "the rows of `tntvt_yuv422_8_rgb32`, `tntvt_yuv422_10_rgb32`, `tntvt_i420_rgb32` and `tntvt_yv12_rgb32`\n"
         "show the widest. A peer may do less or round otherwise; [peers.md](peers.md) says which bytes agree.\n\n"
         "Frames are noise. RGB to `2vuy` by the BT.601 matrix takes greys, whose chroma is a whole number, in "
         "doubles:\n"
         "a frame of them takes twice as long.\n\n"
-        "![The widest tier and the plain form beside memcpy](performance.svg)\n\n"
-        "| routine | tier | slice ns/px | x memcpy | x peer | frame ns/px | x memcpy | x peer | peer |\n"
+        "![The widest level and the scalar version beside memcpy](performance.svg)\n\n"
+        "| routine | level | slice ns/px | x memcpy | x peer | frame ns/px | x memcpy | x peer | peer |\n"
         "|---|---|--:|--:|--:|--:|--:|--:|---|\n",
         date, machine);
     for (const Row& row : rows) {
-        text += fmt::format("| {} | {} ", row.tier == "plain" ? row.routine : "", row.tier);
+        text += fmt::format("| {} | {} ", row.level == "scalar" ? row.routine : "", row.level);
         for (size_t i = 0; i < std::size(sizes); ++i)
             text += fmt::format("| {:.3f} | {} | {} ", row.ns[i], ratio(row.of_memcpy[i]), ratio(row.of_peer[i]));
-        text += fmt::format("| {} |\n", row.tier == "plain" ? row.peer : "");
+        text += fmt::format("| {} |\n", row.level == "scalar" ? row.peer : "");
     }
     return text;
 }
@@ -126,7 +128,7 @@ std::string as_plot_data(const std::vector<Row>& rows)
     std::string text;
     for (size_t i = 0; i < rows.size(); ++i) {
         const bool last = i + 1 == rows.size() || rows[i + 1].routine != rows[i].routine;
-        if (rows[i].tier == "plain") text += fmt::format("{} {:.3f}", rows[i].routine, rows[i].of_memcpy[frame]);
+        if (rows[i].level == "scalar") text += fmt::format("{} {:.3f}", rows[i].routine, rows[i].of_memcpy[frame]);
         if (last) text += fmt::format(" {:.3f}\n", rows[i].of_memcpy[frame]);
     }
     return text;

@@ -24,10 +24,10 @@ struct Fact {
     RoutineId routine;
     std::string_view name;
 };
-constexpr Fact oddities[] = {
-#define TNTVT_ODDITY(name, routine) {RoutineId::routine, #name},
-#include "oddities.def"
-#undef TNTVT_ODDITY
+constexpr Fact quirks[] = {
+#define TNTVT_QUIRK(name, routine) {RoutineId::routine, #name},
+#include "quirks.def"
+#undef TNTVT_QUIRK
 };
 constexpr Fact companions[] = {
 #define TNTVT_COMPANION(routine, function) {RoutineId::routine, #function},
@@ -70,7 +70,7 @@ bool is_empty_entry(const Routine& routine)
     return false;
 }
 
-std::vector<std::string_view> oddities_of(const Routine& routine) { return names_of(routine, oddities); }
+std::vector<std::string_view> quirks_of(const Routine& routine) { return names_of(routine, quirks); }
 
 std::vector<std::string_view> companions_of(const Routine& routine) { return names_of(routine, companions); }
 

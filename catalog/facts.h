@@ -1,4 +1,4 @@
-// What else is known of each routine: its other names, its oddities, whom it calls, and who does the same work.
+// What else is known of each routine: its other names, its quirks, whom it calls, and who does the same work.
 #pragma once
 
 #include <optional>
@@ -15,8 +15,8 @@ const Routine* alias_of(const Routine& routine);
 // Takes its arguments and does nothing.
 bool is_empty_entry(const Routine& routine);
 
-// Names of docs/deliberate.md.
-std::vector<std::string_view> oddities_of(const Routine& routine);
+// Names of docs/quirks.md.
+std::vector<std::string_view> quirks_of(const Routine& routine);
 
 // Functions of the companion libraries.
 std::vector<std::string_view> companions_of(const Routine& routine);

@@ -11,7 +11,7 @@
 namespace ycbcr {
 
 // Chroma weights alternate like chroma words: Cb, Cr.
-struct WideWeights {
+struct SimdWeights {
     __m256i luma, blue_red, green;
 };
 
@@ -20,7 +20,7 @@ YCBCR_AVX2 __m256i alternate(int cb, int cr)
     return _mm256_set1_epi32(static_cast<int>(static_cast<uint32_t>(cr) << 16 | static_cast<uint32_t>(cb)));
 }
 
-YCBCR_AVX2 WideWeights widen(const Weights& w)
+YCBCR_AVX2 SimdWeights widen(const Weights& w)
 {
     return {alternate(w.luma, w.luma), alternate(w.blue_cb, w.red_cr), alternate(w.green_cb, w.green_cr)};
 }
@@ -28,12 +28,12 @@ YCBCR_AVX2 WideWeights widen(const Weights& w)
 YCBCR_AVX2 __m256i in_both_halves(__m128i bytes) { return _mm256_broadcastsi128_si256(bytes); }
 
 // Pixels 0 to 3 and 8 to 11 (`low`), 4 to 7 and 12 to 15 (`high`) of sixteen pixels as bytes.
-struct WidePixels {
+struct SimdPixels {
     __m256i low, high;
 };
 
 // Sixteen luma words, and the chroma words Cb, Cr of each pair in the same places.
-YCBCR_AVX2 WidePixels convert(const WideWeights& w, __m256i luma, __m256i chroma)
+YCBCR_AVX2 SimdPixels convert(const SimdWeights& w, __m256i luma, __m256i chroma)
 {
     const __m256i first = in_both_halves(_mm_setr_epi8(0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13));
     const __m256i second = in_both_halves(_mm_setr_epi8(2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15));
@@ -51,7 +51,7 @@ YCBCR_AVX2 WidePixels convert(const WideWeights& w, __m256i luma, __m256i chroma
     return {_mm256_unpacklo_epi8(b_r, g_a), _mm256_unpackhi_epi8(b_r, g_a)};
 }
 
-YCBCR_AVX2 void store_16(uint8_t* dst, const WidePixels& pixels)
+YCBCR_AVX2 void store_16(uint8_t* dst, const SimdPixels& pixels)
 {
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst), _mm256_permute2x128_si256(pixels.low, pixels.high, 0x20));
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + 32), _mm256_permute2x128_si256(pixels.low, pixels.high, 0x31));

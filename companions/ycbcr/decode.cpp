@@ -37,11 +37,11 @@ template <class LineOf>
 int decode(const Picture& picture, LineOf form_of_line)
 {
     const Weights& w = weights_of(picture.matrix);
-    const Tier tier = TINTVERT_WIDE ? best_tier() : Tier::plain;
+    const InstructionSet level = TINTVERT_SIMD ? best_level() : InstructionSet::scalar;
     for (long y = 0; y < picture.lines; ++y) {
         const long place = (picture.flags & CYCBCR_BOTTOM_UP) != 0 ? picture.lines - 1 - y : y;
         uint8_t* dst = advance(picture.dst, place * picture.dst_stride);
-        line(tier, dst, form_of_line(y), picture.width, w);
+        line(level, dst, form_of_line(y), picture.width, w);
     }
     return 0;
 }

@@ -7,8 +7,8 @@
 #include <cstring>
 
 #include "avx2.h"
+#include "avx512.h"
 #include "matrix.h"
-#include "vbmi.h"
 
 namespace ycbcr {
 
@@ -31,7 +31,7 @@ struct Uyvy {
 
     static int sampled(int width) { return width; }
     static constexpr int step_pixels = 16;
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
     {
         const __m256i words = load_32(line + x * 2);  // luma in the high byte, chroma in the low
         const __m256i luma = _mm256_and_si256(words, _mm256_set1_epi16(-256));
@@ -42,7 +42,7 @@ struct Uyvy {
     static constexpr int bytes_of(int pixels) { return pixels * 2 + pixels % 2; }
 
     static constexpr int step_pixels_512 = 32;
-    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
+    YCBCR_AVX512 Operands512 operands(int step, int part, int pixels) const
     {
         const int x = step + part;
         const __m512i words = load_bytes(line + x * 2, bytes_of(pixels));
@@ -84,14 +84,14 @@ struct V210 {
         const __m256i places = _mm256_shuffle_epi8(words, in_both_halves(bytes));
         return _mm256_and_si256(_mm256_mullo_epi16(places, in_both_halves(factors)), _mm256_set1_epi16(-64));
     }
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
     {
         const __m256i words = load_32(line + x / 6 * 16);
         const __m256i luma = fields(words, _mm_setr_epi8(1, 2, 4, 5, 6, 7, 9, 10, 12, 13, 14, 15, -1, -1, -1, -1),
                                     _mm_setr_epi16(16, 64, 4, 16, 64, 4, 0, 0));
         const __m256i chroma = fields(words, _mm_setr_epi8(0, 1, 2, 3, 5, 6, 8, 9, 10, 11, 13, 14, -1, -1, -1, -1),
                                       _mm_setr_epi16(64, 4, 16, 64, 4, 16, 0, 0));
-        const WidePixels p = convert(w, luma, centred(chroma));
+        const SimdPixels p = convert(w, luma, centred(chroma));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(dst), _mm256_castsi256_si128(p.low));
         _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + 16), _mm256_castsi256_si128(p.high));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(dst + 24), _mm256_extracti128_si256(p.low, 1));
@@ -102,7 +102,7 @@ struct V210 {
     static constexpr int bytes_of(int pixels) { return (2 * pixels - (pixels % 2 == 0 ? 1 : 0)) / 3 * 4 + 4; }
 
     static constexpr int step_pixels_512 = 96;
-    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
+    YCBCR_AVX512 Operands512 operands(int step, int part, int pixels) const
     {
         const int first = part % 6;
         const TwoRegisters groups = load_two(line + step / 6 * 16 + part / 6 * 16, bytes_of(first + pixels));
@@ -129,7 +129,7 @@ struct Planar {
 
     int sampled(int) const { return samples * 2; }
     static constexpr int step_pixels = 16;
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
     {
         const __m128i luma = _mm_loadu_si128(reinterpret_cast<const __m128i*>(y + x));
         const __m128i pairs = _mm_unpacklo_epi8(load_8(cb + x / 2), load_8(cr + x / 2));
@@ -138,7 +138,7 @@ struct Planar {
     }
 
     static constexpr int step_pixels_512 = 32;
-    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
+    YCBCR_AVX512 Operands512 operands(int step, int part, int pixels) const
     {
         const int x = step + part;
         const auto pairs = static_cast<__mmask16>(~0U >> (32 - pixels / 2));

@@ -1,20 +1,20 @@
-// A line in the plain form and in each wide one. All make the same bytes.
+// A line in the scalar version and in each wide one. All make the same bytes.
 #pragma once
 
 #include "forms.h"
 
 namespace ycbcr {
 
-enum class Tier { plain, avx2, vbmi };
+enum class InstructionSet { scalar, avx2, avx512 };
 
-inline bool machine_has(Tier tier)
+inline bool machine_has(InstructionSet level)
 {
-    switch (tier) {
-        case Tier::plain:
+    switch (level) {
+        case InstructionSet::scalar:
             return true;
-        case Tier::avx2:
+        case InstructionSet::avx2:
             return __builtin_cpu_supports("avx2");
-        case Tier::vbmi:
+        case InstructionSet::avx512:
             return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
                    __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
                    __builtin_cpu_supports("avx512vbmi");
@@ -22,9 +22,11 @@ inline bool machine_has(Tier tier)
     return false;
 }
 
-inline Tier best_tier()
+inline InstructionSet best_level()
 {
-    return machine_has(Tier::vbmi) ? Tier::vbmi : machine_has(Tier::avx2) ? Tier::avx2 : Tier::plain;
+    return machine_has(InstructionSet::avx512) ? InstructionSet::avx512
+           : machine_has(InstructionSet::avx2) ? InstructionSet::avx2
+                                               : InstructionSet::scalar;
 }
 
 template <class Form>
@@ -33,11 +35,11 @@ void line_plain(uint8_t* dst, const Form& src, int from, int width, const Weight
     for (int x = from; x < width; ++x) src.pixel(dst + static_cast<long>(x) * 4, x, w);
 }
 
-// Whole steps, and the rest in the plain form.
+// Whole steps, and the rest in the scalar version.
 template <class Form>
 YCBCR_AVX2 void line_avx2(uint8_t* dst, const Form& src, int width, const Weights& w)
 {
-    const WideWeights wide = widen(w);
+    const SimdWeights wide = widen(w);
     const int sampled = src.sampled(width);
     int x = 0;
     for (; sampled - x >= Form::step_pixels; x += Form::step_pixels) src.step(dst + static_cast<long>(x) * 4, x, wide);
@@ -46,7 +48,7 @@ YCBCR_AVX2 void line_avx2(uint8_t* dst, const Form& src, int width, const Weight
 
 // Whole steps, and what has chroma of its own of the rest behind masks, 32 pixels a part.
 template <class Form>
-YCBCR_VBMI void line_vbmi(uint8_t* dst, const Form& src, int width, const Weights& w)
+YCBCR_AVX512 void line_avx512(uint8_t* dst, const Form& src, int width, const Weights& w)
 {
     constexpr int step = Form::step_pixels_512;
     const Weights512 wide = widen_512(w);
@@ -63,15 +65,15 @@ YCBCR_VBMI void line_vbmi(uint8_t* dst, const Form& src, int width, const Weight
 }
 
 template <class Form>
-void line(Tier tier, uint8_t* dst, const Form& src, int width, const Weights& w)
+void line(InstructionSet level, uint8_t* dst, const Form& src, int width, const Weights& w)
 {
-    switch (tier) {
-        case Tier::plain:
+    switch (level) {
+        case InstructionSet::scalar:
             return line_plain(dst, src, 0, width, w);
-        case Tier::avx2:
+        case InstructionSet::avx2:
             return line_avx2(dst, src, width, w);
-        case Tier::vbmi:
-            return line_vbmi(dst, src, width, w);
+        case InstructionSet::avx512:
+            return line_avx512(dst, src, width, w);
     }
 }
 

@@ -16,7 +16,7 @@ TNTVT_BEGIN
  *   b3, b2, b1, b0   bgra2argb, argb2bgra
  *   b2, b1, b0, b3   abgr2argb, argb2abgr, bgra2rgba
  *
- * Deliberate: abgr2bgra and abgr2bgraMMX rotate in opposite directions, and each undoes the other.
+ * Quirks: abgr2bgra and abgr2bgraMMX rotate in opposite directions, and each undoes the other.
  *
  * First pixel first, each read whole before it is written: in place gives the same as apart, and where
  * the runs overlap otherwise, a later read sees what an earlier write left. `pixels` of 0 does nothing. */
@@ -50,7 +50,7 @@ TNTVT_API void tntvt_rgba32_argb32(void* dst, long dstStride, void* src, long sr
 /* The alpha byte b3 of each pixel as a 32-bit number, plus 1 where b2 and b1 are 0 and b0 is below 8. The
  * colours are lost, and b3 of 255 can come out as 256, the bytes 0, 1, 0, 0.
  *
- * Deliberate: this is no rotation and does not undo tntvt_rgba32_argb32; argb2rgba does.
+ * Quirks: this is no rotation and does not undo tntvt_rgba32_argb32; argb2rgba does.
  *
  * A line stands at the start of its stride. The sign of `height` says nothing. In place, with both
  * strides the same, the result is the same as apart. */
@@ -72,7 +72,7 @@ TNTVT_API void tntvt_rgb32_rgb24(void* dst, long dstStride, void* src, long srcS
  * A line stands at the start of its stride. The sign of `height` says nothing. First line and leftmost
  * pixel first; b0 is stored before b1 is read, and b1 before b2. The two are one routine.
  *
- * Deliberate: only the frame's first pixel is read whole before it is written. In place at strides of
+ * Quirks: only the frame's first pixel is read whole before it is written. In place at strides of
  * `width` x 3 and `width` x 4 the middle byte of pixel 1 of line 0 shows b0 and not b1. In place with
  * both strides the same each line has that, and each but line 0 also shows b0 and not b2 in the first
  * byte of its pixel 0. */
@@ -83,7 +83,7 @@ TNTVT_API void tntvt_rgb32_bgr24_inplace(void* dst, long dstStride, void* src, l
 /* 32-bit pixels cut down to 24, upside down: source line i goes to destination line `height` - 1 - i, as
  * b0, b1, b2 packed; b3 is not read. A line stands at the start of its stride.
  *
- * Deliberate: a negative `height` counts lines by its magnitude and places them as it stands, at line
+ * Quirks: a negative `height` counts lines by its magnitude and places them as it stands, at line
  * `height` - 1 and the ones in front of it, so all of them lie in front of `dst`. Not for use in place. */
 TNTVT_API void tntvt_rgba32_rgb24_invert(void* dst, long dstStride, void* src, long srcStride, long width, long height);
 
@@ -93,7 +93,7 @@ TNTVT_API void tntvt_rgba32_rgb24_invert(void* dst, long dstStride, void* src, l
  * sign of `height` says nothing. Last line and rightmost pixel first, one byte at a time, lowest byte
  * first. The four are one routine.
  *
- * Deliberate: in place at strides of `width` x 4 and `width` x 3, bytes 1 and 2 of pixel 1 and byte 2 of
+ * Quirks: in place at strides of `width` x 4 and `width` x 3, bytes 1 and 2 of pixel 1 and byte 2 of
  * the pixel after it in memory come out wrong, all others as apart. */
 TNTVT_API void tntvt_rgb24_rgba32_inplace(void* dst, long dstStride, void* src, long srcStride, long width,
                                           long height);
@@ -106,7 +106,7 @@ TNTVT_API void tntvt_rgb24_rgb32(void* dst, long dstStride, void* src, long srcS
  * A line stands at the end of its stride. The sign of `height` says nothing. Last line and rightmost
  * pixel first, byte 2 stored first, then 1, 0 and 3. The two are one routine.
  *
- * Deliberate: in place at strides of `width` x 4 and `width` x 3, byte 0 of the first two pixels in memory
+ * Quirks: in place at strides of `width` x 4 and `width` x 3, byte 0 of the first two pixels in memory
  * comes out wrong, all others as apart. */
 TNTVT_API void tntvt_rgb24_bgra32_inplace(void* dst, long dstStride, void* src, long srcStride, long width,
                                           long height);
@@ -119,7 +119,7 @@ TNTVT_API void tntvt_rgb24_bgr32_inplace(void* dst, long dstStride, void* src, l
  * pixel first; in place at strides of `width` x 4 and `width` x 2 the result is the same as apart. The four
  * are one routine.
  *
- * Deliberate: the low three bits are 0, so that 31 becomes 248. */
+ * Quirks: the low three bits are 0, so that 31 becomes 248. */
 TNTVT_API void tntvt_rgb16_rgba32_inplace(void* dst, long dstStride, void* src, long srcStride, long width,
                                           long height);
 TNTVT_API void tntvt_rgb16_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height);
@@ -135,7 +135,7 @@ TNTVT_API void tntvt_macbgr24_macargb32_inplace(void* dst, long dstStride, void*
 
 /* 24-bit pixels s0, s1, s2 widened to 32, s0, s1, s2, 255, upside down.
  *
- * Deliberate: the first pointer is read and the third is written, and the stride behind each belongs to
+ * Quirks: the first pointer is read and the third is written, and the stride behind each belongs to
  * the other. Written line i ends just before `dst` + i x `dstStride`, and comes from the line that ends
  * just before `src` + (`height` - 1 - i) x `srcStride`, by the signed `height`. The first written line and
  * the last line read lie in front of the two pointers, so a caller passes each pointer one stride past
@@ -172,7 +172,7 @@ TNTVT_API void tntvt_rgba32_rgb16(void* dst, long dstStride, void* src, long src
  * The routines from four channels do nothing if `height` is below 1. Those from three turn the picture
  * upside down if it is negative.
  *
- * Deliberate: nothing is rounded, and a value of more than `bits` bits wraps. The shift is taken modulo 32,
+ * Quirks: nothing is rounded, and a value of more than `bits` bits wraps. The shift is taken modulo 32,
  * so that `bits` below 8 gives 0 everywhere. The alpha made for three channels is 0. The flip of
  * tntvt_bgr48_rgba32 falls one line short: the last source line goes to the line that ends just before
  * `dst`, and the last destination line is not written; its lines are counted in 32 bits. */
@@ -204,7 +204,7 @@ TNTVT_API void tntvt_bgra64_rgba32(void* dst, long dstStride, void* src, long sr
  * The routines to four channels do nothing if `height` is below 1. Those to three turn the picture upside
  * down if it is negative.
  *
- * Deliberate: the low bits stay 0, so that at 16 bits 255 becomes 0xFF00. The shift is taken modulo 32.
+ * Quirks: the low bits stay 0, so that at 16 bits 255 becomes 0xFF00. The shift is taken modulo 32.
  * The flip of tntvt_rgba32_bgr48 falls one line short, as that of tntvt_bgr48_rgba32 does. */
 TNTVT_API void tntvt_rgba32_rgb48(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned int bits);

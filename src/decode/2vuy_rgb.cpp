@@ -7,7 +7,7 @@
 #include "decode/tables.h"
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 using namespace tintvert;
 
@@ -43,7 +43,7 @@ void decode_line(uint8_t* dst, const uint8_t* src, long limit)
     }
 }
 
-// DELIBERATE (keeps_first_luma_for_both): one word a group, from the first luma, written twice at full size.
+// QUIRK (keeps_first_luma_for_both): one word a group, from the first luma, written twice at full size.
 template <class Walk>
 void decode_line_rgb16(uint8_t* dst, const uint8_t* src, long limit)
 {
@@ -74,24 +74,24 @@ struct Groups {
     static constexpr int registers = 4;
     static constexpr long block_bytes = 128;
     static constexpr uint8_t sample_place(size_t n) { return static_cast<uint8_t>(n); }
-    TNTVT_VBMI static Block block(const uint8_t* src);
+    TNTVT_AVX512 static Block block(const uint8_t* src);
 };
 constexpr Places group_places = places_in<Groups>();
 
-TNTVT_VBMI inline Block Groups::block(const uint8_t* src)
+TNTVT_AVX512 inline Block Groups::block(const uint8_t* src)
 {
     return pick(group_places, _mm512_loadu_si512(src), _mm512_loadu_si512(src + 64));
 }
 
-// Whole steps of both pixels of a group, then the plain form.
+// Whole steps of both pixels of a group, then the scalar version.
 template <class Form, auto plain, bool planes>
-void decode_wide(uint8_t* dst, const uint8_t* src, long limit)
+void decode_simd(uint8_t* dst, const uint8_t* src, long limit)
 {
     constexpr long group_pixels = 2 * Form::pixel_bytes;
     const long pairs = limit / 2 - Form::groups_left;
     long done = 0;
     if (pairs > 0 && disjoint(dst, pairs * group_pixels, src, pairs * 4)) {
-        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, pairs);
+        if (planes) done = pairs_avx512<Form, Groups>(dst, src, pairs);
         done += pairs_by_lanes<Form>(dst + done * group_pixels, src + done * 4, pairs - done);
     }
     plain(dst + done * group_pixels, src + done * 4, limit - 2 * done);
@@ -102,10 +102,10 @@ using Line = void (*)(uint8_t* dst, const uint8_t* src, long limit);
 template <class Form, auto plain>
 Line whole_line()
 {
-    const Tier widest = tier();
-    return widest == Tier::vbmi   ? decode_wide<Form, plain, true>
-           : widest >= Tier::base ? decode_wide<Form, plain, false>
-                                  : plain;
+    const InstructionSet widest = instruction_set();
+    return widest == InstructionSet::avx512 ? decode_simd<Form, plain, true>
+           : widest >= InstructionSet::sse2 ? decode_simd<Form, plain, false>
+                                            : plain;
 }
 
 // Reduced lines stay plain: each drops pixels that it would have to part first.
@@ -133,7 +133,7 @@ void tntvt_yuv422_rgb24(void* dst, long dstStride, void* src, long srcStride, lo
     need_tables();
     const long reduced = width / scale;
     const long rows = height / scale;
-    // DELIBERATE (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
+    // QUIRK (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
     const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
     for (long r = 0; r < rows; ++r)
         line(advance(bytes(dst), line_offset(r, dstStride)),
@@ -145,7 +145,7 @@ void tntvt_yuv422_rgb16(void* dst, long dstStride, void* src, long srcStride, lo
     need_tables();
     if (scale == 0) scale = 1;
     const long rows = height / scale;
-    // DELIBERATE (keeps_swapped_line_pairs): output lines 0, 1, 2, 3 show source lines 1, 0, 3, 2, and an
+    // QUIRK (keeps_swapped_line_pairs): output lines 0, 1, 2, 3 show source lines 1, 0, 3, 2, and an
     // odd count reads the line after the last one.
     const Line line = line_rgb16_at(scale);
     for (long r = 0; r < rows; ++r)

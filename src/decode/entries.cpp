@@ -41,7 +41,7 @@ void tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long srcStride,
         tntvt_v210_rgb24(dst, dstStride, src, srcStride, width, height, scale);
 }
 
-// DELIBERATE (keeps_10_bit_decoder_for_8_bit_data): at full size the 8-bit frame goes, with its 8-bit stride
+// QUIRK (keeps_10_bit_decoder_for_8_bit_data): at full size the 8-bit frame goes, with its 8-bit stride
 // and its 24-bit lines, to the `v210` decoder.
 void tntvt_yuv422_8_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height, long scale)
 {

@@ -8,7 +8,7 @@
 namespace tintvert {
 
 template <int shift>
-TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, WordPair chroma)
+TNTVT_AVX512 inline __m512i clipped_bytes(WordPair luma, WordPair chroma)
 {
     const __m512i first = _mm512_srai_epi16(_mm512_adds_epi16(luma.first, chroma.first), shift);
     const __m512i second = _mm512_srai_epi16(_mm512_adds_epi16(luma.second, chroma.second), shift);
@@ -17,13 +17,13 @@ TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, WordPair chroma)
 
 // Of even and of odd pixels, which share their chroma.
 template <int shift>
-TNTVT_VBMI inline __m512i clipped_bytes(WordPair luma, __m512i chroma)
+TNTVT_AVX512 inline __m512i clipped_bytes(WordPair luma, __m512i chroma)
 {
     return clipped_bytes<shift>(luma, WordPair{chroma, chroma});
 }
 
 // The bits of `one` where the mask has ones, those of `other` where it has zeros.
-TNTVT_VBMI inline __m512i either(__m512i mask, __m512i one, __m512i other)
+TNTVT_AVX512 inline __m512i either(__m512i mask, __m512i one, __m512i other)
 {
     return _mm512_ternarylogic_epi64(mask, one, other, 0xCA);
 }
@@ -33,7 +33,7 @@ struct Registers {
     __m512i at[4];
 };
 
-TNTVT_VBMI inline Registers weave(__m512i byte_0, __m512i byte_1, __m512i byte_2, __m512i byte_3)
+TNTVT_AVX512 inline Registers weave(__m512i byte_0, __m512i byte_1, __m512i byte_2, __m512i byte_3)
 {
     const WordPair low = words(byte_0, byte_1), high = words(byte_2, byte_3);
     const __m512i even_0 = _mm512_unpacklo_epi16(low.first, high.first);
@@ -45,16 +45,16 @@ TNTVT_VBMI inline Registers weave(__m512i byte_0, __m512i byte_1, __m512i byte_2
 }
 
 // B, G, R, 255.
-TNTVT_VBMI inline Registers pixels_of(WordPair luma, __m512i blue, __m512i green, __m512i red)
+TNTVT_AVX512 inline Registers pixels_of(WordPair luma, __m512i blue, __m512i green, __m512i red)
 {
     return weave(clipped_bytes<4>(luma, blue), clipped_bytes<4>(luma, green), clipped_bytes<4>(luma, red),
                  _mm512_set1_epi8(-1));
 }
 
-TNTVT_VBMI inline void store_64(uint8_t* dst, __m512i bytes) { _mm512_storeu_si512(dst, bytes); }
+TNTVT_AVX512 inline void store_64(uint8_t* dst, __m512i bytes) { _mm512_storeu_si512(dst, bytes); }
 
 template <int registers>
-TNTVT_VBMI inline void put_block(Rgb32, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
+TNTVT_AVX512 inline void put_block(Rgb32, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
 {
     const Registers pixels = pixels_of(luma, blue, green, red);
     for (int i = 0; i < registers; ++i) store_64(dst + 64 * i, pixels.at[i]);
@@ -80,14 +80,14 @@ constexpr Rgb24Piece piece_of_rgb24(size_t piece)
 }
 inline constexpr Rgb24Piece rgb24_pieces[] = {piece_of_rgb24(0), piece_of_rgb24(1), piece_of_rgb24(2)};
 
-TNTVT_VBMI inline __m512i woven(const Rgb24Piece& piece, __m512i blue, __m512i green, __m512i red)
+TNTVT_AVX512 inline __m512i woven(const Rgb24Piece& piece, __m512i blue, __m512i green, __m512i red)
 {
     const __m512i blue_green = _mm512_permutex2var_epi8(blue, entries(piece.blue_green.data()), green);
     return _mm512_mask_permutexvar_epi8(blue_green, piece.red_bytes, entries(piece.red.data()), red);
 }
 
 template <int registers>
-TNTVT_VBMI inline void put_block(Rgb24, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
+TNTVT_AVX512 inline void put_block(Rgb24, uint8_t* dst, WordPair luma, __m512i blue, __m512i green, __m512i red)
 {
     const __m512i b = clipped_bytes<4>(luma, blue), g = clipped_bytes<4>(luma, green), r = clipped_bytes<4>(luma, red);
     store_64(dst, woven(rgb24_pieces[0], b, g, r));
@@ -100,7 +100,7 @@ TNTVT_VBMI inline void put_block(Rgb24, uint8_t* dst, WordPair luma, __m512i blu
 }
 
 template <int registers, class Form>
-TNTVT_VBMI inline void put_blocks(Form form, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
+TNTVT_AVX512 inline void put_blocks(Form form, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
 {
     put_block<registers>(form, dst, look_up(plane_terms.luma, one.luma), chroma.blue.first, chroma.green.first,
                          chroma.red.first);
@@ -126,7 +126,7 @@ alignas(64) inline constexpr std::array<uint8_t, 64> rgb16_places[] = {
 
 // The pixels of the first lumas: of blue bits 3 to 7, of green and of red the same above them.
 template <int registers>
-TNTVT_VBMI inline void put_blocks(Rgb16, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
+TNTVT_AVX512 inline void put_blocks(Rgb16, uint8_t* dst, const Block& one, const Block& other, const Chroma& chroma)
 {
     const WordPair luma = look_up(plane_terms.luma, _mm512_unpacklo_epi64(one.luma, other.luma));
     const __m512i blue = clipped_bytes<4>(luma, chroma.blue), green = clipped_bytes<4>(luma, chroma.green);
@@ -141,7 +141,7 @@ TNTVT_VBMI inline void put_blocks(Rgb16, uint8_t* dst, const Block& one, const B
 // Two blocks of `Source` a step: their lumas, their chroma, their pixels. `pairs` are whole units of `Source`. Returns
 // the pairs done, all of them or, where they fill no step, none: the last step ends with them and makes some anew.
 template <class Form, class Source>
-TNTVT_VBMI long pairs_vbmi(uint8_t* dst, const uint8_t* src, long pairs)
+TNTVT_AVX512 long pairs_avx512(uint8_t* dst, const uint8_t* src, long pairs)
 {
     constexpr long block_pairs = 8 * Source::registers, step = 2 * block_pairs;
     if (pairs < step) return 0;
@@ -174,7 +174,7 @@ constexpr Places places_in()
     return result;
 }
 
-TNTVT_VBMI inline Block pick(const Places& places, __m512i low, __m512i high)
+TNTVT_AVX512 inline Block pick(const Places& places, __m512i low, __m512i high)
 {
     return {_mm512_permutex2var_epi8(low, entries(places.luma.data()), high),
             _mm512_permutex2var_epi8(low, entries(places.chroma.data()), high)};

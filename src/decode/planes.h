@@ -7,7 +7,7 @@
 
 #include "decode/forms.h"
 #include "frame/intrinsics.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 namespace tintvert {
 
@@ -58,26 +58,26 @@ struct WordPair {
     __m512i first, second;  // of the one block and the other, or of even and odd pixels
 };
 
-TNTVT_VBMI inline __m512i entries(const uint8_t* at) { return _mm512_loadu_si512(at); }
+TNTVT_AVX512 inline __m512i entries(const uint8_t* at) { return _mm512_loadu_si512(at); }
 
-TNTVT_VBMI inline WordPair words(__m512i low, __m512i high)
+TNTVT_AVX512 inline WordPair words(__m512i low, __m512i high)
 {
     return {_mm512_unpacklo_epi8(low, high), _mm512_unpackhi_epi8(low, high)};
 }
 
-TNTVT_VBMI inline WordPair add(WordPair x, WordPair y)
+TNTVT_AVX512 inline WordPair add(WordPair x, WordPair y)
 {
     return {_mm512_add_epi16(x.first, y.first), _mm512_add_epi16(x.second, y.second)};
 }
 
-TNTVT_VBMI inline __m512i look_up(const uint8_t* plane, __m512i codes)
+TNTVT_AVX512 inline __m512i look_up(const uint8_t* plane, __m512i codes)
 {
     const __m512i below = _mm512_permutex2var_epi8(entries(plane), codes, entries(plane + 64));
     const __m512i above = _mm512_permutex2var_epi8(entries(plane + 128), codes, entries(plane + 192));
     return _mm512_mask_blend_epi8(_mm512_movepi8_mask(codes), below, above);
 }
 
-TNTVT_VBMI inline WordPair look_up(const Planes& planes, __m512i codes)
+TNTVT_AVX512 inline WordPair look_up(const Planes& planes, __m512i codes)
 {
     return words(look_up(planes.low.data(), codes), look_up(planes.high.data(), codes));
 }
@@ -87,7 +87,7 @@ struct Chroma {
     WordPair blue, green, red;
 };
 
-TNTVT_VBMI inline Chroma chroma_of(const Block& one, const Block& other)
+TNTVT_AVX512 inline Chroma chroma_of(const Block& one, const Block& other)
 {
     const __m512i cb = _mm512_unpacklo_epi64(one.chroma, other.chroma);
     const __m512i cr = _mm512_unpackhi_epi64(one.chroma, other.chroma);

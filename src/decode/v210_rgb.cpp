@@ -10,7 +10,7 @@
 #include "decode/tables.h"
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -38,7 +38,7 @@ uint8_t top_eight(const uint8_t* group, uint32_t sample)
 }
 
 // Returns where the next pixel goes.
-// DELIBERATE (keeps_first_luma_of_v210_pairs): `Rgb16` never looks at the second luma.
+// QUIRK (keeps_first_luma_of_v210_pairs): `Rgb16` never looks at the second luma.
 template <class Form, class Walk, uint32_t pair>
 uint8_t* decode_pair(uint8_t* dst, const uint8_t* group)
 {
@@ -91,30 +91,30 @@ struct Groups {
     static constexpr int registers = 3;
     static constexpr long block_bytes = 8 * v210_group_bytes;
     static constexpr uint8_t sample_place(size_t n) { return static_cast<uint8_t>(n / 6 * 8 + n % 6); }
-    TNTVT_VBMI static Block block(const uint8_t* src);
+    TNTVT_AVX512 static Block block(const uint8_t* src);
 };
 constexpr Places group_places = places_in<Groups>();
 
-TNTVT_VBMI inline __m512i top_bytes(const uint8_t* src)
+TNTVT_AVX512 inline __m512i top_bytes(const uint8_t* src)
 {
     constexpr long long first_bits = 2 | 12 << 8 | 22 << 16 | 34 << 24 | 44LL << 32 | 54LL << 40;
     return _mm512_multishift_epi64_epi8(_mm512_set1_epi64(first_bits), _mm512_loadu_si512(src));
 }
 
-TNTVT_VBMI inline Block Groups::block(const uint8_t* src)
+TNTVT_AVX512 inline Block Groups::block(const uint8_t* src)
 {
     return pick(group_places, top_bytes(src), top_bytes(src + 64));
 }
 
-// Whole steps of whole groups, then the plain form.
+// Whole steps of whole groups, then the scalar version.
 template <class Form, bool planes>
-void decode_wide(uint8_t* dst, const uint8_t* src, long width)
+void decode_simd(uint8_t* dst, const uint8_t* src, long width)
 {
     constexpr long group_pixels = v210_group_pixels * Form::pixel_bytes;
     const long groups = width / v210_group_pixels - Form::groups_left;
     long done = 0;
     if (groups > 0 && disjoint(dst, groups * group_pixels, src, groups * v210_group_bytes)) {
-        if (planes) done = pairs_vbmi<Form, Groups>(dst, src, groups * 3) / 3;
+        if (planes) done = pairs_avx512<Form, Groups>(dst, src, groups * 3) / 3;
         done += groups_by_lanes<Form>(dst + done * group_pixels, src + done * v210_group_bytes, groups - done);
     }
     decode_line<Form, Whole>(dst + done * group_pixels, src + done * v210_group_bytes,
@@ -126,10 +126,10 @@ using Line = void (*)(uint8_t* dst, const uint8_t* src, long width);
 template <class Form>
 Line whole_line()
 {
-    const Tier widest = tier();
-    return widest == Tier::vbmi   ? decode_wide<Form, true>
-           : widest >= Tier::base ? decode_wide<Form, false>
-                                  : decode_line<Form, Whole>;
+    const InstructionSet widest = instruction_set();
+    return widest == InstructionSet::avx512 ? decode_simd<Form, true>
+           : widest >= InstructionSet::sse2 ? decode_simd<Form, false>
+                                            : decode_line<Form, Whole>;
 }
 
 // Reduced lines stay plain: each drops pixels that it would have to part first.
@@ -146,14 +146,14 @@ void tntvt_v210_rgb24(void* dst, long dstStride, void* src, long srcStride, long
     need_tables();
     const long reduced = width / scale;
     const long rows = height / scale;
-    // DELIBERATE (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
+    // QUIRK (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
     const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
     for (long r = 0; r < rows; ++r)
         line(advance(bytes(dst), line_offset(r, dstStride)),
              advance(bytes(src), line_offset(r, line_offset(srcStride, scale))), width);
 }
 
-// DELIBERATE (keeps_line_order): lines stand as they come; only tntvt_yuv422_rgb16 exchanges neighbours.
+// QUIRK (keeps_line_order): lines stand as they come; only tntvt_yuv422_rgb16 exchanges neighbours.
 void tntvt_v210_rgb16(void* dst, long dstStride, void* src, long srcStride, long width, long height, long scale)
 {
     need_tables();

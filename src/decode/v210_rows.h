@@ -10,7 +10,7 @@
 #include "decode/planes.h"
 #include "decode/v210_tables.h"
 #include "frame/intrinsics.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 namespace tintvert {
 
@@ -75,12 +75,12 @@ struct Rows {
 };
 
 template <class Entry>
-TNTVT_VBMI inline __m512i look_up(const std::array<Entry, 32>& entries, __m512i at)
+TNTVT_AVX512 inline __m512i look_up(const std::array<Entry, 32>& entries, __m512i at)
 {
     return _mm512_permutexvar_epi16(at, _mm512_loadu_si512(&entries));
 }
 
-TNTVT_VBMI inline __m512i terms(const RowTable& table, const Rows& at)
+TNTVT_AVX512 inline __m512i terms(const RowTable& table, const Rows& at)
 {
     const __m512i steps = _mm512_add_epi16(look_up(table.head, at.row), look_up(table.step, at.place));
     const __mmask32 one_more =

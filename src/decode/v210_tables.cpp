@@ -7,7 +7,7 @@
 namespace tintvert {
 
 static_assert(v210_luma_term(0) == -1192 && v210_luma_term(64) == 0);
-// DELIBERATE (keeps_254_for_white): 16319 is 254 after the shift by 6.
+// QUIRK (keeps_254_for_white): 16319 is 254 after the shift by 6.
 static_assert(v210_luma_term(940) == 16319 && v210_luma_term(1023) == 17866);
 static_assert(v210_cb_terms(0).first == 3209 && v210_cb_terms(0).second == -16525);
 static_assert(v210_cb_terms(512).first == 0 && v210_cb_terms(512).second == 0);
@@ -28,7 +28,7 @@ int32_t _v210_to_rgb_initted;
 
 using namespace tintvert;
 
-// DELIBERATE (keeps_filling_on_every_call): the guard is set here and tested by the decoder alone.
+// QUIRK (keeps_filling_on_every_call): the guard is set here and tested by the decoder alone.
 TNTVT_FIRST_USE void init_v210_to_rgb(void)
 {
     for (int code = 0; code < 1024; ++code) {

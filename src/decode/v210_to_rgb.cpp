@@ -11,7 +11,7 @@
 #include "frame/first_use.h"
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -113,7 +113,7 @@ constexpr SamplePlaces sample_places(size_t first)
 }
 constexpr SamplePlaces places_of_samples[] = {sample_places(0), sample_places(1), sample_places(2), sample_places(3)};
 
-TNTVT_VBMI inline Rows rows(const SamplePlaces& places, __m512i low, __m512i high)
+TNTVT_AVX512 inline Rows rows(const SamplePlaces& places, __m512i low, __m512i high)
 {
     const __m512i spans = _mm512_permutex2var_epi8(low, _mm512_loadu_si512(&places.bytes), high);
     return {_mm512_srlv_epi16(spans, _mm512_loadu_si512(&places.row_shift)),
@@ -122,7 +122,7 @@ TNTVT_VBMI inline Rows rows(const SamplePlaces& places, __m512i low, __m512i hig
 
 // Eight groups a step.
 template <bool bgra>
-TNTVT_VBMI long groups_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 long groups_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     long done = 0;
     for (; groups - done >= 8; done += 8, src += 128, dst += 192) {
@@ -142,16 +142,16 @@ TNTVT_VBMI long groups_vbmi(uint8_t* dst, const uint8_t* src, long groups)
 }
 
 template <bool bgra>
-long wide_groups(uint8_t* dst, const uint8_t* src, long groups, Tier widest)
+long simd_groups(uint8_t* dst, const uint8_t* src, long groups, InstructionSet widest)
 {
-    if (widest == Tier::plain || !disjoint(dst, groups * 24, src, groups * v210_group_bytes)) return 0;
-    const long done = widest == Tier::vbmi ? groups_vbmi<bgra>(dst, src, groups) : 0;
+    if (widest == InstructionSet::scalar || !disjoint(dst, groups * 24, src, groups * v210_group_bytes)) return 0;
+    const long done = widest == InstructionSet::avx512 ? groups_avx512<bgra>(dst, src, groups) : 0;
     return done + groups_by_lanes<bgra>(dst + done * 24, src + done * v210_group_bytes, groups - done);
 }
 
-void convert_groups(uint8_t* dst, const uint8_t* src, long groups, bool bgra, Tier widest)
+void convert_groups(uint8_t* dst, const uint8_t* src, long groups, bool bgra, InstructionSet widest)
 {
-    long done = bgra ? wide_groups<true>(dst, src, groups, widest) : wide_groups<false>(dst, src, groups, widest);
+    long done = bgra ? simd_groups<true>(dst, src, groups, widest) : simd_groups<false>(dst, src, groups, widest);
     for (; done < groups; ++done) convert_group(dst + done * 24, src + done * v210_group_bytes, bgra);
 }
 
@@ -168,13 +168,13 @@ unsigned int* _v210_get_next_4words(unsigned int* src, v210FourWords* out)
     return advance(src, v210_group_bytes);
 }
 
-// DELIBERATE (keeps_stride_at_common_multiples): groups and pixels run on across line ends. `dstStride` is
+// QUIRK (keeps_stride_at_common_multiples): groups and pixels run on across line ends. `dstStride` is
 // looked at only where a line begins with a group: at a `width` of 1280 that is every third line.
-// DELIBERATE (keeps_whole_last_group): all six pixels of the last group are written.
+// QUIRK (keeps_whole_last_group): all six pixels of the last group are written.
 void _v210_to_rgb(void* src, void* dst, int width, int height, int dstStride, int bgraOrder)
 {
     need_v210_tables();
-    const Tier widest = tier();
+    const InstructionSet widest = instruction_set();
     const long total = wrapping_product(height, width), common = std::lcm(long{width}, v210_group_pixels);
     const uint8_t* group = bytes(src);
     for (long i = 0; i < total; i += common) {

@@ -9,8 +9,8 @@ using namespace tintvert;
 namespace {
 
 // Single precision takes the samples and their offset, double precision the sums in the order written.
-// DELIBERATE (keeps_wrap_outside_the_cube): nothing is clamped; a blue of 480 is stored as 224.
-// DELIBERATE (keeps_alpha_0_of_yuvijg): the fourth byte is 0 and not 255.
+// QUIRK (keeps_wrap_outside_the_cube): nothing is clamped; a blue of 480 is stored as 224.
+// QUIRK (keeps_alpha_0_of_yuvijg): the fourth byte is 0 and not 255.
 struct YuvijgToRgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     static void pixel(uint8_t* dst, const uint8_t* src)

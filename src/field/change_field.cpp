@@ -33,7 +33,7 @@ int tntvt_change_field_rgb(unsigned char* dst, unsigned int mode, unsigned int w
             return interpolate_first(change);
         case FieldInterpolateSecond:
             return interpolate_second(change);
-        // DELIBERATE (keeps_split_asymmetry): with the first field on top a line is `dstStride` bytes, with
+        // QUIRK (keeps_split_asymmetry): with the first field on top a line is `dstStride` bytes, with
         // the second field on top it is `srcStride` bytes.
         case FieldSplitFirstOnTop:
             return split_fields(change, first_field, change.dst_stride);
@@ -44,7 +44,7 @@ int tntvt_change_field_rgb(unsigned char* dst, unsigned int mode, unsigned int w
     }
 }
 
-// DELIBERATE (keeps_samples_uncomputed): a blend doubles the first field and an interpolation repeats lines.
+// QUIRK (keeps_samples_uncomputed): a blend doubles the first field and an interpolation repeats lines.
 int tntvt_change_field_yuv(unsigned char* dst, unsigned int mode, unsigned int width, unsigned int height,
                            unsigned int dstStride, unsigned char* src, unsigned int srcStride)
 {

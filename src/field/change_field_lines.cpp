@@ -12,7 +12,7 @@ void copy_line_unless_same(uint8_t* dst, const uint8_t* src, uint32_t bytes)
     if (dst != src) CopyMemoryFast(dst, src, bytes);
 }
 
-// DELIBERATE (keeps_source_pitch_on_dst): the modes without a second frame take their source lines from
+// QUIRK (keeps_source_pitch_on_dst): the modes without a second frame take their source lines from
 // `dst` at the pitch of the source. Here, in flip_fields and in blend_lines.
 int double_field(const Change& change, Field from, Field to)
 {
@@ -22,11 +22,11 @@ int double_field(const Change& change, Field from, Field to)
     return 0;
 }
 
-// DELIBERATE (keeps_scratch_of_destination_pitch): the scratch line has `dstStride` bytes and each copy
+// QUIRK (keeps_scratch_of_destination_pitch): the scratch line has `dstStride` bytes and each copy
 // moves `srcStride`, which callers keep no larger.
-// DELIBERATE (keeps_flip_without_guard): the count is tested after each round, so a height of 0 or 1 makes
+// QUIRK (keeps_flip_without_guard): the count is tested after each round, so a height of 0 or 1 makes
 // 2^32 rounds.
-// DELIBERATE (keeps_success_after_failure): a copy that throws ends the loop, and the status is 0.
+// QUIRK (keeps_success_after_failure): a copy that throws ends the loop, and the status is 0.
 int flip_fields(const Change& change)
 {
     void* scratch = ZKAlloc(change.dst_stride);
@@ -48,7 +48,7 @@ int flip_fields(const Change& change)
     return 0;
 }
 
-// DELIBERATE (keeps_even_heights_only): two lines a round until the height is exactly 0, which an odd
+// QUIRK (keeps_even_heights_only): two lines a round until the height is exactly 0, which an odd
 // height never is.
 int copy_field(const Change& change, Field from, Field to)
 {
@@ -71,7 +71,7 @@ int repeat_lines(const Change& change, Field field)
 
 namespace {
 
-// DELIBERATE (keeps_one_field_in_place): the other field is not kept and the bottom half stays as it was.
+// QUIRK (keeps_one_field_in_place): the other field is not kept and the bottom half stays as it was.
 // The first line of the first field is copied onto itself.
 int pack_field(const Change& change, Field field)
 {

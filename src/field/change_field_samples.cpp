@@ -2,22 +2,22 @@
 #include <cstddef>
 
 #include "field/change_field.h"
+#include "frame/autovectorized.h"
 #include "frame/imports.h"
 #include "frame/walk.h"
-#include "frame/wider_plain.h"
 
 namespace tintvert {
 namespace {
 
 struct Blend {
     static constexpr long src_bytes = 1, dst_bytes = 1;
-    using Wide = WiderPlain<Blend>;
+    using Simd = Autovectorized<Blend>;
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = static_cast<uint8_t>((*dst + *src) >> 1); }
 };
 
 // Both words are halved whole, so the upper three bytes stand one bit low with their own low bit intact;
 // the masks cut them out there, and a sum of two carries its mean into the byte's own place.
-// DELIBERATE (keeps_low_byte_of_halves): the byte at the lowest address has no bits below it and is the
+// QUIRK (keeps_low_byte_of_halves): the byte at the lowest address has no bits below it and is the
 // sum of two halved bytes, one less than the mean of two odd ones.
 //
 //            31 ... 24  23 ... 16  15 .... 8  7 ..... 0
@@ -54,7 +54,7 @@ void average_line(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t
         average_line_plain(dst, one, other, pixels);
 }
 
-// DELIBERATE (keeps_entry_copy): row 0 gets the source's row 1 unless that is where row 1 of `dst` stands,
+// QUIRK (keeps_entry_copy): row 0 gets the source's row 1 unless that is where row 1 of `dst` stands,
 // so two frames and one frame in place end with different first rows. It comes before the test on `src`.
 void copy_second_row_to_first(const Change& change)
 {
@@ -64,7 +64,7 @@ void copy_second_row_to_first(const Change& change)
 
 }  // namespace
 
-// DELIBERATE (keeps_average_with_itself): both pointers start at `dst`, so with equal pitches each byte is
+// QUIRK (keeps_average_with_itself): both pointers start at `dst`, so with equal pitches each byte is
 // averaged with itself and the frame stays as it is. With unequal ones line i meets the bytes at
 // `dst` + i x `srcStride`, which an earlier line may have changed. An odd last line takes part.
 int blend_lines(const Change& change)
@@ -79,7 +79,7 @@ int interpolate_first(const Change& change)
 {
     if (change.dst == nullptr || change.src == nullptr) copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
-    const bool wide = tier() >= Tier::avx2;
+    const bool wide = instruction_set() >= InstructionSet::avx2;
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.even, src.even, change.src_stride);
@@ -93,7 +93,7 @@ int interpolate_second(const Change& change)
 {
     copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
-    const bool wide = tier() >= Tier::avx2;
+    const bool wide = instruction_set() >= InstructionSet::avx2;
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.odd, src.odd, change.src_stride);

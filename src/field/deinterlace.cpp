@@ -11,7 +11,7 @@ using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_eight_byte_elements): an element is 8 bytes, of which the first three are channels. Of
+// QUIRK (keeps_eight_byte_elements): an element is 8 bytes, of which the first three are channels. Of
 // two pixels of four bytes the second is carried along unexamined; in a replaced element it is zero.
 constexpr size_t element_bytes = 8;
 
@@ -83,9 +83,9 @@ void keep_line(uint8_t* dst, const uint8_t* src, size_t width)
     for (size_t at = 0; at < width * element_bytes; at += element_bytes) store(dst + at, load<uint64_t>(src + at));
 }
 
-// DELIBERATE (keeps_next_line_for_first_two): lines 0 and 1 have the next line on both sides, line 1 too,
+// QUIRK (keeps_next_line_for_first_two): lines 0 and 1 have the next line on both sides, line 1 too,
 // although line 0 stands above it. The last line has the line above on both sides.
-// DELIBERATE (keeps_changed_line_above): in place the line above is the repaired one.
+// QUIRK (keeps_changed_line_above): in place the line above is the repaired one.
 Lines neighbours(uint8_t* here, uint32_t y, uint32_t height, uint32_t stride)
 {
     const uint8_t* above = y >= 2 ? advance(here, -static_cast<long>(stride)) : here;
@@ -95,9 +95,9 @@ Lines neighbours(uint8_t* here, uint32_t y, uint32_t height, uint32_t stride)
 
 }  // namespace
 
-// DELIBERATE (keeps_wrapping_squares): both squares wrap at 32 bits and are read as signed. A threshold
+// QUIRK (keeps_wrapping_squares): both squares wrap at 32 bits and are read as signed. A threshold
 // below 0 finds comb in flat elements; a softness below 0 finds none anywhere.
-// DELIBERATE (keeps_plain_copy_of_mode_17): no line of mode 17 is ever repaired.
+// QUIRK (keeps_plain_copy_of_mode_17): no line of mode 17 is ever repaired.
 int tntvt_deinterlace_rgb(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                           unsigned int stride, int threshold, int softness, long, int mode)
 {
@@ -118,7 +118,7 @@ int tntvt_deinterlace_rgb(unsigned char* dst, unsigned char* src, unsigned int w
     return 0;
 }
 
-// DELIBERATE (keeps_empty_deinterlace_yuv): deinterlacing of YCbCr is not offered.
+// QUIRK (keeps_empty_deinterlace_yuv): deinterlacing of YCbCr is not offered.
 int tntvt_deinterlace_yuv(unsigned char*, unsigned char*, unsigned int, unsigned int, unsigned int, int, int, long, int)
 {
     return -1;

@@ -1,20 +1,20 @@
 // Half of one frame and half of another.
 #include <tintvert/field.h>
 
+#include "frame/autovectorized.h"
 #include "frame/imports.h"
 #include "frame/memory.h"
 #include "frame/number.h"
 #include "frame/walk.h"
-#include "frame/wider_plain.h"
 
 using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_halves_before_sum): each byte loses its low bit before the sum, so 1 and 1 give 0.
+// QUIRK (keeps_halves_before_sum): each byte loses its low bit before the sum, so 1 and 1 give 0.
 struct Bytes {
     static constexpr long src_bytes = 1, dst_bytes = 1;
-    using Wide = WiderPlain<Bytes>;
+    using Simd = Autovectorized<Bytes>;
     static uint8_t mix(uint8_t a, uint8_t b) { return static_cast<uint8_t>((a >> 1) + (b >> 1)); }
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = mix(*dst, *src); }
 };
@@ -22,7 +22,7 @@ struct Bytes {
 // Fields are added first and halved after, so 1 and 1 give 1. Bits 30 and 31 come out as zero.
 struct Words {
     static constexpr long src_bytes = 4, dst_bytes = 4;
-    using Wide = WiderPlain<Words>;
+    using Simd = Autovectorized<Words>;
     static constexpr uint32_t field = 0x3FF;
     static uint32_t mix(uint32_t a, uint32_t b)
     {
@@ -41,7 +41,7 @@ int dissolve(uint8_t* dst, uint8_t* src, long stride, long units, long height)
 
 }  // namespace
 
-// DELIBERATE (keeps_two_thirds_of_words): 2 words for 3 pixels suits `v210`; a format with a word for each
+// QUIRK (keeps_two_thirds_of_words): 2 words for 3 pixels suits `v210`; a format with a word for each
 // pixel has the first two thirds of its lines dissolved.
 int tntvt_copy_dissolve(unsigned char* dst, unsigned char* src, long stride, long width, long height,
                         unsigned int fourcc)

@@ -1,13 +1,13 @@
 // Lines mirrored, pixel by pixel.
 //
-// DELIBERATE (keeps_mirror_past_the_line): pixel i goes with pixel `width` - i and not with
+// QUIRK (keeps_mirror_past_the_line): pixel i goes with pixel `width` - i and not with
 // `width` - 1 - i, so a line is mirrored about pixel `width` / 2 and the first pixel past it takes part.
 #include <tintvert/field.h>
 
 #include <cstddef>
 
 #include "field/lines.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 #if defined(__x86_64__)
 #include <immintrin.h>
@@ -86,7 +86,7 @@ void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int heig
 {
     if (height < 1 || (dst != src && width < 1)) return;
     const auto pixels = static_cast<uint32_t>(width);
-    const bool wide = tier() >= Tier::avx2;
+    const bool wide = instruction_set() >= InstructionSet::avx2;
     for (uint32_t r = 0; r < static_cast<uint32_t>(height); ++r) {
         if (dst == src)
             mirror_line_in_place(line_at(dst, r, stride), pixels, wide);

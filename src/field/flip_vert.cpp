@@ -17,8 +17,8 @@ void copy_upside_down(uint8_t* dst, uint8_t* src, uint32_t height, uint32_t stri
         CopyMemoryFast(line_at(dst, r, stride), line_at(src, height - 1 - r, stride), stride);
 }
 
-// DELIBERATE (keeps_spare_byte): scratch lines are one byte longer than any copy.
-// DELIBERATE (keeps_unsigned_half_of_height): half the height is taken of the unsigned number, so that a
+// QUIRK (keeps_spare_byte): scratch lines are one byte longer than any copy.
+// QUIRK (keeps_unsigned_half_of_height): half the height is taken of the unsigned number, so that a
 // negative height walks 2^30 rounds or more.
 // A copy that throws ends the loop, and the caller is not told (keeps_success_after_failure).
 void turn_upside_down(uint8_t* frame, uint32_t height, uint32_t stride)
@@ -101,7 +101,7 @@ void copy_upside_down(uint8_t* dst, uint8_t* src, uint32_t height, const Placed&
     }
 }
 
-// DELIBERATE (keeps_lines_unplaced_in_place): no line moves within its stride. The margins of top lines are
+// QUIRK (keeps_lines_unplaced_in_place): no line moves within its stride. The margins of top lines are
 // cleared and travel down with them; `srcStride` bytes come up, and those of bottom lines are not cleared.
 void turn_upside_down(uint8_t* frame, uint32_t height, const Placed& placed)
 {

@@ -35,7 +35,7 @@ void tntvt_fld_mix_to_sep32(unsigned char* firstField, unsigned char* secondFiel
                        advance(src, line_offset(line, srcStride)), width * 4);
 }
 
-// DELIBERATE (keeps_whole_copy_without_guard): with equal strides the frame is one copy, whose size is the
+// QUIRK (keeps_whole_copy_without_guard): with equal strides the frame is one copy, whose size is the
 // low 32 bits of the product, whatever the sign of the height.
 void tntvt_copy_interleaved(unsigned char* dst, long dstStride, unsigned char* src, long srcStride, long, long height)
 {

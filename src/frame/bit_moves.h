@@ -1,7 +1,7 @@
-// Wide steps for forms that only move bits: each byte of the result is eight neighbouring bits of the source,
+// Simd steps for forms that only move bits: each byte of the result is eight neighbouring bits of the source,
 // or a constant. Such a form says so byte by byte, in `moved(byte)`, and names its steps:
 //
-//   using Wide = BitMoves<Form>;
+//   using Simd = BitMoves<Form>;
 //
 // The shuffles, shifts and masks of a step are worked out from that while it compiles.
 #pragma once
@@ -10,7 +10,7 @@
 
 #if defined(__x86_64__)
 #include "frame/bit_moves_avx2.h"
-#include "frame/bit_moves_vbmi.h"
+#include "frame/bit_moves_avx512.h"
 #endif
 
 namespace tintvert {
@@ -30,18 +30,18 @@ struct BitMoves {
 
     // One shuffle of whole bytes is as quick in 256 bits, and quicker where frames fill the third-level cache; what
     // that leaves of a line is done under masks.
-    static long vbmi(uint8_t* dst, const uint8_t* src, long pixels, bool down)
+    static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool down)
     {
         if constexpr (!keeps_bytes<Units>()) {
             if (Avx2BitMoves<Units>::one_shuffle) {
                 const long first = Avx2BitMoves<Units>::leading(pixels * per_pixel);
-                VbmiBitMoves<Units>::run_vbmi(dst + first * Units::dst_bytes, src + first * Units::src_bytes,
-                                              pixels * per_pixel - first, down);
+                VbmiBitMoves<Units>::run_avx512(dst + first * Units::dst_bytes, src + first * Units::src_bytes,
+                                                pixels * per_pixel - first, down);
                 avx2(dst, src, pixels, down);
                 return pixels;
             }
         }
-        return VbmiBitMoves<Units>::run_vbmi(dst, src, pixels * per_pixel, down) / per_pixel;
+        return VbmiBitMoves<Units>::run_avx512(dst, src, pixels * per_pixel, down) / per_pixel;
     }
 #endif
 };

@@ -4,8 +4,8 @@
 #include <immintrin.h>
 
 #include "frame/moved_byte.h"
+#include "frame/simd.h"
 #include "frame/state.h"
-#include "frame/wide.h"
 
 namespace tintvert {
 

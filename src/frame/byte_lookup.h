@@ -78,57 +78,60 @@ struct Quarters {
     __m512i of[4];
 };
 
-TNTVT_VBMI inline Quarters quarters_vbmi(const uint8_t* table)
+TNTVT_AVX512 inline Quarters quarters_avx512(const uint8_t* table)
 {
     return {{_mm512_loadu_si512(table), _mm512_loadu_si512(table + 64), _mm512_loadu_si512(table + 128),
              _mm512_loadu_si512(table + 192)}};
 }
 
-TNTVT_VBMI inline __m512i look_up_vbmi(const Quarters& table, __m512i bytes)
+TNTVT_AVX512 inline __m512i look_up_avx512(const Quarters& table, __m512i bytes)
 {
     const __m512i lower = _mm512_permutex2var_epi8(table.of[0], bytes, table.of[1]);
     const __m512i upper = _mm512_permutex2var_epi8(table.of[2], bytes, table.of[3]);
     return _mm512_mask_blend_epi8(_mm512_movepi8_mask(bytes), lower, upper);
 }
 
-TNTVT_VBMI inline __m512i map_64_vbmi(const Quarters& first, const Quarters& second, __m512i bytes)
+TNTVT_AVX512 inline __m512i map_64_avx512(const Quarters& first, const Quarters& second, __m512i bytes)
 {
-    return _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, look_up_vbmi(first, bytes), look_up_vbmi(second, bytes));
+    return _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, look_up_avx512(first, bytes), look_up_avx512(second, bytes));
 }
 
-TNTVT_VBMI inline long map_pairs_vbmi(uint8_t* dst, const uint8_t* src, const uint8_t* rest, long bytes,
-                                      const PairTables& tables)
+TNTVT_AVX512 inline long map_pairs_avx512(uint8_t* dst, const uint8_t* src, const uint8_t* rest, long bytes,
+                                          const PairTables& tables)
 {
-    const Quarters first = quarters_vbmi(tables.first);
+    const Quarters first = quarters_avx512(tables.first);
     long done = 0;
     if (tables.second == nullptr) {
         for (; done < bytes; done += 64) {
             const __mmask64 there = first_bytes(bytes - done);
-            const __m512i mapped = look_up_vbmi(first, _mm512_maskz_loadu_epi8(there, src + done));
+            const __m512i mapped = look_up_avx512(first, _mm512_maskz_loadu_epi8(there, src + done));
             const __m512i kept = _mm512_maskz_loadu_epi8(there, rest + done);
             _mm512_mask_storeu_epi8(dst + done, there, _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, mapped, kept));
         }
         return bytes;
     }
-    const Quarters second = quarters_vbmi(tables.second);
+    const Quarters second = quarters_avx512(tables.second);
     for (; bytes - done >= 64; done += 64)
-        _mm512_storeu_si512(dst + done, map_64_vbmi(first, second, _mm512_loadu_si512(src + done)));
+        _mm512_storeu_si512(dst + done, map_64_avx512(first, second, _mm512_loadu_si512(src + done)));
     const __mmask64 there = first_bytes(bytes - done);
     const __m512i last = _mm512_maskz_loadu_epi8(there, src + done);
-    _mm512_mask_storeu_epi8(dst + done, there, map_64_vbmi(first, second, last));
+    _mm512_mask_storeu_epi8(dst + done, there, map_64_avx512(first, second, last));
     return bytes;
 }
 
-inline long map_pairs_wide(Tier limit, uint8_t* dst, const uint8_t* src, const uint8_t* rest, long bytes,
+inline long map_pairs_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, const uint8_t* rest, long bytes,
                            const PairTables& tables)
 {
-    if (limit >= Tier::vbmi) return map_pairs_vbmi(dst, src, rest, bytes, tables);
-    return limit >= Tier::avx2 ? map_pairs_avx2(dst, src, rest, bytes, tables) : 0;
+    if (limit >= InstructionSet::avx512) return map_pairs_avx512(dst, src, rest, bytes, tables);
+    return limit >= InstructionSet::avx2 ? map_pairs_avx2(dst, src, rest, bytes, tables) : 0;
 }
 
 #else
 
-inline long map_pairs_wide(Tier, uint8_t*, const uint8_t*, const uint8_t*, long, const PairTables&) { return 0; }
+inline long map_pairs_simd(InstructionSet, uint8_t*, const uint8_t*, const uint8_t*, long, const PairTables&)
+{
+    return 0;
+}
 
 #endif
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 #include "frame/intrinsics.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 namespace tintvert {
 
@@ -81,17 +81,17 @@ struct Rgb8 {
     __m512d r, g, b;
 };
 
-TNTVT_VBMI inline __m512d doubles_8(__m512i pairs, int at)
+TNTVT_AVX512 inline __m512d doubles_8(__m512i pairs, int at)
 {
     return _mm512_cvtepi64_pd(_mm512_shuffle_epi8(pairs, _mm512_broadcast_i32x4(byte_alone(at))));
 }
 
-TNTVT_VBMI inline Rgb8 channels_8(__m512i pairs, const Channels& at, int pixel)
+TNTVT_AVX512 inline Rgb8 channels_8(__m512i pairs, const Channels& at, int pixel)
 {
     return {doubles_8(pairs, 4 * pixel + at.r), doubles_8(pairs, 4 * pixel + at.g), doubles_8(pairs, 4 * pixel + at.b)};
 }
 
-TNTVT_VBMI inline __m512d row_8(const Weights& w, const Rgb8& p)
+TNTVT_AVX512 inline __m512d row_8(const Weights& w, const Rgb8& p)
 {
     const __m512d red_green =
         _mm512_add_pd(_mm512_mul_pd(p.r, _mm512_set1_pd(w.r)), _mm512_mul_pd(p.g, _mm512_set1_pd(w.g)));
@@ -100,17 +100,17 @@ TNTVT_VBMI inline __m512d row_8(const Weights& w, const Rgb8& p)
     return w.half == 0.0 ? moved : _mm512_add_pd(moved, _mm512_set1_pd(w.half));
 }
 
-TNTVT_VBMI inline __m512d shifted_in_8(__m512d before, __m512d now)
+TNTVT_AVX512 inline __m512d shifted_in_8(__m512d before, __m512d now)
 {
     return _mm512_castsi512_pd(_mm512_alignr_epi64(_mm512_castpd_si512(now), _mm512_castpd_si512(before), 7));
 }
 
-TNTVT_VBMI inline __m512d filter_8(__m512d previous, __m512d centre, __m512d next)
+TNTVT_AVX512 inline __m512d filter_8(__m512d previous, __m512d centre, __m512d next)
 {
     return _mm512_add_pd(_mm512_add_pd(_mm512_add_pd(previous, centre), centre), next);
 }
 
-TNTVT_VBMI inline double last_8(__m512d x)
+TNTVT_AVX512 inline double last_8(__m512d x)
 {
     const __m128d high = _mm512_extractf64x2_pd(x, 3);
     return _mm_cvtsd_f64(_mm_unpackhi_pd(high, high));

@@ -1,7 +1,7 @@
 // Registers of 16 and 32 bytes to and from any address.
 #pragma once
 
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 #if defined(__x86_64__)
 #include "frame/intrinsics.h"

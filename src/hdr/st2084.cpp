@@ -6,7 +6,7 @@
 #include "frame/byte_lookup.h"
 #include "frame/memory.h"
 #include "hdr/st2084_tables.h"
-#include "hdr/v210_lookup_wide.h"
+#include "hdr/v210_lookup_simd.h"
 
 using namespace tintvert;
 
@@ -33,7 +33,7 @@ int for_each_line(const Frame& frame, uint32_t least_bytes, Line line)
 
 uint8_t mapped(const uint32_t* table, uint8_t code) { return static_cast<uint8_t>(table[code]); }
 
-// A table as bytes, for the wide forms, as its entries stand when the call begins.
+// A table as bytes, for the SIMD versions, as its entries stand when the call begins.
 struct Bytes {
     uint8_t of[256];
 
@@ -45,20 +45,20 @@ struct Bytes {
 
 int map_bytes(const Frame& frame, const uint32_t* table)
 {
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const Bytes bytes(table);
     return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
         long i = 0;
         if (same_or_disjoint(dst, src, count))
-            i = map_pairs_wide(limit, dst, src, nullptr, count, {bytes.of, bytes.of});
+            i = map_pairs_simd(limit, dst, src, nullptr, count, {bytes.of, bytes.of});
         for (; i < count; ++i) dst[i] = mapped(table, src[i]);
     });
 }
 
 // A word one byte past a `v210` word holds that word's bits 8 to 31 and eight bits of the next.
-// DELIBERATE (keeps_unmasked_entries): an entry is shifted whole, so one above 1023 spills into the bits
+// QUIRK (keeps_unmasked_entries): an entry is shifted whole, so one above 1023 spills into the bits
 // above its field.
-// DELIBERATE (keeps_10_bit_index_into_8_bit_table): an index above 255 reads on into the tables behind.
+// QUIRK (keeps_10_bit_index_into_8_bit_table): an index above 255 reads on into the tables behind.
 uint32_t even_word(const uint32_t* table, uint32_t w) { return (w & 0x3FF003FF) | table[w >> 12 & 0x3FF] << 12; }
 
 uint32_t odd_word(const uint32_t* table, uint32_t w)
@@ -66,16 +66,16 @@ uint32_t odd_word(const uint32_t* table, uint32_t w)
     return (w & 0xFFC00) | table[w >> 22] << 22 | table[w >> 2 & 0x3FF] << 2;
 }
 
-// DELIBERATE (keeps_words_one_byte_on): every word is read and written one byte past its place.
+// QUIRK (keeps_words_one_byte_on): every word is read and written one byte past its place.
 int map_v210(const Frame& frame, const uint32_t* table)
 {
     EntryPlanes planes;
-    const bool wide = tier() == Tier::vbmi && take_entries_vbmi(planes, table);
+    const bool wide = instruction_set() == InstructionSet::avx512 && take_entries_avx512(planes, table);
     return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
         ++dst;
         ++src;
         const long bytes = (long{count} + 15) / 16 * 16;
-        long o = wide && same_or_disjoint(dst, src, bytes) ? map_v210_vbmi(dst, src, bytes, planes) : 0;
+        long o = wide && same_or_disjoint(dst, src, bytes) ? map_v210_avx512(dst, src, bytes, planes) : 0;
         for (; o < bytes; o += 16) {
             store(dst + o, even_word(table, load<uint32_t>(src + o)));
             store(dst + o + 4, odd_word(table, load<uint32_t>(src + o + 4)));
@@ -102,7 +102,7 @@ int tntvt_st2084_to_rgb(unsigned char* dst, unsigned char* src, unsigned int dst
 int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const uint32_t* const table = ardwRGB_to_SMPTE2048_8Bit;
     const Bytes bytes(table);
     return for_each_line({dst, src, dstStride, srcStride, height}, 4,
@@ -111,17 +111,17 @@ int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int ds
                              const long run = m / 4 * 4 - 1;
                              long i = 0;
                              if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_pairs_wide(limit, to + 1, from + 1, to + 1, run, {bytes.of, nullptr});
+                                 i = map_pairs_simd(limit, to + 1, from + 1, to + 1, run, {bytes.of, nullptr});
                              for (; i < run; i += 2) to[i + 1] = mapped(table, from[i + 1]);
                          });
 }
 
-// DELIBERATE (keeps_copy_of_bytes_1_to_4): unlike its forward twin, each group first brings over the source
+// QUIRK (keeps_copy_of_bytes_1_to_4): unlike its forward twin, each group first brings over the source
 // bytes 1 to 4, so the byte behind the last group is written and byte 0 of a line is not.
 int tntvt_st2084_to_yuv2(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const uint32_t* const table = ardwSMPTE2048_to_RGB_8Bit;
     const Bytes bytes(table);
     return for_each_line({dst, src, dstStride, srcStride, height}, 4,
@@ -129,7 +129,7 @@ int tntvt_st2084_to_yuv2(unsigned char* dst, unsigned char* src, unsigned int ds
                              const long run = m / 4 * 4;
                              long i = 0;
                              if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_pairs_wide(limit, to + 1, from + 1, from + 1, run, {bytes.of, nullptr});
+                                 i = map_pairs_simd(limit, to + 1, from + 1, from + 1, run, {bytes.of, nullptr});
                              for (; i < run; i += 4) {
                                  store(to + i + 1, load<uint32_t>(from + i + 1));
                                  to[i + 1] = mapped(table, from[i + 1]);

@@ -15,11 +15,11 @@ namespace {
 //
 // The word is read again for each byte, highest byte first: pixel 0 overwrites its own word in place,
 // and the part of it that is still needed stands until then.
-// DELIBERATE (keeps_low_bits_of_rgb16_clear): five bits move to the top of a byte and are not repeated
+// QUIRK (keeps_low_bits_of_rgb16_clear): five bits move to the top of a byte and are not repeated
 // below, so that 31 becomes 248.
 struct Rgb16ToRgb32 {
     static constexpr long src_bytes = 2, dst_bytes = 4;
-    using Wide = BitMoves<Rgb16ToRgb32>;
+    using Simd = BitMoves<Rgb16ToRgb32>;
     static constexpr MovedByte moved(int byte)
     {
         return byte == 3 ? moved_byte<alpha_byte>(0) : moved_bits(5 * byte - 3, 0xF8);

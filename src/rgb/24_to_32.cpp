@@ -12,11 +12,11 @@ using namespace tintvert;
 namespace {
 
 // One byte at a time, in the order that stands here.
-// DELIBERATE (keeps_ascending_writes_in_place): in place at tight strides the first pixels of line 0 read
+// QUIRK (keeps_ascending_writes_in_place): in place at tight strides the first pixels of line 0 read
 // bytes that these stores have just replaced: d1 and d2 of pixel 1 and d2 of pixel 2.
 struct Rgb24ToRgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
-    using Wide = BitMoves<Rgb24ToRgb32>;
+    using Simd = BitMoves<Rgb24ToRgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, alpha_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -27,10 +27,10 @@ struct Rgb24ToRgb32 {
     }
 };
 
-// DELIBERATE (keeps_descending_writes_in_place): here it is d0 of pixels 0 and 1.
+// QUIRK (keeps_descending_writes_in_place): here it is d0 of pixels 0 and 1.
 struct Rgb24ToBgr32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
-    using Wide = BitMoves<Rgb24ToBgr32>;
+    using Simd = BitMoves<Rgb24ToBgr32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0, alpha_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -44,7 +44,7 @@ struct Rgb24ToBgr32 {
 // Downwards: the one order of the three that harms no byte in place.
 struct MacBgr24ToMacArgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
-    using Wide = BitMoves<MacBgr24ToMacArgb32>;
+    using Simd = BitMoves<MacBgr24ToMacArgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<alpha_byte, 0, 1, 2>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -102,7 +102,7 @@ void tntvt_macbgr24_macargb32_inplace(void* dst, long dstStride, void* src, long
     walk_backward<MacBgr24ToMacArgb32>({dst, dstStride, src, srcStride}, width, height);
 }
 
-// DELIBERATE (keeps_crossed_pointers): the first pointer is read and the third written, and each goes
+// QUIRK (keeps_crossed_pointers): the first pointer is read and the third written, and each goes
 // with the stride behind the other. Written line i ends at `dst` + i strides, so that line 0 lies in
 // front of `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
 //

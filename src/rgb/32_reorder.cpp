@@ -2,15 +2,15 @@
 // forward.
 #include <tintvert/rgb.h>
 
+#include "frame/autovectorized.h"
 #include "frame/walk.h"
-#include "frame/wider_plain.h"
 #include "rgb/word_order.h"
 
 using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_counted_alpha): the alpha byte as a number, one more where b2 and b1 are 0 and b0 is
+// QUIRK (keeps_counted_alpha): the alpha byte as a number, one more where b2 and b1 are 0 and b0 is
 // below 8, stored as a whole word. The colours are lost; argb2rgba rotates.
 constexpr uint32_t counted_alpha(uint32_t x) { return (x >> 24) + ((x & 0x00FFFFFF) < 8 ? 1 : 0); }
 
@@ -21,7 +21,7 @@ static_assert(counted_alpha(0xFF000007) == 0x100);
 
 struct CountedAlpha {
     static constexpr long src_bytes = 4, dst_bytes = 4;
-    using Wide = WiderPlain<CountedAlpha>;
+    using Simd = Autovectorized<CountedAlpha>;
     static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, counted_alpha(load<uint32_t>(src))); }
 };
 

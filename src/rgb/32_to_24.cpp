@@ -14,7 +14,7 @@ namespace {
 // that is the result, so no form gathers the bytes of a pixel first.
 struct Rgb32ToRgb24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
-    using Wide = BitMoves<Rgb32ToRgb24>;
+    using Simd = BitMoves<Rgb32ToRgb24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -26,7 +26,7 @@ struct Rgb32ToRgb24 {
 
 struct Rgb32ToBgr24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
-    using Wide = BitMoves<Rgb32ToBgr24>;
+    using Simd = BitMoves<Rgb32ToBgr24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -41,7 +41,7 @@ void to_rgb24(const Frame& frame, long width, long height)
     walk_forward<Rgb32ToRgb24>(frame, width, magnitude(height));
 }
 
-// DELIBERATE (keeps_guard_of_first_pixel_only): the frame's first pixel is read whole before it is
+// QUIRK (keeps_guard_of_first_pixel_only): the frame's first pixel is read whole before it is
 // written, no other is. In place at tight strides pixel 1 writes its b0 over its b1 at byte 5, and reads
 // it from there; with both strides the same, each further line has that, and b0 where its pixel 0 should
 // have b2.
@@ -74,7 +74,7 @@ void tntvt_rgba32_bgr24_inplace(void* dst, long dstStride, void* src, long srcSt
     to_bgr24({dst, dstStride, src, srcStride}, width, height);
 }
 
-// DELIBERATE (keeps_signed_height_in_addresses): the lines are counted by the magnitude and placed by the
+// QUIRK (keeps_signed_height_in_addresses): the lines are counted by the magnitude and placed by the
 // signed number. At a `height` of -2 they go to lines -3 and -4, in front of `dst`.
 void tntvt_rgba32_rgb24_invert(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {

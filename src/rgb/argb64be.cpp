@@ -24,7 +24,7 @@ void with_order_of_four(uint32_t order, Work work)
     }
 }
 
-// DELIBERATE (keeps_orders_that_write_nothing): of the four orders, 1 and 3 have no form without alpha.
+// QUIRK (keeps_orders_that_write_nothing): of the four orders, 1 and 3 have no form without alpha.
 template <class Work>
 void with_order_of_three(uint32_t order, Work work)
 {

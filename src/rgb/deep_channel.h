@@ -24,7 +24,7 @@ struct AnyShift {
     constexpr operator uint32_t() const { return k; }
 };
 
-// DELIBERATE (keeps_shift_modulo_32): fewer than 8 bits are a shift by 24 to 31, which leaves 0.
+// QUIRK (keeps_shift_modulo_32): fewer than 8 bits are a shift by 24 to 31, which leaves 0.
 template <class Work>
 void with_shift_of(uint32_t bits, Work work)
 {
@@ -58,7 +58,7 @@ constexpr bool is_constant = requires
 };
 
 // 16 bits to 8: the value moves down by k and keeps its low eight bits.
-// DELIBERATE (keeps_wrap_of_wide_values): nothing is rounded or clamped. A value of more than `bits` bits
+// QUIRK (keeps_wrap_of_wide_values): nothing is rounded or clamped. A value of more than `bits` bits
 // loses its upper ones.
 template <std::endian order, class K>
 struct Reduced {
@@ -72,7 +72,7 @@ struct Reduced {
 };
 
 // 8 bits to 16: the byte moves up by k.
-// DELIBERATE (keeps_low_bits_of_deep_channels_clear): at 16 bits 255 becomes 0xFF00.
+// QUIRK (keeps_low_bits_of_deep_channels_clear): at 16 bits 255 becomes 0xFF00.
 template <class K>
 struct Widened {
     static constexpr long src_bytes = 1, dst_bytes = 2;
@@ -114,7 +114,7 @@ struct Deep<Channel, channels, Order<from...>> {
     static constexpr long dst_bytes = long{sizeof...(from)} * Channel::dst_bytes;
     Channel channel;
 
-    using Wide = std::conditional_t<Channel::tells_bits, BitMoves<Deep>, void>;
+    using Simd = std::conditional_t<Channel::tells_bits, BitMoves<Deep>, void>;
     static constexpr MovedByte moved(int byte)
     {
         constexpr int places[] = {from...};
@@ -163,7 +163,7 @@ struct ExactFlip {
     }
 };
 
-// DELIBERATE (keeps_flip_one_line_off): a negative `height` sends source line r, counted from 1, to the
+// QUIRK (keeps_flip_one_line_off): a negative `height` sends source line r, counted from 1, to the
 // line that ends at `lines` - r strides. The last source line lands in front of `dst` and the last
 // destination line is never written. The lines are counted in 32 bits.
 struct FlipOneLineOff {

@@ -18,7 +18,7 @@ void reduce(const Frame& frame, long width, long height, uint32_t bits)
 
 }  // namespace
 
-// DELIBERATE (keeps_transparent_alpha): where the source has no alpha, that of the result is 0 and not `a`.
+// QUIRK (keeps_transparent_alpha): where the source has no alpha, that of the result is 0 and not `a`.
 void tntvt_rgb48_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                         unsigned int bits)
 {

@@ -1,4 +1,4 @@
-// DELIBERATE (keeps_empty_entries): names that accept a call and do nothing with it.
+// QUIRK (keeps_empty_entries): names that accept a call and do nothing with it.
 #include <tintvert/rgb.h>
 
 void tntvt_rgb8_rgb32(void*, long, void*, long, long, long) {}

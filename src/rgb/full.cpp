@@ -14,7 +14,7 @@ namespace {
 template <long src_size, long dst_size>
 struct ThreeBytes {
     static constexpr long src_bytes = src_size, dst_bytes = dst_size;
-    using Wide = BitMoves<ThreeBytes>;
+    using Simd = BitMoves<ThreeBytes>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, kept_byte>(byte); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -40,7 +40,7 @@ void copy_lines(const Frame& frame, long width, long height)
                        width, height);
 }
 
-// DELIBERATE (keeps_block_of_pixels): the size counts pixels and not strides, in 32 bits and for any
+// QUIRK (keeps_block_of_pixels): the size counts pixels and not strides, in 32 bits and for any
 // `height`. Slack goes along, and a frame that has it loses its last lines.
 void copy_block(const Frame& frame, long pixel_bytes, long width, long height)
 {
@@ -50,8 +50,8 @@ void copy_block(const Frame& frame, long pixel_bytes, long width, long height)
 
 }  // namespace
 
-// DELIBERATE (keeps_division_first): `width` is not tested before it divides.
-// DELIBERATE (keeps_words_for_other_sizes): any pair but those of 3 and 4 bytes that have a case of their own
+// QUIRK (keeps_division_first): `width` is not tested before it divides.
+// QUIRK (keeps_words_for_other_sizes): any pair but those of 3 and 4 bytes that have a case of their own
 // moves 32-bit words: 2 to 2 reads twice the pixels' bytes and 8 to 4 half.
 void tntvt_rgba_full(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {

@@ -11,7 +11,7 @@ using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_mask_and_shifts): a field is not spread over its 16 bits. The mask keeps eight bits of
+// QUIRK (keeps_mask_and_shifts): a field is not spread over its 16 bits. The mask keeps eight bits of
 // one field on top and two of the next in bits 5 and 4, and V3 begins two bits into field 2.
 //
 //            15 ..... 8   5 4
@@ -73,11 +73,11 @@ constexpr MovedByte masked_byte(int n, int byte)
     return moved_bits(begins[n - 1] + 8 * byte, byte == 0 ? 0x30 : 0xFF, Order::word_bytes);
 }
 
-// DELIBERATE (keeps_opposite_channel_orders): field 1 is the third channel of `rgba64` and the first of `rgb48`.
+// QUIRK (keeps_opposite_channel_orders): field 1 is the third channel of `rgba64` and the first of `rgb48`.
 template <class Order>
 struct Rgba64 {
     static constexpr long src_bytes = 4, dst_bytes = 8, bottom = 0;
-    using Wide = BitMoves<Rgba64>;
+    using Simd = BitMoves<Rgba64>;
     static constexpr MovedByte moved(int byte)
     {
         return byte < 6 ? masked_byte<Order>(3 - byte / 2, byte % 2) : fixed_byte(0xFF);
@@ -93,7 +93,7 @@ struct Rgba64 {
 template <class Order>
 struct Rgb48 {
     static constexpr long src_bytes = 4, dst_bytes = 6, bottom = 0;
-    using Wide = BitMoves<Rgb48>;
+    using Simd = BitMoves<Rgb48>;
     static constexpr MovedByte moved(int byte) { return masked_byte<Order>(1 + byte / 2, byte % 2); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -107,7 +107,7 @@ struct Rgb48 {
 template <class Order>
 struct Rgba32 {
     static constexpr long src_bytes = 4, dst_bytes = 4, bottom = -1;
-    using Wide = BitMoves<Rgba32>;
+    using Simd = BitMoves<Rgba32>;
     static constexpr MovedByte moved(int byte)
     {
         return byte < 3 ? moved_bits(4 + 10 * byte, 0xFF, Order::word_bytes) : fixed_byte(0xFF);
@@ -116,9 +116,9 @@ struct Rgba32 {
 };
 
 // A walk down from source line 0, or up from source line `height` + `bottom`.
-// DELIBERATE (keeps_flip_sense_by_byte_order): a big-endian source is walked up if the flag is set, a
+// QUIRK (keeps_flip_sense_by_byte_order): a big-endian source is walked up if the flag is set, a
 // little-endian one if it is clear.
-// DELIBERATE (keeps_start_one_line_below): walking up, the 16-bit forms show source lines `height` to 1 and the
+// QUIRK (keeps_start_one_line_below): walking up, the 16-bit forms show source lines `height` to 1 and the
 // 8-bit form `height` - 1 to 0.
 template <template <class Order> class Form>
 void convert(void* dst, void* src, long width, long height, bool swap, bool flip)

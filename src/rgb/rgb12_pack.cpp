@@ -23,9 +23,9 @@ struct High12 {
     static uint32_t sample(uint16_t word) { return word >> 4; }
 };
 
-// DELIBERATE (keeps_bits_behind_the_limit): the bound is tested for every bit. A line never passes its
+// QUIRK (keeps_bits_behind_the_limit): the bound is tested for every bit. A line never passes its
 // stride, and the bits that a line does not reach keep what they held.
-// DELIBERATE (keeps_two_bit_orders): samples go out highest bit first, where the unpackers fill words from
+// QUIRK (keeps_two_bit_orders): samples go out highest bit first, where the unpackers fill words from
 // bit 0; packing does not undo unpacking.
 template <class Form>
 void pack_line(BitCursor* bits, uint8_t* dst, long dst_stride, const uint8_t* src, long samples)
@@ -61,7 +61,7 @@ void tntvt_rgb48_rgb12(void* dst, long dstStride, void* src, long srcStride, lon
     pack<High12>(dst, dstStride, src, srcStride, width, height);
 }
 
-// DELIBERATE (keeps_one_byte_a_line): the destination does not advance. Every sample of a line lands in the
+// QUIRK (keeps_one_byte_a_line): the destination does not advance. Every sample of a line lands in the
 // line's first byte, where the last one stays; `volatile` keeps the stores before it.
 void tntvt_rgb48_12_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {

@@ -66,7 +66,7 @@ struct PairOfRgb48 {
 // The walkers' "pixel" is a round here.
 struct ToBgr48 {
     static constexpr long src_bytes = 12, dst_bytes = 16;
-    using Wide = BitMoves<ToBgr48>;
+    using Simd = BitMoves<ToBgr48>;
     static constexpr MovedByte moved(int byte) { return widened_byte(byte / 2, byte % 2); }
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -78,7 +78,7 @@ struct ToBgr48 {
 
 struct ToRgb48 {
     static constexpr long src_bytes = 36, dst_bytes = 48;
-    using Wide = BitMoves<PairOfRgb48, 4>;
+    using Simd = BitMoves<PairOfRgb48, 4>;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const EightPixels round(src);
@@ -90,10 +90,10 @@ struct ToRgb48 {
     }
 };
 
-// DELIBERATE (keeps_red_in_one_blue_byte): byte 0 of the third pixel is the red of the first, not its own blue.
+// QUIRK (keeps_red_in_one_blue_byte): byte 0 of the third pixel is the red of the first, not its own blue.
 struct ToRgba32 {
     static constexpr long src_bytes = 36, dst_bytes = 32;
-    using Wide = BitMoves<ToRgba32>;
+    using Simd = BitMoves<ToRgba32>;
     static constexpr MovedByte moved(int byte)
     {
         const int p = byte / 4, channel = byte % 4;
@@ -119,7 +119,7 @@ void tntvt_rgb12_bgr48(void* dst, long dstStride, void* src, long srcStride, lon
     walk_forward<ToBgr48>({dst, dstStride, src, srcStride}, rounds_of_samples(width), magnitude(height));
 }
 
-// DELIBERATE (keeps_triple_rounds): rounds are counted as eight samples and take 24, so a line handles about
+// QUIRK (keeps_triple_rounds): rounds are counted as eight samples and take 24, so a line handles about
 // three times `width` pixels. The next line overwrites the surplus and the last line's lands behind the
 // frame, where callers leave room.
 void tntvt_rgb12_rgb48(void* dst, long dstStride, void* src, long srcStride, long width, long height)

@@ -14,7 +14,7 @@ using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_delta_as_end): code 2, a delta elsewhere, ends the bitmap; its two offsets are not read.
+// QUIRK (keeps_delta_as_end): code 2, a delta elsewhere, ends the bitmap; its two offsets are not read.
 enum Escape { end_of_line, end_of_bitmap, delta };
 
 // The colour's three bytes; a fourth byte of the entry is not looked at.
@@ -25,7 +25,7 @@ void put_colour(uint8_t* dst, const uint8_t* entry)
     dst[2] = entry[2];
 }
 
-// DELIBERATE (keeps_zero_alpha): the fourth byte is 0, neither 255 nor the palette's.
+// QUIRK (keeps_zero_alpha): the fourth byte is 0, neither 255 nor the palette's.
 uint8_t* put32(uint8_t* dst, const uint8_t* palette, uint8_t index)
 {
     put_colour(dst, palette + 4 * index);
@@ -62,7 +62,7 @@ const uint8_t* decode_line(uint8_t* dst, const uint8_t* src, const uint8_t* pale
 }  // namespace
 
 // The first coded line is the last line of the image.
-// DELIBERATE (keeps_lines_below_the_frame): line indices come from the signed `height`, so a negative one
+// QUIRK (keeps_lines_below_the_frame): line indices come from the signed `height`, so a negative one
 // writes in front of `dst`, from line `height` - 1 down.
 void tntvt_rle8_rgba32(void* dst, long dstStride, void* src, long, long, long height, void* palette)
 {
@@ -78,9 +78,9 @@ void tntvt_rle8_rgb32(void* dst, long dstStride, void* src, long srcStride, long
     tntvt_rle8_rgba32(dst, dstStride, src, srcStride, width, height, palette);
 }
 
-// DELIBERATE (keeps_lines_end_to_end): there is no line address. Pixels only go forward from `dst`, and the
+// QUIRK (keeps_lines_end_to_end): there is no line address. Pixels only go forward from `dst`, and the
 // end of a line does nothing but count.
-// DELIBERATE (keeps_count_wrap): counting down from 0 wraps, and only an end of bitmap stops the decode.
+// QUIRK (keeps_count_wrap): counting down from 0 wraps, and only an end of bitmap stops the decode.
 void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void* palette)
 {
     uint8_t* to = bytes(dst);
@@ -90,14 +90,14 @@ void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void*
         const uint8_t c = codes[0], v = codes[1];
         codes += 2;
         if (c > 0) {
-            // DELIBERATE (keeps_one_pixel_more): a run is one pixel longer than c says, up to 256 pixels.
+            // QUIRK (keeps_one_pixel_more): a run is one pixel longer than c says, up to 256 pixels.
             for (int i = 0; i <= c; ++i) to = put24(to, bytes(palette), v);
         } else if (v == end_of_line) {
             if (--lines_left == 0) return;
         } else if (v == end_of_bitmap || v == delta) {
             return;
         } else {
-            // DELIBERATE (keeps_indices_as_codes): only the pad is stepped over, and the indices of an
+            // QUIRK (keeps_indices_as_codes): only the pad is stepped over, and the indices of an
             // absolute run are read as codes.
             codes += v & 1;
         }

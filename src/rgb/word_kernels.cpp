@@ -34,7 +34,7 @@ void bgra2abgrMMX(unsigned char* dst, unsigned char* src, unsigned int pixels)
     reorder_run<rotate_right_8>(dst, src, pixels);
 }
 
-// DELIBERATE (keeps_kernels_that_rotate_apart): this one rotates right and abgr2bgra left. The two undo
+// QUIRK (keeps_kernels_that_rotate_apart): this one rotates right and abgr2bgra left. The two undo
 // each other.
 void abgr2bgraMMX(unsigned char* dst, unsigned char* src, unsigned int pixels)
 {

@@ -24,7 +24,7 @@ static_assert(swap_low_pair(0xB3B2B1B0) == 0xB3B0B1B2);
 template <uint32_t (*order)(uint32_t)>
 struct EachWord {
     static constexpr long src_bytes = 4, dst_bytes = 4;
-    using Wide = BitMoves<EachWord>;
+    using Simd = BitMoves<EachWord>;
     static constexpr MovedByte moved(int byte) { return moved_bits(8 * (order(0x03020100) >> 8 * byte & 0xFF)); }
     static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, order(load<uint32_t>(src))); }
 };

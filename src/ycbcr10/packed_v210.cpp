@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "ycbcr10/packed_v210_wide.h"
+#include "ycbcr10/packed_v210_simd.h"
 #include "ycbcr10/pgroup.h"
 #include "ycbcr10/v210.h"
 
@@ -38,16 +38,16 @@ void group_by_words(uint8_t* dst, const uint8_t* src)
     store(dst, (words >> 20 & low) | (words & low << 10) | (words & low) << 20);
 }
 
-void whole_groups(uint8_t* dst, const uint8_t* src, long groups, Tier limit)
+void whole_groups(uint8_t* dst, const uint8_t* src, long groups, InstructionSet limit)
 {
-    long done = unpack_groups_wide(limit, dst, src, groups);
+    long done = unpack_groups_simd(limit, dst, src, groups);
     for (; done < groups; ++done) group_by_words(dst + done * 16, src + done * 15);
 }
 
 // Pgroups that lie wholly in the line are read at once; what is left is read bit by bit, and bits past the
 // line's end are 0.
-// DELIBERATE (keeps_pair_past_odd_width): an odd `width` takes a pair for which the line has no room.
-void unpack_line(BitCursor* bits, uint8_t* dst, long width, Tier limit)
+// QUIRK (keeps_pair_past_odd_width): an odd `width` takes a pair for which the line has no room.
+void unpack_line(BitCursor* bits, uint8_t* dst, long width, InstructionSet limit)
 {
     const uint8_t* src = bits->cursor;
     const long pairs = (width + 1) / 2, whole = std::min(pairs, (bits->limit - bits->cursor) / 5);
@@ -66,7 +66,7 @@ void unpack_line(BitCursor* bits, uint8_t* dst, long width, Tier limit)
 int tntvt_YCbCr10Packed_to_v210(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height)
 {
     const uint32_t dst_line = v210_line_of_48(width), src_line = width * 20 >> 3;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     BitCursor* bits = obtain_bit_cursor();
     restart(bits, src, src + src_line * height);
     for (uint32_t y = 0; y < height; ++y) {

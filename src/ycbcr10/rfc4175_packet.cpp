@@ -32,14 +32,14 @@ void put_32(uint8_t* at, uint32_t value)
 }
 
 // Bits 8 to 14 are added to what the byte holds, so the flag above them and bits of earlier values stay.
-// DELIBERATE (keeps_or_of_high_bits): the high bits of line numbers pile up from line to line.
+// QUIRK (keeps_or_of_high_bits): the high bits of line numbers pile up from line to line.
 void put_15(uint8_t* at, uint32_t value)
 {
     at[0] = static_cast<uint8_t>(at[0] | (value >> 8 & 0x7F));
     at[1] = static_cast<uint8_t>(value);
 }
 
-// DELIBERATE (keeps_fixed_length_224): the length field does not follow from what the payload holds.
+// QUIRK (keeps_fixed_length_224): the length field does not follow from what the payload holds.
 void stamp_header(uint8_t* packet, const Stream& stream, uint32_t line_number, uint32_t start, uint32_t width)
 {
     packet[0] = 0x90;  // version 2, extension
@@ -60,8 +60,8 @@ Pgroup load_pgroup(const uint8_t* group, uint32_t position)
 }
 
 // One packet; returns the pixel that it ended before.
-// DELIBERATE (keeps_place_in_line): every pass reads the same pair of pixels, the packet's first.
-// DELIBERATE (keeps_endless_odd_width): `width` less `pixel` steps over 0 for an odd `width`, and the passes
+// QUIRK (keeps_place_in_line): every pass reads the same pair of pixels, the packet's first.
+// QUIRK (keeps_endless_odd_width): `width` less `pixel` steps over 0 for an odd `width`, and the passes
 // never end.
 uint32_t form_packet(BitCursor* bits, uint8_t* packet, const uint8_t* line, uint32_t start, uint32_t width)
 {
@@ -86,7 +86,7 @@ void form_line(BitCursor* bits, uint8_t* packet, const uint8_t* line, Stream& st
 
 }  // namespace
 
-// DELIBERATE (keeps_header_over_line_0): the header is stamped before the samples are read, so those of line
+// QUIRK (keeps_header_over_line_0): the header is stamped before the samples are read, so those of line
 // 0 are header bytes, and lines that start below byte 1395 are read as earlier packets left them.
 int tntvt_v210_frame_to_rtp_4175(void* packet, long packetSize, unsigned short* seq, unsigned int timestamp,
                                  unsigned int ssrc, unsigned short extSeq, unsigned int*, unsigned int width,

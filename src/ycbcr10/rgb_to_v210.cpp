@@ -5,8 +5,8 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/wide.h"
-#include "ycbcr10/rgb_to_v210_wide.h"
+#include "frame/simd.h"
+#include "ycbcr10/rgb_to_v210_simd.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -17,7 +17,7 @@ namespace {
 uint32_t code(double value) { return static_cast<uint32_t>(truncate(value)); }
 
 // Sums are formed in the order written. ITU-R BT.601 weights times 256, 10-bit video range.
-// DELIBERATE (keeps_half_before_truncation): this matrix alone adds 0.5 to the filtered chroma.
+// QUIRK (keeps_half_before_truncation): this matrix alone adds 0.5 to the filtered chroma.
 struct VideoRange601 {
     static uint32_t luma(double r, double g, double b)
     {
@@ -43,14 +43,14 @@ struct VideoRange601 {
     static constexpr double chroma_scale = 1.0, filter_half = 0.5;
 };
 
-// DELIBERATE (keeps_8_bit_excursion): 10-bit offsets and weights times 1024 of 256 steps a channel, so
+// QUIRK (keeps_8_bit_excursion): 10-bit offsets and weights times 1024 of 256 steps a channel, so
 // the excursion is that of 8 bits. White is luma 283 by the first of these and 318 by the second.
 struct NarrowChroma {
     static uint32_t filtered(double previous, double centre, double next)
     {
         return code((((previous + centre) + centre) + next) * 0.25);
     }
-    // Wide steps have the quarter in the chroma's weights.
+    // Simd steps have the quarter in the chroma's weights.
     static constexpr double chroma_scale = 0.25, filter_half = 0.0;
 };
 
@@ -93,7 +93,7 @@ struct Narrow709 : NarrowChroma {
 };
 
 // Six pixels are read whole before four words are written.
-// DELIBERATE (keeps_overflow_into_next_field): fields are joined with no mask. Pure blue at the head of a
+// QUIRK (keeps_overflow_into_next_field): fields are joined with no mask. Pure blue at the head of a
 // VideoRange601 line has Cb 1232, whose bit 10 is or-ed into the Y0 field.
 template <class Matrix, class Order>
 void convert_group(uint8_t* dst, const uint8_t* src, Carried& carried)
@@ -129,14 +129,14 @@ void convert_plainly(uint8_t* dst, const uint8_t* src, long groups, Carried& car
 
 // AVX2 has no loads that leave a byte out, and its steps leave the last group.
 template <class Matrix, class Order>
-void convert_groups(uint8_t* dst, const uint8_t* src, long groups, Carried& carried, Tier widest)
+void convert_groups(uint8_t* dst, const uint8_t* src, long groups, Carried& carried, InstructionSet widest)
 {
     constexpr long src_group_bytes = v210_group_pixels * Order::bytes;
     long done = 0;
     if (groups > 0 && disjoint(dst, groups * v210_group_bytes, src, groups * src_group_bytes)) {
-        if (widest == Tier::vbmi)
-            done = groups_vbmi<Matrix, Order>(dst, src, groups, carried);
-        else if (widest == Tier::avx2) {
+        if (widest == InstructionSet::avx512)
+            done = groups_avx512<Matrix, Order>(dst, src, groups, carried);
+        else if (widest == InstructionSet::avx2) {
             convert_group<Matrix, Order>(dst, src, carried);
             done = 1 + groups_avx2<Matrix, Order>(dst + v210_group_bytes, src + src_group_bytes, groups - 2, carried);
         }
@@ -148,16 +148,16 @@ template <class Matrix, class Order>
 void convert_line(unsigned int* dst, const uint8_t* src, int width)
 {
     Carried carried;
-    convert_groups<Matrix, Order>(bytes(dst), src, (width + 5L) / v210_group_pixels, carried, tier());
+    convert_groups<Matrix, Order>(bytes(dst), src, (width + 5L) / v210_group_pixels, carried, instruction_set());
 }
 
-// DELIBERATE (keeps_groups_across_lines): the counter runs over the frame, so a line is entered at the
+// QUIRK (keeps_groups_across_lines): the counter runs over the frame, so a line is entered at the
 // first multiple of 6 in it and gets as many groups as begin in it. Below a `width` of 6 lines are skipped.
-// DELIBERATE (keeps_chroma_across_lines): the pixel before a line's first is the last one converted above.
+// QUIRK (keeps_chroma_across_lines): the pixel before a line's first is the last one converted above.
 template <class Matrix>
 void convert_frame(void* dst, long dst_stride, void* src, long src_stride, long width, long total)
 {
-    const Tier widest = tier();
+    const InstructionSet widest = instruction_set();
     const long line = magnitude(width);
     Carried carried;
     for (long i = 0, groups = 0; i < total; i += groups * v210_group_pixels) {
@@ -179,7 +179,7 @@ void argb_to_v210(unsigned char* src, unsigned int* dst, int width, int hasAlpha
 
 void bgra_to_v210(unsigned char* src, unsigned int* dst, int width) { convert_line<Narrow601, Bgra>(dst, src, width); }
 
-// DELIBERATE (keeps_matrix_change_at_962): the width alone picks the matrix.
+// QUIRK (keeps_matrix_change_at_962): the width alone picks the matrix.
 void tntvt_rgb32_v210(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
     const long total = wrapping_product(width, height);

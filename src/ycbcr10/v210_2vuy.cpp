@@ -3,7 +3,7 @@
 
 #include "frame/memory.h"
 #include "ycbcr10/v210.h"
-#include "ycbcr10/v210_2vuy_wide.h"
+#include "ycbcr10/v210_2vuy_simd.h"
 
 using namespace tintvert;
 
@@ -13,9 +13,9 @@ constexpr long narrow_group_bytes = 12;  // six pixels of `2vuy`
 
 // The two directions differ in their default line, and neither has the 48-pixel blocks of the other `v210`
 // routines, which come to 3456 bytes for 1280 pixels and to 384 for 100.
-// DELIBERATE (keeps_lines_of_64_bytes): the mask takes bit 31 along with the low six.
+// QUIRK (keeps_lines_of_64_bytes): the mask takes bit 31 along with the low six.
 constexpr uint32_t line_of_64_bytes(uint32_t width) { return (width * 16 / 6 + 63) & 0x7FFFFFC0; }
-// DELIBERATE (keeps_unrounded_lines): a last group that is not whole is cut.
+// QUIRK (keeps_unrounded_lines): a last group that is not whole is cut.
 constexpr uint32_t unrounded_line(uint32_t width) { return width * 16 / 6; }
 
 static_assert(line_of_64_bytes(1920) == 5120 && line_of_64_bytes(1280) == 3456 && line_of_64_bytes(100) == 320);
@@ -40,24 +40,24 @@ void narrow_group(uint8_t* dst, const uint8_t* src)
     std::memcpy(dst, byte, sizeof byte);
 }
 
-void widen_line(uint8_t* dst, const uint8_t* src, long width, Tier limit)
+void widen_line(uint8_t* dst, const uint8_t* src, long width, InstructionSet limit)
 {
     const long groups = groups_of(width, v210_group_pixels);
     long done = 0;
     if (disjoint(dst, groups * v210_group_bytes, src, groups * narrow_group_bytes))
-        done = widen_wide(limit, dst, src, groups);
+        done = widen_simd(limit, dst, src, groups);
     for (; done < groups; ++done) widen_group(dst + done * v210_group_bytes, src + done * narrow_group_bytes);
 }
 
-void narrow_line(uint8_t* dst, const uint8_t* src, long groups, Tier limit)
+void narrow_line(uint8_t* dst, const uint8_t* src, long groups, InstructionSet limit)
 {
     long done = 0;
     if (disjoint(dst, groups * narrow_group_bytes, src, groups * v210_group_bytes))
-        done = narrow_wide(limit, dst, src, groups);
+        done = narrow_simd(limit, dst, src, groups);
     for (; done < groups; ++done) narrow_group(dst + done * narrow_group_bytes, src + done * v210_group_bytes);
 }
 
-// DELIBERATE (keeps_double_length_lines): output words are counted against pixels, two to a word, so a line
+// QUIRK (keeps_double_length_lines): output words are counted against pixels, two to a word, so a line
 // runs on to twice its length: a group for every three pixels. The next line overwrites the surplus and the last
 // line's lands behind the frame, where callers leave `width` * 2 bytes of room.
 long doubled_groups(long width) { return groups_of(width, 3); }
@@ -80,13 +80,13 @@ bool surplus_is_overwritten(const uint8_t* dst, const uint8_t* src, uint32_t wid
 
 }  // namespace
 
-// DELIBERATE (keeps_last_line_first_without_guard): the line index is unsigned and 0 lines are 2^32 of them.
+// QUIRK (keeps_last_line_first_without_guard): the line index is unsigned and 0 lines are 2^32 of them.
 void tntvt_2vuy_v210(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                      unsigned int dstStride)
 {
     if (dstStride == 0) dstStride = line_of_64_bytes(width);
     if (width == 0) return;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     uint32_t y = height;
     do {
         --y;
@@ -99,9 +99,9 @@ void tntvt_v210_2vuy(unsigned char* dst, unsigned char* src, unsigned int width,
 {
     if (srcStride == 0) srcStride = unrounded_line(width);
     if (width == 0) return;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const long groups = doubled_groups(width);
-    const bool once = limit > Tier::plain && surplus_is_overwritten(dst, src, width, height, srcStride);
+    const bool once = limit > InstructionSet::scalar && surplus_is_overwritten(dst, src, width, height, srcStride);
     const long groups_above = once ? groups_of(width, v210_group_pixels) : groups;
     uint32_t dst_offset = 0, src_offset = 0;
     for (uint32_t y = 0; y != height; ++y) {

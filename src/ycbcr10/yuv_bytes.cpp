@@ -1,5 +1,5 @@
 // Two routines with a `v210` name that write 8-bit 4:2:2, chroma first.
-// DELIBERATE (keeps_8_bit_bytes_under_a_v210_name): two bytes a pixel, as the routines named for `2vuy`.
+// QUIRK (keeps_8_bit_bytes_under_a_v210_name): two bytes a pixel, as the routines named for `2vuy`.
 #include <tintvert/ycbcr10.h>
 
 #include "ycbcr8/full_range.h"

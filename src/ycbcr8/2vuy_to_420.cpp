@@ -1,16 +1,17 @@
 // `2vuy` to `i420` and `yv12`: the chroma of even lines is kept, that of odd lines dropped.
 #include <tintvert/ycbcr8.h>
 
-#include "ycbcr8/groups_wide.h"
+#include "ycbcr8/groups_simd.h"
 #include "ycbcr8/planes_420.h"
 
 using namespace tintvert;
 
 namespace {
 
-void part_even_line(Tier limit, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, long groups)
+void part_even_line(InstructionSet limit, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src,
+                    long groups)
 {
-    for (long g = part_groups_wide(limit, {luma, byte0, byte2}, src, groups); g < groups; ++g) {
+    for (long g = part_groups_simd(limit, {luma, byte0, byte2}, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
         byte0[g] = src[4 * g];
@@ -18,20 +19,20 @@ void part_even_line(Tier limit, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, c
     }
 }
 
-void part_odd_line(Tier limit, uint8_t* luma, const uint8_t* src, long groups)
+void part_odd_line(InstructionSet limit, uint8_t* luma, const uint8_t* src, long groups)
 {
-    for (long g = part_luma_wide(limit, luma, src, groups); g < groups; ++g) {
+    for (long g = part_luma_simd(limit, luma, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
     }
 }
 
-// DELIBERATE (keeps_slack_as_pixels): a line is all of its stride, so slack is packed into the planes like
+// QUIRK (keeps_slack_as_pixels): a line is all of its stride, so slack is packed into the planes like
 // pixels, and luma that has outgrown its plane runs on into the chroma planes.
 void from_2vuy(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, uint32_t stride, uint32_t height)
 {
     if (stride == 0) return;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const long groups = (long{stride} + 3) / 4;
     for (uint32_t r = 0; r < height; ++r, luma += 2 * groups) {
         const uint8_t* line = advance(src, r * stride);

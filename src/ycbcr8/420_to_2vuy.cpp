@@ -1,7 +1,7 @@
 // `i420` and `yv12` to `2vuy`: a chroma line serves two lines, and nothing is interpolated.
 #include <tintvert/ycbcr8.h>
 
-#include "ycbcr8/groups_wide.h"
+#include "ycbcr8/groups_simd.h"
 #include "ycbcr8/planes_420.h"
 
 using namespace tintvert;
@@ -9,9 +9,9 @@ using namespace tintvert;
 namespace {
 
 // A group is one word: its four samples are read before any byte of it is written.
-void join_line(Tier limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
+void join_line(InstructionSet limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
 {
-    for (long g = join_groups_wide(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
+    for (long g = join_groups_simd(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
         const uint8_t b0 = cb[g], b1 = y[2 * g], b2 = cr[g], b3 = y[2 * g + 1];
         dst[4 * g] = b0;
         dst[4 * g + 1] = b1;
@@ -26,7 +26,7 @@ struct Progressive {
     static uint32_t chroma(uint32_t width, uint32_t r) { return r / 2 * width / 2; }
 };
 
-// DELIBERATE (keeps_interlaced_line_order): luma lines 0, 2, 3, 2, 3, 4, 5, 6 ... and chroma lines
+// QUIRK (keeps_interlaced_line_order): luma lines 0, 2, 3, 2, 3, 4, 5, 6 ... and chroma lines
 // 0, 1, 1, 0, 2, 1, 3, 2 ... An odd line sets the luma position afresh and an even line goes on from there,
 // so line 1 is never shown.
 struct Interlaced {
@@ -42,13 +42,13 @@ struct Interlaced {
     }
 };
 
-// DELIBERATE (keeps_long_luma_lines_of_odd_width): an odd `width` moves the luma position on by `width` + 1.
+// QUIRK (keeps_long_luma_lines_of_odd_width): an odd `width` moves the luma position on by `width` + 1.
 template <class Order>
 void to_2vuy(uint8_t* dst, uint32_t stride, const uint8_t* plane, const uint8_t* cb, const uint8_t* cr, uint32_t width,
              uint32_t height)
 {
     if (width == 0) return;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const long groups = (long{width} + 1) / 2;
     const uint8_t* luma = plane;
     for (uint32_t r = 0; r < height; ++r) {

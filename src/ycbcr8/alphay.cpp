@@ -2,7 +2,7 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/walk.h"
-#include "ycbcr8/groups_wide.h"
+#include "ycbcr8/groups_simd.h"
 
 using namespace tintvert;
 
@@ -12,12 +12,12 @@ namespace {
 // frame grows from its end.
 struct AlphayTo2yuv {
     static constexpr long src_bytes = 2, dst_bytes = 4;
-    struct Wide {
+    struct Simd {
         static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool down)
         {
             return join_luma_avx2(dst, src, pairs, down);
         }
-        static long vbmi(uint8_t* dst, const uint8_t* src, long pairs, bool down)
+        static long avx512(uint8_t* dst, const uint8_t* src, long pairs, bool down)
         {
             return join_luma_avx2(dst, src, pairs, down);
         }
@@ -31,9 +31,12 @@ struct AlphayTo2yuv {
 
 struct Alphay {
     static constexpr long src_bytes = 4, dst_bytes = 2;
-    struct Wide {
+    struct Simd {
         static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool) { return part_luma_avx2(dst, src, pairs); }
-        static long vbmi(uint8_t* dst, const uint8_t* src, long pairs, bool) { return part_luma_avx2(dst, src, pairs); }
+        static long avx512(uint8_t* dst, const uint8_t* src, long pairs, bool)
+        {
+            return part_luma_avx2(dst, src, pairs);
+        }
     };
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
@@ -55,7 +58,7 @@ long pairs_in(long width) { return width >> 1; }
 
 }  // namespace
 
-// DELIBERATE (keeps_lines_at_end_of_stride): with pitches wider than the pixels, both lines end where their
+// QUIRK (keeps_lines_at_end_of_stride): with pitches wider than the pixels, both lines end where their
 // pitch ends.
 int tntvt_alphay_to_2yuv(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
@@ -63,7 +66,7 @@ int tntvt_alphay_to_2yuv(void* dst, long dstStride, void* src, long srcStride, l
     return 0;
 }
 
-// DELIBERATE (keeps_one_line_more): lines 0 to `height`, the last included, here and below. A `height` of 0
+// QUIRK (keeps_one_line_more): lines 0 to `height`, the last included, here and below. A `height` of 0
 // is one line, and -1 is none.
 int tntvt_2yuv_to_alphay(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "frame/memory.h"
-#include "ycbcr8/average_2y_wide.h"
+#include "ycbcr8/average_2y_simd.h"
 
 using namespace tintvert;
 
@@ -20,7 +20,7 @@ void average_pairs(uint8_t* buf, long pairs)
 {
     const auto round = [buf](long k) { buf[4 * k + 3] = static_cast<uint8_t>((buf[4 * k + 3] + buf[4 * k + 1]) >> 1); };
     round(0);
-    for (long k = average_pairs_wide(tier(), buf, pairs); k < pairs; ++k) round(k);
+    for (long k = average_pairs_simd(instruction_set(), buf, pairs); k < pairs; ++k) round(k);
 }
 
 template <Replacement replacement>
@@ -36,7 +36,7 @@ bool is_isolated(int prev, int t, int cur, int most)
     return prev <= most && std::abs(prev - cur) < 8 && std::abs(prev - t) >= 11;
 }
 
-// DELIBERATE (keeps_round_past_the_end): the test follows the round, so that the last one has `cur` at or
+// QUIRK (keeps_round_past_the_end): the test follows the round, so that the last one has `cur` at or
 // past `bytes`: up to index `bytes` + 3 for `cur` and `bytes` + 1 for `t`. A `t` that stays is stored as it
 // is, which leaves the loop without a branch.
 template <Replacement replacement>
@@ -48,7 +48,7 @@ void pull_back(uint8_t* buf, long pairs, int most)
         buf[4 * k + 3] = static_cast<uint8_t>(is_isolated(prev, t, cur, most) ? pulled : t);
     };
     round(0);
-    for (long k = pull_back_wide(tier(), buf, pairs, replacement, most); k < pairs; ++k) round(k);
+    for (long k = pull_back_simd(instruction_set(), buf, pairs, replacement, most); k < pairs; ++k) round(k);
 }
 
 constexpr int dark_only = 127, any = 255;

@@ -1,7 +1,7 @@
 // Full-range 4:2:2 with luma first to video range with chroma first: the two bytes of a pixel change places.
 #pragma once
 
-#include "ycbcr8/full_range_wide.h"
+#include "ycbcr8/full_range_simd.h"
 
 namespace tintvert {
 
@@ -10,7 +10,7 @@ namespace tintvert {
 template <uint8_t sign>
 void to_video_range(uint8_t* dst, const uint8_t* src, int pixels)
 {
-    for (long i = to_video_range_wide(dst, src, pixels, sign); i < pixels; ++i) {
+    for (long i = to_video_range_simd(dst, src, pixels, sign); i < pixels; ++i) {
         const uint8_t y = src[2 * i];
         const uint8_t c = src[2 * i + 1] ^ sign;
         dst[2 * i + 1] = video_luma(y);

@@ -3,8 +3,8 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/wide.h"
-#include "ycbcr8/rgb_to_2vuy_wide.h"
+#include "frame/simd.h"
+#include "ycbcr8/rgb_to_2vuy_simd.h"
 
 using namespace tintvert;
 
@@ -16,7 +16,7 @@ struct Ycc {
 
 // ITU-R BT.601 weights times 256, video range. Every sum is formed in the order written; nothing is
 // rounded before the last step, which is a truncation.
-// DELIBERATE (keeps_truncation_of_grey): no half is added, so 51 of the 256 greys come out with a chroma
+// QUIRK (keeps_truncation_of_grey): no half is added, so 51 of the 256 greys come out with a chroma
 // of 127 where 128 is neutral.
 struct VideoRange601 {
     static Ycc convert(double r, double g, double b)
@@ -31,7 +31,7 @@ struct VideoRange601 {
 };
 
 // ITU-R BT.709 weights times 1024, full range, luma without an offset, the half already in place.
-// DELIBERATE (keeps_wrap_of_pure_blue_and_red): a run of pure blue or red reaches chroma 256.0, whose
+// QUIRK (keeps_wrap_of_pure_blue_and_red): a run of pure blue or red reaches chroma 256.0, whose
 // low byte is 0.
 struct FullRange709 {
     static Ycc convert(double r, double g, double b)
@@ -67,16 +67,17 @@ void convert_pair(uint8_t* dst, const uint8_t* src, Carried& previous)
     previous = {odd.cb, odd.cr};
 }
 
-// Wide steps read the pixel before them.
+// Simd steps read the pixel before them.
 template <class Matrix, const Channels& at>
-long wide_pairs(uint8_t* dst, const uint8_t* src, long pairs)
+long simd_pairs(uint8_t* dst, const uint8_t* src, long pairs)
 {
-    const Tier widest = tier();
-    if (widest < Tier::avx2 || pairs < 1 || !disjoint(dst, pairs * 4, src - 4, pairs * 8 + 4)) return 0;
-    return widest == Tier::vbmi ? pairs_vbmi<Matrix, at>(dst, src, pairs) : pairs_avx2<Matrix, at>(dst, src, pairs);
+    const InstructionSet widest = instruction_set();
+    if (widest < InstructionSet::avx2 || pairs < 1 || !disjoint(dst, pairs * 4, src - 4, pairs * 8 + 4)) return 0;
+    return widest == InstructionSet::avx512 ? pairs_avx512<Matrix, at>(dst, src, pairs)
+                                            : pairs_avx2<Matrix, at>(dst, src, pairs);
 }
 
-// DELIBERATE (keeps_chroma_start_without_half): the chroma before the first pixel is 128.0 in both matrices.
+// QUIRK (keeps_chroma_start_without_half): the chroma before the first pixel is 128.0 in both matrices.
 // The first or the last byte of a run is alpha, which nothing reads; wide steps leave a pair at either end.
 template <class Matrix, const Channels& at>
 void convert_run(uint8_t* dst, const uint8_t* src, int pixels)
@@ -85,7 +86,7 @@ void convert_run(uint8_t* dst, const uint8_t* src, int pixels)
     for (long i = 0; i < pixels; i += 2) {
         convert_pair<Matrix, at>(dst + i * 2, src + i * 4, carried);
         if (i > 0) continue;
-        const long wide = wide_pairs<Matrix, at>(dst + 4, src + 8, pixels / 2 - 2);
+        const long wide = simd_pairs<Matrix, at>(dst + 4, src + 8, pixels / 2 - 2);
         if (wide > 0) carried = carried_to<Matrix, at>(src + 8 + wide * 8);
         i += 2 * wide;
     }
@@ -111,7 +112,7 @@ void hd_rgb_to_2vuy(unsigned char* src, unsigned char* dst, int pixels, int bgra
         convert_run<FullRange709, argb_bytes>(dst, src, pixels);
 }
 
-// DELIBERATE (keeps_one_run_whatever_the_strides): the frame is one run of pixels on both sides; a
+// QUIRK (keeps_one_run_whatever_the_strides): the frame is one run of pixels on both sides; a
 // caller that has gaps at line ends compacts the frame first.
 void tntvt_rgb32_2vuy(void* dst, long, void* src, long, long width, long height)
 {

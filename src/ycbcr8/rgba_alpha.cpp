@@ -2,7 +2,7 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/walk.h"
-#include "ycbcr8/alpha_wide.h"
+#include "ycbcr8/alpha_simd.h"
 
 using namespace tintvert;
 
@@ -11,12 +11,12 @@ namespace {
 // The key becomes a grey picture of itself, alpha included.
 struct AlphaToRgba {
     static constexpr long src_bytes = 1, dst_bytes = 4;
-    struct Wide {
+    struct Simd {
         static long avx2(uint8_t* dst, const uint8_t* src, long width, bool)
         {
             return spread_alpha_avx2(dst, src, width);
         }
-        static long vbmi(uint8_t* dst, const uint8_t* src, long width, bool)
+        static long avx512(uint8_t* dst, const uint8_t* src, long width, bool)
         {
             return spread_alpha_avx2(dst, src, width);
         }
@@ -24,7 +24,7 @@ struct AlphaToRgba {
     static void pixel(uint8_t* dst, const uint8_t* src) { store<uint32_t>(dst, src[0] * 0x01010101u); }
 };
 
-// DELIBERATE (keeps_first_byte_as_alpha): byte 0 is taken, though the two routines below write byte 3.
+// QUIRK (keeps_first_byte_as_alpha): byte 0 is taken, though the two routines below write byte 3.
 struct RgbaToAlpha {
     static constexpr long src_bytes = 4, dst_bytes = 1;
     static void pixel(uint8_t* dst, const uint8_t* src) { dst[0] = src[0]; }
@@ -46,26 +46,26 @@ int tntvt_rgba_to_alpha(void* dst, long, void* src, long srcStride, long width, 
 
 int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long width, long height)
 {
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     for (long r = 0; r < height; ++r) {
         uint8_t* line = advance(bytes(dst), line_offset(r, dstStride));
-        for (long x = set_alpha_wide(limit, line, low, width); x < width; ++x) line[4 * x + 3] = low;
+        for (long x = set_alpha_simd(limit, line, low, width); x < width; ++x) line[4 * x + 3] = low;
     }
     return 0;
 }
 
-// DELIBERATE (keeps_negative_width_as_unsigned): a negative `width` counts from 2^31 pixels up, first pixel first until
+// QUIRK (keeps_negative_width_as_unsigned): a negative `width` counts from 2^31 pixels up, first pixel first until
 // memory ends.
 int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dstStride, unsigned int alpha, int width, int height)
 {
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     const long pixels = static_cast<unsigned int>(width);
     for (long r = long{height} - 1; r >= 0; --r) {
         uint8_t* to = advance(bytes(dst), line_offset(r, dstStride));
         const uint8_t* from = advance(bytes(src), line_offset(r, srcStride));
-        for (long x = add_alpha_wide(limit, to, from, low, width); x < pixels; ++x) {
+        for (long x = add_alpha_simd(limit, to, from, low, width); x < pixels; ++x) {
             to[4 * x] = from[3 * x];
             to[4 * x + 1] = from[3 * x + 1];
             to[4 * x + 2] = from[3 * x + 2];

@@ -14,7 +14,8 @@ namespace {
 void scale_groups(uint8_t* buffer, size_t bytes, const uint8_t* chroma, const uint8_t* luma)
 {
     const size_t whole = (bytes + 3) / 4 * 4;
-    const long done = map_pairs_wide(tier(), buffer, buffer, nullptr, static_cast<long>(whole), {chroma, luma});
+    const long done =
+        map_pairs_simd(instruction_set(), buffer, buffer, nullptr, static_cast<long>(whole), {chroma, luma});
     for (size_t i = static_cast<size_t>(done); i < bytes; i += 4) {
         buffer[i] = chroma[buffer[i]];
         buffer[i + 1] = luma[buffer[i + 1]];
@@ -25,7 +26,7 @@ void scale_groups(uint8_t* buffer, size_t bytes, const uint8_t* chroma, const ui
 
 }  // namespace
 
-// DELIBERATE (keeps_exchanged_tables_going_up): going up, chroma takes the luma table and luma the chroma
+// QUIRK (keeps_exchanged_tables_going_up): going up, chroma takes the luma table and luma the chroma
 // table.
 void tntvt_2vuy_scale(unsigned char* buffer, unsigned int bytes, unsigned int up)
 {

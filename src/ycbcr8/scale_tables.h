@@ -13,7 +13,7 @@ constexpr uint8_t luma_down(int i) { return static_cast<uint8_t>(i * 219 / 255 +
 constexpr uint8_t chroma_down(int i) { return static_cast<uint8_t>(i * 224 / 254 + 16); }
 constexpr uint8_t chroma_down_255 = 241;
 
-// DELIBERATE (keeps_divisors_one_above_the_span): 220 and 225, so that up is not the inverse of down.
+// QUIRK (keeps_divisors_one_above_the_span): 220 and 225, so that up is not the inverse of down.
 constexpr uint8_t scaled_up(int i, double divisor, int white)
 {
     if (i <= 16) return 0;

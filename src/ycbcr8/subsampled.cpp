@@ -1,4 +1,4 @@
-// DELIBERATE (keeps_empty_subsampled_entries): the 4:1:1 and 4:2:0 names are part of the interface and
+// QUIRK (keeps_empty_subsampled_entries): the 4:1:1 and 4:2:0 names are part of the interface and
 // convert nothing.
 #include <tintvert/ycbcr8.h>
 

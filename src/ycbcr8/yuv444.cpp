@@ -1,13 +1,13 @@
 // `yuv444` to `2vuy` and back: bytes are dropped or repeated, nothing is computed.
 #include <tintvert/ycbcr8.h>
 
-#include "ycbcr8/yuv444_wide.h"
+#include "ycbcr8/yuv444_simd.h"
 
 using namespace tintvert;
 
 namespace {
 
-// DELIBERATE (keeps_frames_of_444_unbroken): both frames are one run of pixels, whatever `stride` is. Two
+// QUIRK (keeps_frames_of_444_unbroken): both frames are one run of pixels, whatever `stride` is. Two
 // pixels a group, 6 bytes of `yuv444`; an odd last pixel makes a whole group.
 long groups_in(unsigned int width, unsigned int height)
 {
@@ -18,13 +18,13 @@ long groups_in(unsigned int width, unsigned int height)
 }  // namespace
 
 // The odd pixel's chroma is dropped.
-// DELIBERATE (keeps_store_before_load_of_444): byte by byte in the order of the destination, here and
+// QUIRK (keeps_store_before_load_of_444): byte by byte in the order of the destination, here and
 // below, so neither works in place.
 void tntvt_yuv444_yuv422_8(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                            unsigned int)
 {
     const long groups = groups_in(width, height);
-    long g = to_422_wide(dst, src, groups);
+    long g = to_422_simd(dst, src, groups);
     src += g * 6;
     dst += g * 4;
     for (; g < groups; ++g, src += 6, dst += 4) {
@@ -40,7 +40,7 @@ void tntvt_yuv422_yuv444_8(unsigned char* dst, unsigned char* src, unsigned int 
                            unsigned int)
 {
     const long groups = groups_in(width, height);
-    long g = to_444_wide(dst, src, groups);
+    long g = to_444_simd(dst, src, groups);
     src += g * 4;
     dst += g * 6;
     for (; g < groups; ++g, src += 4, dst += 6) {

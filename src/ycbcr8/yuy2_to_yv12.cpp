@@ -2,18 +2,18 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/memory.h"
-#include "ycbcr8/groups_wide.h"
+#include "ycbcr8/groups_simd.h"
 
 using namespace tintvert;
 
 namespace {
 
-void convert_pair(Tier limit, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src, long src_pitch,
-                  long groups)
+void convert_pair(InstructionSet limit, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src,
+                  long src_pitch, long groups)
 {
     uint8_t* const y_below = advance(y, y_pitch);
     const uint8_t* const below = advance(src, src_pitch);
-    long g = part_pair_wide(limit, {y, cb, cr}, y_below, src, below, groups);
+    long g = part_pair_simd(limit, {y, cb, cr}, y_below, src, below, groups);
     for (; g < groups; ++g) {
         y[2 * g] = src[4 * g];
         y[2 * g + 1] = src[4 * g + 2];
@@ -26,7 +26,7 @@ void convert_pair(Tier limit, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr
 
 }  // namespace
 
-// DELIBERATE (keeps_drift_of_odd_width): every pointer steps from the end of the groups by what `width`
+// QUIRK (keeps_drift_of_odd_width): every pointer steps from the end of the groups by what `width`
 // leaves of its pitch. An odd `width` has half a group more than that, so pair by pair the source drifts by
 // 2 bytes and luma by 1, and chroma by 1 if `dstPitch` is odd as well. The shift is arithmetic, for pitches
 // below `width`.
@@ -34,7 +34,7 @@ void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigne
                 int srcPitch, int dstPitch)
 {
     if (height < 1 || width < 1) return;
-    const Tier limit = tier();
+    const InstructionSet limit = instruction_set();
     const long groups = (width - 1) / 2 + 1;
     const long src_slack = 2l * srcPitch - width;
     const long dst_slack = long{dstPitch} - width;

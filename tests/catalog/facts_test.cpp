@@ -1,4 +1,4 @@
-// Second names, empty entries and oddities, each proved in both directions.
+// Second names, empty entries and quirks, each proved in both directions.
 #include "facts.h"
 
 #include <gtest/gtest.h>
@@ -113,7 +113,7 @@ struct Row {
     bool names_all;                  // the row says nothing else about whose it is
 };
 
-// The second column of a table of docs/deliberate.md: names in backquotes, commas, and sometimes other words.
+// The second column of a table of docs/quirks.md: names in backquotes, commas, and sometimes other words.
 Row routines_in(const std::string& cell)
 {
     Row row{{}, true};
@@ -133,7 +133,7 @@ Row routines_in(const std::string& cell)
 std::map<std::string, Row> rows_of_docs()
 {
     std::map<std::string, Row> rows;
-    std::istringstream lines(text_of("docs/deliberate.md"));
+    std::istringstream lines(text_of("docs/quirks.md"));
     for (std::string line; std::getline(lines, line);) {
         if (!line.starts_with("| keeps_")) continue;
         const size_t end = line.find(" |"), next = line.find(" |", end + 2);
@@ -142,11 +142,11 @@ std::map<std::string, Row> rows_of_docs()
     return rows;
 }
 
-TEST(Facts, oddities_are_those_of_the_docs)
+TEST(Facts, quirks_are_those_of_the_docs)
 {
     std::map<std::string, std::set<std::string>> told;
     for (const Routine& routine : catalog::routines())
-        for (const std::string_view name : oddities_of(routine)) {
+        for (const std::string_view name : quirks_of(routine)) {
             EXPECT_TRUE(told[std::string{name}].insert(std::string{routine.name}).second)
                 << name << ' ' << routine.name;
         }

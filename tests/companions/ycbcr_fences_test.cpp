@@ -1,10 +1,10 @@
-// No tier of libycbcr touches a byte beyond its lines.
+// No level of libycbcr touches a byte beyond its lines.
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <vector>
 
-#include "companions/ycbcr_tiers.h"
+#include "companions/ycbcr_levels.h"
 #include "support/fence.h"
 #include "support/random.h"
 
@@ -24,47 +24,48 @@ public:
 };
 
 template <class Form>
-void expect_inside_fences(Tier tier, const Form& form, int width, Side side, Random& random)
+void expect_inside_fences(InstructionSet level, const Form& form, int width, Side side, Random& random)
 {
     const size_t bytes = static_cast<size_t>(width) * 4;
     std::vector<uint8_t> expected(bytes);
     line_plain(expected.data(), form, 0, width, bt601);
     const Fenced dst(random, width * 4, side);
-    ASSERT_FALSE(faults([&] { line(tier, dst.pointer(), form, width, bt601); })) << name_of(tier) << ' ' << width;
-    EXPECT_EQ(0, std::memcmp(dst.pointer(), expected.data(), bytes)) << name_of(tier) << ' ' << width;
+    ASSERT_FALSE(faults([&] { line(level, dst.pointer(), form, width, bt601); })) << name_of(level) << ' ' << width;
+    EXPECT_EQ(0, std::memcmp(dst.pointer(), expected.data(), bytes)) << name_of(level) << ' ' << width;
 }
 
-// No tier reads behind the last sample that a line needs.
-TEST_F(CycbcrTiers, stay_between_fences)
+// No level reads behind the last sample that a line needs.
+TEST_F(CycbcrLevels, stay_between_fences)
 {
     Random random(10);
-    for (const Tier tier : tiers) {
+    for (const InstructionSet level : levels) {
         for (int width = 1; width <= 300; ++width) {
             for (const Side side : {Side::below, Side::above}) {
                 const Fenced pairs(random, Uyvy::bytes_of(width), side), groups(random, V210::bytes_of(width), side);
                 const Fenced y(random, width, side), cb(random, width / 2, side), cr(random, width / 2, side);
-                expect_inside_fences(tier, Uyvy{pairs.pointer()}, width, side, random);
-                expect_inside_fences(tier, V210{groups.pointer()}, width, side, random);
-                expect_inside_fences(tier, planar(y.pointer(), cb.pointer(), cr.pointer(), width), width, side, random);
+                expect_inside_fences(level, Uyvy{pairs.pointer()}, width, side, random);
+                expect_inside_fences(level, V210{groups.pointer()}, width, side, random);
+                expect_inside_fences(level, planar(y.pointer(), cb.pointer(), cr.pointer(), width), width, side,
+                                     random);
             }
         }
     }
 }
 
 // The fences do close: one pixel, pair or group more is a fault, for each buffer of each form.
-TEST_F(CycbcrTiers, fault_beyond_a_fence)
+TEST_F(CycbcrLevels, fault_beyond_a_fence)
 {
     Random random(11);
     std::vector<uint8_t> open = random.bytes(2000);
     uint8_t* const far = open.data();
-    for (const Tier tier : tiers) {
+    for (const InstructionSet level : levels) {
         for (int width = 1; width <= 100; ++width) {
             const Fenced dst(random, width * 4, Side::above), y(random, width, Side::above);
             const Fenced pairs(random, (width + 1) / 2 * 4, Side::above),
                 groups(random, (width + 5) / 6 * 16, Side::above);
             const Fenced chroma(random, (width + 1) / 2, Side::above);
             const auto line_faults = [&](uint8_t* to, const auto& form, int pixels) {
-                return faults([&] { line(tier, to, form, pixels, bt601); });
+                return faults([&] { line(level, to, form, pixels, bt601); });
             };
             EXPECT_TRUE(line_faults(dst.pointer(), Uyvy{far}, width + 1));
             EXPECT_TRUE(line_faults(dst.pointer(), V210{far}, width + 1));

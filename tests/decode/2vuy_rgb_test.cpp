@@ -300,7 +300,7 @@ TEST(Yuv422Rgb16, scale_3_takes_every_third_line_exchanged)
     EXPECT_EQ(rgb16(src, 4, {4, 4, 2, 6, 3}), (Words{0x4210, 0x4210, 0, 0}));
 }
 
-TEST(Deliberate, keeps_form_by_stride)
+TEST(Quirks, keeps_form_by_stride)
 {
     const Memory src(64, 128);
     const auto bytes_a_pixel = [&](long dstStride, long width, long scale) {
@@ -335,7 +335,7 @@ TEST(Deliberate, keeps_form_by_stride)
     EXPECT_EQ(bytes_a_pixel(12, 3, 1), 4);
 }
 
-TEST(Deliberate, keeps_first_luma_for_both)
+TEST(Quirks, keeps_first_luma_for_both)
 {
     for (int luma = 0; luma < 256; ++luma) {
         const auto second = static_cast<uint8_t>(luma);
@@ -344,7 +344,7 @@ TEST(Deliberate, keeps_first_luma_for_both)
     }
 }
 
-TEST(Deliberate, keeps_swapped_line_pairs)
+TEST(Quirks, keeps_swapped_line_pairs)
 {
     const Memory four = lines_of({greys({16, 0}), greys({33, 0}), greys({128, 0}), greys({235, 0})});
     EXPECT_EQ(rgb16(four, 8, {4, 4, 2, 4, 1}), (Words{0x0842, 0x0842, 0, 0, 0x7FFF, 0x7FFF, 0x4210, 0x4210}));

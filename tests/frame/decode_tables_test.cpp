@@ -104,7 +104,7 @@ TEST(V210Tables, filled_once_by_the_decoder)
     init_v210_to_rgb();
 }
 
-TEST(Deliberate, keeps_filling_on_every_call)
+TEST(Quirks, keeps_filling_on_every_call)
 {
     init_v210_to_rgb();
     spoil_v210_tables(1);

@@ -67,9 +67,9 @@ class Routines(unittest.TestCase):
                 for side in filter(None, (buffer["read"], buffer["written"])):
                     self.assertIn(f"{side[0]:,} to {side[1] - 1:,}".replace(",", " "), text, routine["name"])
 
-    def test_every_oddity_stands_on_a_page_of_a_routine(self):
+    def test_every_quirk_stands_on_a_page_of_a_routine(self):
         told = " ".join(self.text(routine["name"]) for routine in self.routines)
-        for name in re.findall(r"^\| (keeps_\w+)", (ROOT / "docs/deliberate.md").read_text(), re.MULTILINE):
+        for name in re.findall(r"^\| (keeps_\w+)", (ROOT / "docs/quirks.md").read_text(), re.MULTILINE):
             if name != "keeps_line_feed_before_carriage_return":  # of the failure report, which is no routine
                 self.assertIn(name, told)
         self.assertIn("keeps_double_length_lines", self.text("tntvt_v210_2vuy"))

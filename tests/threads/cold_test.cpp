@@ -75,7 +75,7 @@ private:
     int64_t result_ = 0;
 };
 
-// Those after whose call from cold a flag is up. 98 pixels leave some for the plain form at every tier.
+// Those after whose call from cold a flag is up. 98 pixels leave some for the scalar version at every level.
 std::vector<const catalog::Routine*> table_routines()
 {
     std::vector<const catalog::Routine*> found;

@@ -60,11 +60,11 @@ TEST_F(Explain, arguments_of_the_routine)
     EXPECT_EQ(run({"explain", "tntvt_2vuy_v210", "-s", "64x8", "--scale", "2"}).code, 2);
 }
 
-TEST_F(Explain, oddities_are_those_of_the_catalogue_in_the_words_of_the_page)
+TEST_F(Explain, quirks_are_those_of_the_catalogue_in_the_words_of_the_page)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
         const Json told = explained({std::string(routine.name), "--size", "96x6"})["deliberate"];
-        const auto names = catalog::oddities_of(routine);
+        const auto names = catalog::quirks_of(routine);
         ASSERT_EQ(told.size(), names.size()) << routine.name;
         for (size_t i = 0; i < names.size(); ++i) {
             EXPECT_EQ(told[i]["name"], names[i]);
@@ -74,12 +74,12 @@ TEST_F(Explain, oddities_are_those_of_the_catalogue_in_the_words_of_the_page)
     }
 }
 
-TEST_F(Explain, says_which_oddities_a_call_meets)
+TEST_F(Explain, says_which_quirks_a_call_meets)
 {
     const auto here = [](std::vector<std::string> call, const std::string& name) {
         const Json told = explained(std::move(call));
-        for (const Json& oddity : told["deliberate"])
-            if (oddity["name"] == name) return oddity["here"];
+        for (const Json& quirk : told["deliberate"])
+            if (quirk["name"] == name) return quirk["here"];
         return Json("there is none");
     };
     const std::string luma = "keeps_long_luma_lines_of_odd_width", matrix = "keeps_matrix_change_at_962";

@@ -33,7 +33,7 @@ void expect_same(const json& told, const catalog::Routine& routine)
     const catalog::Routine* const alias = catalog::alias_of(routine);
     EXPECT_EQ(told["alias_of"], alias == nullptr ? json() : json(alias->name));
     EXPECT_EQ(told["empty"], catalog::is_empty_entry(routine));
-    EXPECT_EQ(told["deliberate"], json(catalog::oddities_of(routine)));
+    EXPECT_EQ(told["deliberate"], json(catalog::quirks_of(routine)));
     EXPECT_EQ(told["companions"], json(catalog::companions_of(routine)));
     const auto peer = catalog::peer_of(routine);
     EXPECT_EQ(told["peer"].is_null(), !peer);

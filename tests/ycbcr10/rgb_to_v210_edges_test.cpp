@@ -150,7 +150,7 @@ TEST(Rgb32V210Edges, narrow_frames_are_encoded_as_lines)
 }
 
 // 962 pixels are 161 groups. White is 318, and blue has Cb 639.5.
-TEST(Rgb32V210Edges, wide_frames_have_the_other_weights)
+TEST(Rgb32V210Edges, simd_frames_have_the_other_weights)
 {
     const auto wide = [](Pixel pixel) { return from_frame(bgra(966, pixel), 161 * 16 + 1, {1, 1}, 962, 1); };
     const auto line = [](uint32_t first_cb, uint32_t first_cr, uint32_t cb, uint32_t y, uint32_t cr) {

@@ -262,7 +262,7 @@ TEST(RgbTo2vuy, open_changes_nothing)
 }
 
 // The double sum of a grey falls a hair under 128 in these levels, in one chroma or the other.
-TEST(Deliberate, keeps_truncation_of_grey)
+TEST(Quirks, keeps_truncation_of_grey)
 {
     EXPECT_EQ(bgra_run({grey(235), grey(235), grey(235), grey(235), grey(235), grey(235)}),
               (Memory{128, 217, 128, 217, 127, 217, 128, 217, 127, 217, 128, 217}));
@@ -290,19 +290,19 @@ TEST(Deliberate, keeps_truncation_of_grey)
     }
 }
 
-TEST(Deliberate, keeps_wrap_of_pure_blue_and_red)
+TEST(Quirks, keeps_wrap_of_pure_blue_and_red)
 {
     EXPECT_EQ(hd_run(six(blue)), (Memory{224, 18, 119, 18, 0, 18, 116, 18, 0, 18, 116, 18}));
     EXPECT_EQ(hd_run(six(red)), (Memory{106, 54, 224, 54, 99, 54, 0, 54, 99, 54, 0, 54}));
 }
 
 // From a start of 128.5 the first group would be 174, 74, 93, 74.
-TEST(Deliberate, keeps_chroma_start_without_half)
+TEST(Quirks, keeps_chroma_start_without_half)
 {
     EXPECT_EQ(hd_run({{0, 85, 187}, {0, 85, 187}}), (Memory{173, 74, 92, 74}));
 }
 
-TEST(Deliberate, keeps_one_run_whatever_the_strides)
+TEST(Quirks, keeps_one_run_whatever_the_strides)
 {
     // Each line anew would give 99, 81, 211, 81 for the second.
     const Memory two_lines{211, 40, 114, 40, 127, 81, 207, 81};

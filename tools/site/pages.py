@@ -166,7 +166,7 @@ class Site:
             companions(routine),
             arguments(routine),
             extents(routine),
-            oddities(routine, links),
+            quirks(routine, links),
             self.peers_of(routine, links),
             example(routine),
         ]
@@ -266,11 +266,11 @@ def extents(routine):
     )
 
 
-def oddities(routine, links):
+def quirks(routine, links):
     rows = routine["call"]["deliberate"]
     lines = [f"- `{row['name']}`: {links.mark(row['what'], routine['name'])}" for row in rows]
-    title = "## Deliberate oddities\n\n"
-    return title + "\n".join(lines) + "\n\n[What these names are](../deliberate.md)" if lines else ""
+    title = "## Quirks quirks\n\n"
+    return title + "\n".join(lines) + "\n\n[What these names are](../quirks.md)" if lines else ""
 
 
 def example(routine):

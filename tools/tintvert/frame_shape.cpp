@@ -52,7 +52,7 @@ FrameShape expect_samples(Clip& clip, const std::string& layout, const ClipOptio
     const catalog::SampleForm& form = samples_named(name);
     const Size size = clip.size();
     need_whole_units(form, size);
-    FrameForm bytes = plain_form(form.layout, size);
+    FrameForm bytes = scalar_version(form.layout, size);
     if (const int64_t stride = stride_of(options.stride, form.layout, size); stride != 0) {
         bytes.stride = stride;
         bytes.parts = {stride * size.height};

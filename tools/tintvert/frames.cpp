@@ -68,7 +68,7 @@ Size size_of_clip(const ClipOptions& options, const FrameSource& source, const s
 
 size_t FrameForm::bytes() const { return static_cast<size_t>(std::accumulate(parts.begin(), parts.end(), int64_t{0})); }
 
-FrameForm plain_form(std::string_view layout, Size size)
+FrameForm scalar_version(std::string_view layout, Size size)
 {
     const catalog::Layout& about = *catalog::find_layout(layout);
     FrameForm form;

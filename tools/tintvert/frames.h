@@ -2,7 +2,7 @@
 // MOV and AVI. A command that reads frames makes a Clip:
 //
 //     Clip clip(options, {path});                         // --size, --stride, --offset, --frames
-//     clip.expect(plain_form("v210", clip.size()));       // what the command wants to have in memory
+//     clip.expect(scalar_version("v210", clip.size()));       // what the command wants to have in memory
 //     std::vector<uint8_t> frame(clip.form().bytes());
 //     while (clip.next(frame)) ...
 #pragma once
@@ -35,7 +35,7 @@ struct FrameForm {
 };
 
 // A frame without padding, in one buffer, as the layout's arithmetic has it.
-FrameForm plain_form(std::string_view layout, Size size);
+FrameForm scalar_version(std::string_view layout, Size size);
 
 class FrameSource {
 public:

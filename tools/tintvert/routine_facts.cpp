@@ -61,7 +61,7 @@ Json facts_to_json(const catalog::Routine& routine)
     return {{"alias_of", alias == nullptr ? Json() : Json(alias->name)},
             {"empty", catalog::is_empty_entry(routine)},
             {"in_place", in_place_of(routine).name},
-            {"deliberate", catalog::oddities_of(routine)},
+            {"deliberate", catalog::quirks_of(routine)},
             {"companions", catalog::companions_of(routine)},
             {"peer", peer_to_json(routine, 0, 0)}};
 }
@@ -76,7 +76,7 @@ std::string facts_to_text(const catalog::Routine& routine)
         add("the same", fmt::format("{}, under a second name", alias->name));
     if (catalog::is_empty_entry(routine)) add("empty", "takes its arguments and does nothing");
     add("in place", in_place_of(routine).sentence);
-    add("deliberate", fmt::format("{}", fmt::join(catalog::oddities_of(routine), ", ")));
+    add("deliberate", fmt::format("{}", fmt::join(catalog::quirks_of(routine), ", ")));
     add("calls", fmt::format("{}", fmt::join(catalog::companions_of(routine), ", ")));
     if (const auto peer = catalog::peer_of(routine))
         add("peer", fmt::format("{}: {}", name_of(peer->agreement), peer_command_at(*peer, 0, 0)));

@@ -198,10 +198,10 @@ Exit convert_by_road(const Options& options)
     road::Road road = road::find_road({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
     add_losses_of_pictures(options, clip, format, road);
     const std::vector<Call> calls = calls_of(road, clip.size());
-    clip.expect(plain_form(from, clip.size()));
+    clip.expect(scalar_version(from, clip.size()));
     tell(options, road);
     int64_t frames = 0;
-    if (!options.dry_run) frames = convert_frames(options, clip, calls, plain_form(road.to, clip.size()), {out});
+    if (!options.dry_run) frames = convert_frames(options, clip, calls, scalar_version(road.to, clip.size()), {out});
     if (options.json) {
         Json report = to_json(road);
         report["size"] = {clip.size().width, clip.size().height};

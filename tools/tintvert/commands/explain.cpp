@@ -9,7 +9,7 @@
 #include "commands.h"
 #include "json.h"
 #include "nearest.h"
-#include "oddities.h"
+#include "quirks.h"
 #include "routine_facts.h"
 #include "routine_options.h"
 
@@ -101,10 +101,10 @@ void print_text(const CallPlan& plan, Size size)
         print_range("read", buffer.read, buffer);
         print_range("written", buffer.written, buffer);
     }
-    const std::vector<Oddity> oddities = oddities_at(routine, plan.arguments);
-    if (!oddities.empty()) fmt::print("\ndeliberate\n");
-    for (const Oddity& oddity : oddities)
-        fmt::print("  {}{}{}\n    {}\n", oddity.name, oddity.here.empty() ? "" : ", ", oddity.here, oddity.what);
+    const std::vector<Quirk> quirks = quirks_at(routine, plan.arguments);
+    if (!quirks.empty()) fmt::print("\ndeliberate\n");
+    for (const Quirk& quirk : quirks)
+        fmt::print("  {}{}{}\n    {}\n", quirk.name, quirk.here.empty() ? "" : ", ", quirk.here, quirk.what);
     if (const auto peer = catalog::peer_of(routine))
         fmt::print("\npeer, {}\n  {}\n",
                    peer->agreement == catalog::Peer::exact ? "with the same bytes" : "by other rules",
@@ -115,7 +115,7 @@ Json to_json(const Range& range) { return range.empty() ? Json() : Json{range.be
 
 void print_json(const CallPlan& plan, Size size)
 {
-    Json arguments = Json::object(), buffers = Json::array(), oddities = Json::array();
+    Json arguments = Json::object(), buffers = Json::array(), quirks = Json::array();
     for (const catalog::Arg argument : plan.routine->arguments)
         if (catalog::describe(argument).kind == catalog::Argument::number && argument != catalog::Arg::ignored)
             arguments[std::string(catalog::describe(argument).name)] = plan.arguments[argument];
@@ -124,16 +124,16 @@ void print_json(const CallPlan& plan, Size size)
                            {"picture", to_json(buffer.picture)},
                            {"read", to_json(buffer.read)},
                            {"written", to_json(buffer.written)}});
-    for (const Oddity& oddity : oddities_at(*plan.routine, plan.arguments))
-        oddities.push_back(
-            {{"name", oddity.name}, {"what", oddity.what}, {"here", oddity.here.empty() ? Json() : Json(oddity.here)}});
+    for (const Quirk& quirk : quirks_at(*plan.routine, plan.arguments))
+        quirks.push_back(
+            {{"name", quirk.name}, {"what", quirk.what}, {"here", quirk.here.empty() ? Json() : Json(quirk.here)}});
     fmt::print("{}\n", Json{{"schema", json_schema},
                             {"routine", plan.routine->name},
                             {"arguments", arguments},
                             {"bytes_in", bytes_of(plan, &PlannedBuffer::in)},
                             {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
                             {"buffers", buffers},
-                            {"deliberate", oddities},
+                            {"deliberate", quirks},
                             {"peer", peer_to_json(*plan.routine, size.width, size.height)},
                             {"call", c_call(plan)}}
                            .dump(2));

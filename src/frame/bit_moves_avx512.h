@@ -4,8 +4,8 @@
 #include <immintrin.h>
 
 #include "frame/moved_byte.h"
+#include "frame/simd.h"
 #include "frame/state.h"
-#include "frame/wide.h"
 
 namespace tintvert {
 
@@ -90,42 +90,43 @@ struct VbmiBitMoves {
 
     static constexpr uint64_t ones(long count) { return count >= 64 ? ~uint64_t{0} : (uint64_t{1} << count) - 1; }
 
-    TNTVT_VBMI static __m512i constant_vbmi(const void* at) { return _mm512_load_si512(at); }
+    TNTVT_AVX512 static __m512i constant_avx512(const void* at) { return _mm512_load_si512(at); }
 
     // Masks of ones stand where g++ 12 warns of the forms without a mask.
     static constexpr uint64_t all = ~uint64_t{0};
 
-    TNTVT_VBMI static __m512i moved_vbmi(__m512i from, __m512i rest)
+    TNTVT_AVX512 static __m512i moved_avx512(__m512i from, __m512i rest)
     {
-        const __m512i first = constant_vbmi(plan.pick[0]), second = constant_vbmi(plan.pick[1]);
+        const __m512i first = constant_avx512(plan.pick[0]), second = constant_avx512(plan.pick[1]);
         if (whole) return _mm512_mask_permutexvar_epi8(rest, plan.bits, first, from);
-        const __m512i begins = constant_vbmi(plan.bit);
+        const __m512i begins = constant_avx512(plan.bit);
         __m512i cut = _mm512_maskz_multishift_epi64_epi8(all, begins, _mm512_maskz_permutexvar_epi8(all, first, from));
         if (plan.turns == 2)
             cut = _mm512_mask_multishift_epi64_epi8(cut, all / 3 * 2, begins,
                                                     _mm512_maskz_permutexvar_epi8(all, second, from));
-        return _mm512_or_si512(_mm512_and_si512(cut, constant_vbmi(plan.mask)), rest);
+        return _mm512_or_si512(_mm512_and_si512(cut, constant_avx512(plan.mask)), rest);
     }
 
-    TNTVT_VBMI static void step_vbmi(uint8_t* to, const uint8_t* from, __m512i rest, uint64_t read, uint64_t written)
+    TNTVT_AVX512 static void step_avx512(uint8_t* to, const uint8_t* from, __m512i rest, uint64_t read,
+                                         uint64_t written)
     {
-        _mm512_mask_storeu_epi8(to, written, moved_vbmi(_mm512_maskz_loadu_epi8(read, from), rest));
+        _mm512_mask_storeu_epi8(to, written, moved_avx512(_mm512_maskz_loadu_epi8(read, from), rest));
     }
 
     // All of the line; with `down` the rightmost step goes first.
-    TNTVT_VBMI static long run_vbmi(uint8_t* to, const uint8_t* from, long count, bool down)
+    TNTVT_AVX512 static long run_avx512(uint8_t* to, const uint8_t* from, long count, bool down)
     {
-        __m512i rest = constant_vbmi(plan.fixed);
+        __m512i rest = constant_avx512(plan.fixed);
         if (takes_alpha<Units>()) rest = _mm512_mask_mov_epi8(rest, plan.alpha, _mm512_set1_epi8(static_cast<char>(a)));
         const long steps = count / units, left = count % units;
         if (left > 0)
-            step_vbmi(to + steps * units * dst, from + steps * units * src, rest, plan.read & ones(left * src),
-                      plan.stored & ones(left * dst));
+            step_avx512(to + steps * units * dst, from + steps * units * src, rest, plan.read & ones(left * src),
+                        plan.stored & ones(left * dst));
         const long first = down ? (steps - 1) * units : 0, apart = down ? -units : units;
         to += first * dst;
         from += first * src;
         for (long n = 0; n < steps; ++n, to += apart * dst, from += apart * src)
-            step_vbmi(to, from, rest, plan.read, plan.stored);
+            step_avx512(to, from, rest, plan.read, plan.stored);
         return count;
     }
 };

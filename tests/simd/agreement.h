@@ -1,4 +1,4 @@
-// One call at two tiers: the plain form and another must leave the same bytes everywhere.
+// One call at two levels: the scalar version and another must leave the same bytes everywhere.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "catalog.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 #include "support/random.h"
 
 namespace tintvert::test {
@@ -21,8 +21,8 @@ struct Placement {
 // careful caller makes no such call.
 bool random_call(Random& random, const catalog::Routine& routine, int64_t width, catalog::Arguments* call);
 
-// Whether `routine` leaves the same bytes at `tier` as in its plain form, all that it should not touch included.
+// Whether `routine` leaves the same bytes at `level` as in its scalar version, all that it should not touch included.
 testing::AssertionResult agrees(const catalog::Routine& routine, const catalog::Arguments& call,
-                                const Placement& placement, Tier tier, uint64_t seed);
+                                const Placement& placement, InstructionSet level, uint64_t seed);
 
 }  // namespace tintvert::test

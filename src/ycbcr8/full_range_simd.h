@@ -41,15 +41,15 @@ TNTVT_AVX2 inline long to_video_range_avx2(uint8_t* dst, const uint8_t* src, lon
     return done;
 }
 
-inline long to_video_range_wide(uint8_t* dst, const uint8_t* src, long pixels, uint8_t sign)
+inline long to_video_range_simd(uint8_t* dst, const uint8_t* src, long pixels, uint8_t sign)
 {
-    if (pixels < 16 || tier() < Tier::avx2 || !same_or_disjoint(dst, src, pixels * 2)) return 0;
+    if (pixels < 16 || instruction_set() < InstructionSet::avx2 || !same_or_disjoint(dst, src, pixels * 2)) return 0;
     return to_video_range_avx2(dst, src, pixels, sign);
 }
 
 #else
 
-inline long to_video_range_wide(uint8_t*, const uint8_t*, long, uint8_t) { return 0; }
+inline long to_video_range_simd(uint8_t*, const uint8_t*, long, uint8_t) { return 0; }
 
 #endif
 

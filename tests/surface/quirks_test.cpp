@@ -1,4 +1,4 @@
-// Every oddity has its three places: the row in docs/deliberate.md, the comment in the source, the test.
+// Every quirk has its three places: the row in docs/quirks.md, the comment in the source, the test.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -22,7 +22,7 @@ std::string text_of(const fs::path& path)
 struct Place {
     std::string_view on_lines_with, before, after;
 };
-constexpr Place row{"| keeps_", "| ", " |"}, comment{"DELIBERATE (", "DELIBERATE (", ")"}, test{"TEST", "keeps_", ")"};
+constexpr Place row{"| keeps_", "| ", " |"}, comment{"QUIRK (", "QUIRK (", ")"}, test{"TEST", "keeps_", ")"};
 
 std::set<std::string> names(const std::string& text, const Place& place)
 {
@@ -48,20 +48,20 @@ std::set<std::string> names_under(const fs::path& folder, const Place& place)
     return found;
 }
 
-TEST(Deliberate, has_a_row_a_comment_and_a_test_each)
+TEST(Quirks, has_a_row_a_comment_and_a_test_each)
 {
     const fs::path project = TINTVERT_PROJECT;
-    const std::set<std::string> rows = names(text_of(project / "docs/deliberate.md"), row);
+    const std::set<std::string> rows = names(text_of(project / "docs/quirks.md"), row);
     EXPECT_GT(rows.size(), 50u);
     EXPECT_EQ(rows, names_under(project / "src", comment));
     const std::set<std::string> tests = names_under(project / "tests", test);
     for (const std::string& name : rows) EXPECT_TRUE(tests.contains(name)) << name << " has no test";
 }
 
-TEST(Deliberate, tells_names_apart)
+TEST(Quirks, tells_names_apart)
 {
     EXPECT_EQ(names("| keeps_one | x\n| keeps_two |", row), (std::set<std::string>{"keeps_one", "keeps_two"}));
-    EXPECT_EQ(names("// DELIBERATE (keeps_one): x", comment), std::set<std::string>{"keeps_one"});
+    EXPECT_EQ(names("// QUIRK (keeps_one): x", comment), std::set<std::string>{"keeps_one"});
     EXPECT_EQ(names("TEST_F(A, keeps_one)", test), std::set<std::string>{"keeps_one"});
     EXPECT_TRUE(names("keeps_one)", test).empty());
     EXPECT_TRUE(names("// keeps_one", comment).empty());

@@ -1,4 +1,4 @@
-// Every code through the tables and the matrices at every tier, beside the plain form.
+// Every code through the tables and the matrices at every level, beside the scalar version.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "frame/wide.h"
+#include "frame/simd.h"
 #include "support/random.h"
 
 namespace tintvert::test {
@@ -16,23 +16,23 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 using Call = std::function<void(uint8_t* dst, uint8_t* src)>;
 
-// One source after another: at each tier the call gives what it gives in its plain form.
+// One source after another: at each level the call gives what it gives in its scalar version.
 class EveryCode : public testing::Test {
 protected:
-    ~EveryCode() override { highest_tier = Tier::vbmi; }
+    ~EveryCode() override { highest_instruction_set = InstructionSet::avx512; }
 
     void expect_agreement(Bytes& src, size_t dst_bytes, const Call& call, int which)
     {
         if (HasFailure()) return;
         Bytes expected(dst_bytes, 0xA5), actual(dst_bytes);
-        highest_tier = Tier::plain;
+        highest_instruction_set = InstructionSet::scalar;
         call(expected.data(), src.data());
-        for (const Tier tier : {Tier::base, Tier::avx2, Tier::vbmi}) {
-            if (tier > tier_of_machine()) return;
+        for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512}) {
+            if (level > machine_instruction_set()) return;
             actual.assign(dst_bytes, 0xA5);
-            highest_tier = tier;
+            highest_instruction_set = level;
             call(actual.data(), src.data());
-            EXPECT_TRUE(actual == expected) << "tier " << static_cast<int>(tier) << ", source " << which;
+            EXPECT_TRUE(actual == expected) << "level " << static_cast<int>(level) << ", source " << which;
         }
     }
 };

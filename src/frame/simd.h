@@ -1,40 +1,40 @@
-// How wide a routine may go, and when a wide form may stand in for the plain one.
+// How wide a routine may go, and when a SIMD version may stand in for the plain one.
 #pragma once
 
 #include <algorithm>
 #include <cstdint>
 
 #define TNTVT_AVX2 __attribute__((target("avx2")))
-#define TNTVT_VBMI __attribute__((target("avx512f,avx512bw,avx512vl,avx512dq,avx512vbmi")))
+#define TNTVT_AVX512 __attribute__((target("avx512f,avx512bw,avx512vl,avx512dq,avx512vbmi")))
 
 namespace tintvert {
 
-// `plain` is the definition; `base` is what every processor of the architecture has.
-enum class Tier { plain, base, avx2, vbmi };
+// `scalar` is the definition; `sse2` is what every processor of the architecture has.
+enum class InstructionSet { scalar, sse2, avx2, avx512 };
 
-inline Tier tier_of_machine()
+inline InstructionSet machine_instruction_set()
 {
-#if !TINTVERT_WIDE
-    return Tier::plain;
+#if !TINTVERT_SIMD
+    return InstructionSet::scalar;
 #elif defined(__x86_64__)
     if (__builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512bw") &&
         __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq"))
-        return Tier::vbmi;
-    return __builtin_cpu_supports("avx2") ? Tier::avx2 : Tier::base;
+        return InstructionSet::avx512;
+    return __builtin_cpu_supports("avx2") ? InstructionSet::avx2 : InstructionSet::sse2;
 #else
-    return Tier::base;
+    return InstructionSet::sse2;
 #endif
 }
 
-// Tests and benchmarks of the forms hold a tier of their own.
-#ifdef TINTVERT_TIER_HELD_BY_PROGRAM
-extern Tier highest_tier;
+// Tests and benchmarks of the forms hold a level of their own.
+#ifdef TINTVERT_INSTRUCTION_SET_HELD_BY_PROGRAM
+extern InstructionSet highest_instruction_set;
 #else
-constexpr Tier highest_tier = Tier::vbmi;
+constexpr InstructionSet highest_instruction_set = InstructionSet::avx512;
 #endif
 
 // Asked once a call; the library keeps no answer.
-inline Tier tier() { return std::min(highest_tier, tier_of_machine()); }
+inline InstructionSet instruction_set() { return std::min(highest_instruction_set, machine_instruction_set()); }
 
 // Where two runs of bytes share none, the order of loads and stores cannot show.
 inline bool disjoint(const uint8_t* one, long one_bytes, const uint8_t* other, long other_bytes)

@@ -1,5 +1,5 @@
 // Three pgroups, 15 bytes, to a `v210` group, 16 bytes, where the two runs share no byte. Each form returns how
-// many groups it has done; what is left is for the plain form.
+// many groups it has done; what is left is for the scalar version.
 #pragma once
 
 #include "frame/registers.h"
@@ -40,7 +40,7 @@ TNTVT_AVX2 inline long unpack_groups_avx2(uint8_t* dst, const uint8_t* src, long
 // Four groups, 60 bytes, as 64. Eight bytes of the stream, the first of them on top, hold the six samples of two
 // words, from bit 63 down in the first eight of a group and from bit 59 down in the last eight. Each byte of a word
 // is a run of eight of these bits, or a piece of one sample's with a piece of the next one's.
-TNTVT_VBMI inline __m512i unpack_60_vbmi(__m512i bytes)
+TNTVT_AVX512 inline __m512i unpack_60_avx512(__m512i bytes)
 {
     const __m512i places =
         _mm512_setr_epi64(0x0001020304050607, 0x0708090A0B0C0D0E, 0x0F10111213141516, 0x161718191A1B1C1D,
@@ -56,26 +56,26 @@ TNTVT_VBMI inline __m512i unpack_60_vbmi(__m512i bytes)
 }
 
 // Four groups a step, 64 bytes loaded as long as the line has them.
-TNTVT_VBMI inline long unpack_groups_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 inline long unpack_groups_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     long done = 0;
     for (; groups - done > 4; done += 4)
-        _mm512_storeu_si512(dst + done * 16, unpack_60_vbmi(_mm512_loadu_si512(src + done * 15)));
+        _mm512_storeu_si512(dst + done * 16, unpack_60_avx512(_mm512_loadu_si512(src + done * 15)));
     const long left = groups - done;
     const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 15), src + done * 15);
-    _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), unpack_60_vbmi(bytes));
+    _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), unpack_60_avx512(bytes));
     return groups;
 }
 
-inline long unpack_groups_wide(Tier limit, uint8_t* dst, const uint8_t* src, long groups)
+inline long unpack_groups_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
 {
-    if (limit >= Tier::vbmi) return unpack_groups_vbmi(dst, src, groups);
-    return limit >= Tier::avx2 ? unpack_groups_avx2(dst, src, groups) : 0;
+    if (limit >= InstructionSet::avx512) return unpack_groups_avx512(dst, src, groups);
+    return limit >= InstructionSet::avx2 ? unpack_groups_avx2(dst, src, groups) : 0;
 }
 
 #else
 
-inline long unpack_groups_wide(Tier, uint8_t*, const uint8_t*, long) { return 0; }
+inline long unpack_groups_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
 
 #endif
 

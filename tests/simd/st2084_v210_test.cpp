@@ -1,5 +1,5 @@
-// The 10-bit lookups of ST 2084 at every tier, beside the plain form: every index in every place, and entries that a
-// program has changed.
+// The 10-bit lookups of ST 2084 at every level, beside the scalar version: every index in every place, and entries that
+// a program has changed.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 namespace tintvert::test {
 namespace {
@@ -19,7 +19,7 @@ constexpr unsigned line_bytes = 1024 * 8 + 48;  // whole steps and three groups 
 
 class St2084V210 : public testing::Test {
 protected:
-    ~St2084V210() override { highest_tier = Tier::vbmi; }
+    ~St2084V210() override { highest_instruction_set = InstructionSet::avx512; }
 
     // Index n in each of the three places of words 2n and 2n + 1, from another one on in each.
     static Bytes every_index()
@@ -37,17 +37,17 @@ protected:
     {
         Bytes src = every_index();
         for (const auto convert : {tntvt_v210_to_st2084, tntvt_st2084_to_v210}) {
-            highest_tier = Tier::plain;
+            highest_instruction_set = InstructionSet::scalar;
             Bytes expected(src.size(), 0xA5);
             convert(expected.data(), src.data(), line_bytes, line_bytes, 1);
-            for (const Tier tier : {Tier::base, Tier::avx2, Tier::vbmi}) {
-                highest_tier = tier;
+            for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512}) {
+                highest_instruction_set = level;
                 Bytes actual(src.size(), 0xA5), in_place = src;
                 convert(actual.data(), src.data(), line_bytes, line_bytes, 1);
                 convert(in_place.data(), in_place.data(), line_bytes, line_bytes, 1);
-                EXPECT_TRUE(actual == expected) << static_cast<int>(tier);
+                EXPECT_TRUE(actual == expected) << static_cast<int>(level);
                 EXPECT_TRUE(std::equal(in_place.begin() + 1, in_place.end(), expected.begin() + 1))
-                    << static_cast<int>(tier);
+                    << static_cast<int>(level);
             }
         }
     }

@@ -1,4 +1,4 @@
-// The oddities of a routine: whose they are from the catalogue, what each is from docs/deliberate.md.
+// The quirks of a routine: whose they are from the catalogue, what each is from docs/quirks.md.
 #pragma once
 
 #include <string_view>
@@ -8,14 +8,14 @@
 
 namespace tintvert::tool {
 
-struct Oddity {
+struct Quirk {
     std::string_view name, what;
     std::string_view here;  // whether a call meets it, where its numbers tell; empty where they do not
 };
 
-std::vector<Oddity> oddities_at(const catalog::Routine& routine, const catalog::Arguments& call);
+std::vector<Quirk> quirks_at(const catalog::Routine& routine, const catalog::Arguments& call);
 
 // The page as it stands in docs/; filled in when the tool is built.
-std::string_view deliberate_page();
+std::string_view quirks_page();
 
 }  // namespace tintvert::tool

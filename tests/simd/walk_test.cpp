@@ -9,10 +9,10 @@ namespace tintvert::test {
 namespace {
 
 // Steps that make the first two pixels of a line, as 9, and note which way they were told that the walk goes.
-struct CopyWide {
+struct CopySimd {
     static constexpr long src_bytes = 1, dst_bytes = 1;
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = *src; }
-    struct Wide {
+    struct Simd {
         static inline std::vector<bool> down;
         static long avx2(uint8_t* dst, const uint8_t*, long, bool goes_down)
         {
@@ -20,43 +20,43 @@ struct CopyWide {
             dst[0] = dst[1] = 9;
             return 2;
         }
-        static long vbmi(uint8_t* dst, const uint8_t* src, long pixels, bool goes_down)
+        static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool goes_down)
         {
             return avx2(dst, src, pixels, goes_down);
         }
     };
 };
 
-class WideWalks : public testing::Test {
+class SimdWalks : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (tier() < Tier::avx2) GTEST_SKIP() << "no wide tier here";
-        CopyWide::Wide::down.clear();
+        if (instruction_set() < InstructionSet::avx2) GTEST_SKIP() << "no wide level here";
+        CopySimd::Simd::down.clear();
     }
     std::vector<uint8_t> bytes = {1, 2, 3, 4, 5, 6, 7, 8};
 };
 
-TEST_F(WideWalks, take_the_left_pixels_of_lines_apart)
+TEST_F(SimdWalks, take_the_left_pixels_of_lines_apart)
 {
-    walk_forward<CopyWide>({&bytes[4], 0, &bytes[0], 0}, 4, 1);
+    walk_forward<CopySimd>({&bytes[4], 0, &bytes[0], 0}, 4, 1);
     EXPECT_EQ(bytes, (std::vector<uint8_t>{1, 2, 3, 4, 9, 9, 3, 4}));
-    walk_backward<CopyWide>({&bytes[0], 4, &bytes[4], 4}, 3, 1);
+    walk_backward<CopySimd>({&bytes[0], 4, &bytes[4], 4}, 3, 1);
     EXPECT_EQ(bytes, (std::vector<uint8_t>{1, 9, 9, 4, 9, 9, 3, 4}));
-    EXPECT_EQ(CopyWide::Wide::down, (std::vector{false, true}));
+    EXPECT_EQ(CopySimd::Simd::down, (std::vector{false, true}));
 }
 
-TEST_F(WideWalks, take_a_map_in_its_own_place)
+TEST_F(SimdWalks, take_a_map_in_its_own_place)
 {
-    walk_forward<CopyWide>({&bytes[0], 0, &bytes[0], 0}, 4, 1);
+    walk_forward<CopySimd>({&bytes[0], 0, &bytes[0], 0}, 4, 1);
     EXPECT_EQ(bytes, (std::vector<uint8_t>{9, 9, 3, 4, 5, 6, 7, 8}));
 }
 
-TEST_F(WideWalks, are_plain_where_lines_overlap)
+TEST_F(SimdWalks, are_plain_where_lines_overlap)
 {
-    walk_forward<CopyWide>({&bytes[1], 0, &bytes[0], 0}, 4, 1);
+    walk_forward<CopySimd>({&bytes[1], 0, &bytes[0], 0}, 4, 1);
     EXPECT_EQ(bytes, (std::vector<uint8_t>{1, 1, 1, 1, 1, 6, 7, 8}));
-    EXPECT_EQ(CopyWide::Wide::down.size(), 0u);
+    EXPECT_EQ(CopySimd::Simd::down.size(), 0u);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ Carried carried_to(const uint8_t* src)
     return {before.cb, before.cr};
 }
 
-// Wide steps have the quarter of the filter in the chroma's weights, and carry a quarter of the chroma.
+// Simd steps have the quarter of the filter in the chroma's weights, and carry a quarter of the chroma.
 template <class Matrix>
 struct Quartered {
     static constexpr Weights cb = scaled(Matrix::cb, 0.25), cr = scaled(Matrix::cr, 0.25);
@@ -187,7 +187,7 @@ struct Words16 {
 };
 
 template <int alpha>
-TNTVT_VBMI inline Words16 words_16(__m512i pixels)
+TNTVT_AVX512 inline Words16 words_16(__m512i pixels)
 {
     constexpr __mmask32 elsewhere = alpha < 2 ? 0xAAAAAAAA : 0x55555555;
     const __m512i constant = _mm512_set1_epi16(in_place_of_alpha), low_bytes = _mm512_set1_epi16(0xFF);
@@ -198,7 +198,7 @@ TNTVT_VBMI inline Words16 words_16(__m512i pixels)
         return {_mm512_and_si512(pixels, low_bytes), _mm512_mask_srli_epi16(constant, elsewhere, pixels, 8)};
 }
 
-TNTVT_VBMI inline __m512i units_16(const WordWeights& w, const Words16& pixels)
+TNTVT_AVX512 inline __m512i units_16(const WordWeights& w, const Words16& pixels)
 {
     const __m512i high = _mm512_add_epi32(_mm512_madd_epi16(pixels.even, _mm512_set1_epi64(w.even_high)),
                                           _mm512_madd_epi16(pixels.odd, _mm512_set1_epi64(w.odd_high)));
@@ -207,7 +207,7 @@ TNTVT_VBMI inline __m512i units_16(const WordWeights& w, const Words16& pixels)
     return _mm512_add_epi32(_mm512_slli_epi32(high, 10), low);
 }
 
-TNTVT_VBMI inline __m512i filter_words_16(__m512i pixels, __m512i before)
+TNTVT_AVX512 inline __m512i filter_words_16(__m512i pixels, __m512i before)
 {
     const __m512i sum = _mm512_add_epi16(pixels, before);
     return _mm512_add_epi16(sum, _mm512_shuffle_epi32(sum, _MM_PERM_CDAB));
@@ -223,7 +223,7 @@ alignas(64) inline constexpr std::array<uint8_t, 64> high_places = places_of_hig
 
 // Eight pairs. False, and nothing stored, if one of the values is a whole number.
 template <class Matrix, const Channels& at>
-TNTVT_VBMI inline bool whole_numbers_vbmi(uint8_t* dst, const uint8_t* src)
+TNTVT_AVX512 inline bool whole_numbers_avx512(uint8_t* dst, const uint8_t* src)
 {
     using Pair = OfPair<Matrix, at>;
     const Words16 pixels = words_16<place_of_alpha(at)>(_mm512_loadu_si512(src));
@@ -257,7 +257,7 @@ constexpr std::array<uint8_t, 64> places_of_low_bytes(size_t first)
 alignas(64) inline constexpr std::array<uint8_t, 64> low_places[] = {places_of_low_bytes(0), places_of_low_bytes(2)};
 
 // The low bytes of eight pairs.
-TNTVT_VBMI inline __m256i groups_8(__m512d cb, __m512d y0, __m512d cr, __m512d y1)
+TNTVT_AVX512 inline __m256i groups_8(__m512d cb, __m512d y0, __m512d cr, __m512d y1)
 {
     const __m512i even =
         _mm512_permutex2var_epi8(_mm512_cvttpd_epi64(cb), _mm512_loadu_si512(low_places), _mm512_cvttpd_epi64(y0));
@@ -267,7 +267,7 @@ TNTVT_VBMI inline __m256i groups_8(__m512d cb, __m512d y0, __m512d cr, __m512d y
 }
 
 template <class Matrix, const Channels& at>
-TNTVT_VBMI long doubles_vbmi(uint8_t* dst, const uint8_t* src, long pairs)
+TNTVT_AVX512 long doubles_avx512(uint8_t* dst, const uint8_t* src, long pairs)
 {
     using Quarter = Quartered<Matrix>;
     const Carried carried = carried_to<Matrix, at>(src);
@@ -303,14 +303,14 @@ TNTVT_AVX2 long pairs_avx2(uint8_t* dst, const uint8_t* src, long pairs)
 }
 
 template <class Matrix, const Channels& at>
-TNTVT_VBMI long pairs_vbmi(uint8_t* dst, const uint8_t* src, long pairs)
+TNTVT_AVX512 long pairs_avx512(uint8_t* dst, const uint8_t* src, long pairs)
 {
     long done = 0;
     while (pairs - done >= 8) {
-        while (pairs - done >= 8 && whole_numbers_vbmi<Matrix, at>(dst + done * 4, src + done * 8)) done += 8;
+        while (pairs - done >= 8 && whole_numbers_avx512<Matrix, at>(dst + done * 4, src + done * 8)) done += 8;
         const long left = pairs - done;
-        done +=
-            doubles_vbmi<Matrix, at>(dst + done * 4, src + done * 8, left < pairs_in_doubles ? left : pairs_in_doubles);
+        done += doubles_avx512<Matrix, at>(dst + done * 4, src + done * 8,
+                                           left < pairs_in_doubles ? left : pairs_in_doubles);
     }
     return done;
 }

@@ -1,10 +1,10 @@
-// Every tier of libycbcr that this machine has, byte for byte against the plain form.
+// Every level of libycbcr that this machine has, byte for byte against the scalar version.
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <vector>
 
-#include "companions/ycbcr_tiers.h"
+#include "companions/ycbcr_levels.h"
 #include "support/arena.h"
 #include "support/random.h"
 #include "ycbcr/ycbcr.h"
@@ -18,19 +18,19 @@ constexpr unsigned matrices[] = {601, 709, 2020};
 
 // The line and 128 bytes on either side of it.
 template <class Form>
-testing::AssertionResult agrees(Tier tier, const Form& form, int width, int skew, const Weights& w)
+testing::AssertionResult agrees(InstructionSet level, const Form& form, int width, int skew, const Weights& w)
 {
     Random random(static_cast<uint64_t>(width));
     Arena dst(random, 128, skew + width * 4 + 128);
     line_plain(dst.expected(skew), form, 0, width, w);
-    line(tier, dst.actual(skew), form, width, w);
+    line(level, dst.actual(skew), form, width, w);
     return dst.agrees(skew);
 }
 
-TEST_F(CycbcrTiers, equal_plain_at_every_width_and_misalignment)
+TEST_F(CycbcrLevels, equal_plain_at_every_width_and_misalignment)
 {
     Random random(8);
-    for (const Tier tier : tiers) {
+    for (const InstructionSet level : levels) {
         for (int width = 0; width <= 300; ++width) {
             for (int skew = 0; skew < 64; ++skew) {
                 const Weights& w = weights_of(matrices[skew % 3]);
@@ -38,10 +38,10 @@ TEST_F(CycbcrTiers, equal_plain_at_every_width_and_misalignment)
                 const uint8_t* const at = src.data() + skew;
                 const int to = (skew * 37 + width) % 64;
                 const auto what = testing::Message()
-                                  << name_of(tier) << ' ' << width << " from " << skew << " to " << to;
-                EXPECT_TRUE(agrees(tier, Uyvy{at}, width, to, w)) << what;
-                EXPECT_TRUE(agrees(tier, V210{at}, width, to, w)) << what;
-                EXPECT_TRUE(agrees(tier, planar(at, at + 400, at + 700, width), width, to, w)) << what;
+                                  << name_of(level) << ' ' << width << " from " << skew << " to " << to;
+                EXPECT_TRUE(agrees(level, Uyvy{at}, width, to, w)) << what;
+                EXPECT_TRUE(agrees(level, V210{at}, width, to, w)) << what;
+                EXPECT_TRUE(agrees(level, planar(at, at + 400, at + 700, width), width, to, w)) << what;
             }
         }
     }
@@ -49,7 +49,7 @@ TEST_F(CycbcrTiers, equal_plain_at_every_width_and_misalignment)
 
 // Each misalignment of the source with each one of the destination. A plain line is made once for the 64.
 template <class Form>
-void expect_all_misalignments(Tier tier, int width, const uint8_t* src, Form (*form_at)(const uint8_t*, int))
+void expect_all_misalignments(InstructionSet level, int width, const uint8_t* src, Form (*form_at)(const uint8_t*, int))
 {
     const size_t bytes = static_cast<size_t>(width) * 4;
     std::vector<uint8_t> expected(bytes + 64), dst(bytes + 192);
@@ -58,7 +58,7 @@ void expect_all_misalignments(Tier tier, int width, const uint8_t* src, Form (*f
         line_plain(expected.data(), form, 0, width, bt709);
         for (size_t to = 0; to < 64; ++to) {
             std::memset(dst.data(), 0xEE, dst.size());
-            line(tier, &dst[64 + to], form, width, bt709);
+            line(level, &dst[64 + to], form, width, bt709);
             ASSERT_EQ(0, std::memcmp(&dst[64 + to], expected.data(), bytes)) << width << ' ' << from << ' ' << to;
             for (size_t i = 0; i < 64; ++i)
                 ASSERT_TRUE(dst[to + i] == 0xEE && dst[64 + to + bytes + i] == 0xEE)
@@ -67,38 +67,38 @@ void expect_all_misalignments(Tier tier, int width, const uint8_t* src, Form (*f
     }
 }
 
-TEST_F(CycbcrTiersExhaustive, every_misalignment_of_source_and_destination)
+TEST_F(CycbcrLevelsExhaustive, every_misalignment_of_source_and_destination)
 {
     Random random(9);
     const std::vector<uint8_t> src = random.bytes(1200);
-    for (const Tier tier : tiers) {
+    for (const InstructionSet level : levels) {
         for (int width = 0; width <= 300; ++width) {
-            expect_all_misalignments<Uyvy>(tier, width, src.data(), [](const uint8_t* at, int) { return Uyvy{at}; });
-            expect_all_misalignments<V210>(tier, width, src.data(), [](const uint8_t* at, int) { return V210{at}; });
-            expect_all_misalignments<Planar>(tier, width, src.data(), [](const uint8_t* at, int pixels) {
+            expect_all_misalignments<Uyvy>(level, width, src.data(), [](const uint8_t* at, int) { return Uyvy{at}; });
+            expect_all_misalignments<V210>(level, width, src.data(), [](const uint8_t* at, int) { return V210{at}; });
+            expect_all_misalignments<Planar>(level, width, src.data(), [](const uint8_t* at, int pixels) {
                 return planar(at, at + 400, at + 700, pixels);
             });
         }
     }
 }
 
-// A line of `width` pixels in every tier; the number of lines that are not those of the plain form.
+// A line of `width` pixels in every level; the number of lines that are not those of the scalar version.
 template <class Form>
-long wrong_lines(const std::vector<Tier>& tiers, const Form& form, int width, const Weights& w)
+long wrong_lines(const std::vector<InstructionSet>& levels, const Form& form, int width, const Weights& w)
 {
     static std::vector<uint8_t> expected(8192), dst(8192);
     const size_t bytes = static_cast<size_t>(width) * 4;
     line_plain(expected.data(), form, 0, width, w);
     long wrong = 0;
-    for (const Tier tier : tiers) {
-        line(tier, dst.data(), form, width, w);
+    for (const InstructionSet level : levels) {
+        line(level, dst.data(), form, width, w);
         wrong += std::memcmp(dst.data(), expected.data(), bytes) != 0;
     }
     return wrong;
 }
 
 // Luma counts up along the line, and chroma moves on from pair to pair.
-TEST_F(CycbcrTiersExhaustive, every_8_bit_triple)
+TEST_F(CycbcrLevelsExhaustive, every_8_bit_triple)
 {
     for (const unsigned matrix : matrices) {
         const Weights& w = weights_of(matrix);
@@ -111,8 +111,8 @@ TEST_F(CycbcrTiersExhaustive, every_8_bit_triple)
                     uyvy[pair * 4] = blue[pair] = static_cast<uint8_t>(cb + pair);
                     uyvy[pair * 4 + 2] = red[pair] = static_cast<uint8_t>(cr + pair * 3);
                 }
-                wrong += wrong_lines(tiers, Uyvy{uyvy.data()}, 256, w);
-                wrong += wrong_lines(tiers, planar(y.data(), blue.data(), red.data(), 256), 256, w);
+                wrong += wrong_lines(levels, Uyvy{uyvy.data()}, 256, w);
+                wrong += wrong_lines(levels, planar(y.data(), blue.data(), red.data(), 256), 256, w);
             }
         }
         EXPECT_EQ(wrong, 0) << matrix;
@@ -120,7 +120,7 @@ TEST_F(CycbcrTiersExhaustive, every_8_bit_triple)
 }
 
 // A seventh of all 2^30, with every luma beside every Cb and every luma beside every Cr.
-TEST_F(CycbcrTiersExhaustive, a_seventh_of_the_10_bit_triples)
+TEST_F(CycbcrLevelsExhaustive, a_seventh_of_the_10_bit_triples)
 {
     constexpr int width = 1026;
     const auto code = [](int y) { return static_cast<uint32_t>(y) & 1023; };
@@ -138,7 +138,7 @@ TEST_F(CycbcrTiersExhaustive, a_seventh_of_the_10_bit_triples)
             for (uint32_t cr = cb % 7; cr < 1024; cr += 7) {
                 const uint32_t chroma[] = {cb | cr << 20, cb << 10, cr | cb << 20, cr << 10};
                 for (size_t i = 0; i < src.size(); ++i) src[i] = luma[i] | chroma[i % 4];
-                wrong += wrong_lines(tiers, V210{reinterpret_cast<const uint8_t*>(src.data())}, width, w);
+                wrong += wrong_lines(levels, V210{reinterpret_cast<const uint8_t*>(src.data())}, width, w);
             }
         }
         EXPECT_EQ(wrong, 0) << matrix;
@@ -148,12 +148,12 @@ TEST_F(CycbcrTiersExhaustive, a_seventh_of_the_10_bit_triples)
 // A form whose wide steps get the luma of their last pixel wrong.
 template <class Form>
 struct WrongStep : Form {
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const WideWeights& w) const
+    YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
     {
         Form::step(dst, x, w);
         dst[4 * (Form::step_pixels - 1)] ^= 1;
     }
-    YCBCR_VBMI Operands512 operands(int step, int part, int pixels) const
+    YCBCR_AVX512 Operands512 operands(int step, int part, int pixels) const
     {
         const Operands512 right = Form::operands(step, part, pixels);
         alignas(64) uint16_t luma[32];
@@ -163,41 +163,41 @@ struct WrongStep : Form {
     }
 };
 
-TEST_F(CycbcrTiers, a_wrong_step_is_told_apart)
+TEST_F(CycbcrLevels, a_wrong_step_is_told_apart)
 {
     const std::vector<uint8_t> grey(256, 0x80);
     const std::vector<uint32_t> grey_groups(64, 512u | 512u << 10 | 512u << 20);
     const Uyvy uyvy{grey.data()};
     const V210 v210{reinterpret_cast<const uint8_t*>(grey_groups.data())};
-    for (const Tier tier : tiers) {
+    for (const InstructionSet level : levels) {
         for (const int width : {48, 96}) {
             const Planar planes = planar(grey.data(), grey.data(), grey.data(), width);
-            EXPECT_TRUE(agrees(tier, uyvy, width, 0, bt709));
-            EXPECT_TRUE(agrees(tier, v210, width, 0, bt709));
-            EXPECT_TRUE(agrees(tier, planes, width, 0, bt709));
-            EXPECT_FALSE(agrees(tier, WrongStep<Uyvy>{uyvy}, width, 0, bt709));
-            EXPECT_FALSE(agrees(tier, WrongStep<V210>{v210}, width, 0, bt709));
-            EXPECT_FALSE(agrees(tier, WrongStep<Planar>{planes}, width, 0, bt709));
-            EXPECT_NE(0, wrong_lines({tier}, WrongStep<Uyvy>{uyvy}, width, bt709));
+            EXPECT_TRUE(agrees(level, uyvy, width, 0, bt709));
+            EXPECT_TRUE(agrees(level, v210, width, 0, bt709));
+            EXPECT_TRUE(agrees(level, planes, width, 0, bt709));
+            EXPECT_FALSE(agrees(level, WrongStep<Uyvy>{uyvy}, width, 0, bt709));
+            EXPECT_FALSE(agrees(level, WrongStep<V210>{v210}, width, 0, bt709));
+            EXPECT_FALSE(agrees(level, WrongStep<Planar>{planes}, width, 0, bt709));
+            EXPECT_NE(0, wrong_lines({level}, WrongStep<Uyvy>{uyvy}, width, bt709));
         }
     }
 }
 
-TEST_F(CycbcrTiers, a_wrong_step_behind_masks_is_told_apart)
+TEST_F(CycbcrLevels, a_wrong_step_behind_masks_is_told_apart)
 {
-    if (!machine_has(Tier::vbmi)) GTEST_SKIP() << "no step of this machine has masks";
+    if (!machine_has(InstructionSet::avx512)) GTEST_SKIP() << "no step of this machine has masks";
     const std::vector<uint8_t> grey(64, 0x80);
     const std::vector<uint32_t> grey_groups(16, 512u | 512u << 10 | 512u << 20);
     const V210 v210{reinterpret_cast<const uint8_t*>(grey_groups.data())};
     for (const int width : {2, 14, 22}) {
-        EXPECT_FALSE(agrees(Tier::vbmi, WrongStep<Uyvy>{{grey.data()}}, width, 0, bt709));
-        EXPECT_FALSE(agrees(Tier::vbmi, WrongStep<V210>{v210}, width, 0, bt709));
+        EXPECT_FALSE(agrees(InstructionSet::avx512, WrongStep<Uyvy>{{grey.data()}}, width, 0, bt709));
+        EXPECT_FALSE(agrees(InstructionSet::avx512, WrongStep<V210>{v210}, width, 0, bt709));
         const Planar planes = planar(grey.data(), grey.data(), grey.data(), width);
-        EXPECT_FALSE(agrees(Tier::vbmi, WrongStep<Planar>{planes}, width, 0, bt709));
+        EXPECT_FALSE(agrees(InstructionSet::avx512, WrongStep<Planar>{planes}, width, 0, bt709));
     }
 }
 
-// What is exported takes one of the tiers: a padded frame against plain lines.
+// What is exported takes one of the levels: a padded frame against plain lines.
 TEST(Cycbcr, frames_are_plain_lines)
 {
     Random random(12);
@@ -221,10 +221,10 @@ TEST(Cycbcr, frames_are_plain_lines)
     }
 }
 
-TEST(Cycbcr, the_best_tier_is_the_widest_that_the_machine_has)
+TEST(Cycbcr, the_best_level_is_the_widest_that_the_machine_has)
 {
-    EXPECT_TRUE(machine_has(Tier::plain));
-    EXPECT_EQ(best_tier(), wide_tiers().empty() ? Tier::plain : wide_tiers().back());
+    EXPECT_TRUE(machine_has(InstructionSet::scalar));
+    EXPECT_EQ(best_level(), simd_levels().empty() ? InstructionSet::scalar : simd_levels().back());
 }
 
 }  // namespace

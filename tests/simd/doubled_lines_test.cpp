@@ -1,4 +1,4 @@
-// `v210` to `2vuy` runs every line on to twice its length. The wide form leaves out what the next line overwrites,
+// `v210` to `2vuy` runs every line on to twice its length. The SIMD version leaves out what the next line overwrites,
 // which must not show at any width, stride or distance of the two frames.
 #include <gtest/gtest.h>
 
@@ -19,11 +19,11 @@ TEST(DoubledLines, equal_plain_at_every_distance_of_the_frames)
             call[Arg::width] = width;
             call[Arg::height] = random.between(1, 7);
             call[Arg::srcStride] = random.between(1, 100);
-            for (const Tier tier : {Tier::base, Tier::avx2, Tier::vbmi})
-                ASSERT_TRUE(agrees(routine, call, {0, distance, true}, tier, random.next()));
+            for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512})
+                ASSERT_TRUE(agrees(routine, call, {0, distance, true}, level, random.next()));
         }
     }
-    highest_tier = Tier::vbmi;
+    highest_instruction_set = InstructionSet::avx512;
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Groups of `2vuy`, 12 bytes, to groups of `v210`, 16 bytes, and back, where the two runs share no byte.
-// Each returns how many groups it has done; what is left is for the plain form.
+// Each returns how many groups it has done; what is left is for the scalar version.
 #pragma once
 
 #include "frame/registers.h"
@@ -49,7 +49,7 @@ TNTVT_AVX2 inline long narrow_avx2(uint8_t* dst, const uint8_t* src, long groups
 }
 
 // Four groups, 48 bytes, as 64.
-TNTVT_VBMI inline __m512i widen_48_vbmi(__m512i bytes)
+TNTVT_AVX512 inline __m512i widen_48_avx512(__m512i bytes)
 {
     const __m512i word = _mm512_setr_epi32(0, 3, 6, 9, 12, 15, 18, 21, 24, 27, 30, 33, 36, 39, 42, 45);
     const __m512i first = _mm512_mullo_epi32(word, _mm512_set1_epi32(0x01010101));
@@ -62,22 +62,22 @@ TNTVT_VBMI inline __m512i widen_48_vbmi(__m512i bytes)
 }
 
 // Four groups a step, from the last one down; 64 bytes are loaded where the line has them.
-TNTVT_VBMI inline long widen_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 inline long widen_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     const long steps = (groups - 2) / 4;
     for (long done = steps * 4; done < groups; done += 4) {
         const long left = groups - done;
         const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 12), src + done * 12);
-        _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), widen_48_vbmi(bytes));
+        _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), widen_48_avx512(bytes));
     }
     for (long step = steps - 1; step >= 0; --step)
-        _mm512_storeu_si512(dst + step * 64, widen_48_vbmi(_mm512_loadu_si512(src + step * 48)));
+        _mm512_storeu_si512(dst + step * 64, widen_48_avx512(_mm512_loadu_si512(src + step * 48)));
     return groups;
 }
 
 // The upper eight bits of the six samples of two words, from bits 2, 12, 22, 34, 44 and 54 on, then 48 bytes
 // together.
-TNTVT_VBMI inline __m512i narrow_64_vbmi(__m512i words)
+TNTVT_AVX512 inline __m512i narrow_64_avx512(__m512i words)
 {
     const __m512i bytes = _mm512_multishift_epi64_epi8(_mm512_set1_epi64(0x0000362C22160C02), words);
     const __m512i six_of_eight = _mm512_setr_epi64(0x0908050403020100, 0x131211100D0C0B0A, 0x1D1C1B1A19181514,
@@ -85,33 +85,34 @@ TNTVT_VBMI inline __m512i narrow_64_vbmi(__m512i words)
     return _mm512_permutexvar_epi8(six_of_eight, bytes);
 }
 
-TNTVT_VBMI inline long narrow_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 inline long narrow_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     long done = 0;
     for (; groups - done > 3; done += 4)
-        _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(48), narrow_64_vbmi(_mm512_loadu_si512(src + done * 16)));
+        _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(48),
+                                narrow_64_avx512(_mm512_loadu_si512(src + done * 16)));
     const long left = groups - done;
     const __m512i words = _mm512_maskz_loadu_epi8(first_bytes(left * 16), src + done * 16);
-    _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(left * 12), narrow_64_vbmi(words));
+    _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(left * 12), narrow_64_avx512(words));
     return groups;
 }
 
-inline long widen_wide(Tier limit, uint8_t* dst, const uint8_t* src, long groups)
+inline long widen_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
 {
-    if (limit >= Tier::vbmi) return widen_vbmi(dst, src, groups);
-    return limit >= Tier::avx2 ? widen_avx2(dst, src, groups) : 0;
+    if (limit >= InstructionSet::avx512) return widen_avx512(dst, src, groups);
+    return limit >= InstructionSet::avx2 ? widen_avx2(dst, src, groups) : 0;
 }
 
-inline long narrow_wide(Tier limit, uint8_t* dst, const uint8_t* src, long groups)
+inline long narrow_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
 {
-    if (limit >= Tier::vbmi) return narrow_vbmi(dst, src, groups);
-    return limit >= Tier::avx2 ? narrow_avx2(dst, src, groups) : 0;
+    if (limit >= InstructionSet::avx512) return narrow_avx512(dst, src, groups);
+    return limit >= InstructionSet::avx2 ? narrow_avx2(dst, src, groups) : 0;
 }
 
 #else
 
-inline long widen_wide(Tier, uint8_t*, const uint8_t*, long) { return 0; }
-inline long narrow_wide(Tier, uint8_t*, const uint8_t*, long) { return 0; }
+inline long widen_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
+inline long narrow_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
 
 #endif
 

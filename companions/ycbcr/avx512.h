@@ -7,7 +7,7 @@
 
 #include "matrix.h"
 
-#define YCBCR_VBMI __attribute__((target("avx512f,avx512bw,avx512vl,avx512dq,avx512vbmi"))) inline
+#define YCBCR_AVX512 __attribute__((target("avx512f,avx512bw,avx512vl,avx512dq,avx512vbmi"))) inline
 
 namespace ycbcr {
 
@@ -16,10 +16,10 @@ struct Places {
     alignas(64) uint8_t of[64];
 };
 
-YCBCR_VBMI __m512i load(const Places& places) { return _mm512_load_si512(places.of); }
+YCBCR_AVX512 __m512i load(const Places& places) { return _mm512_load_si512(places.of); }
 
 // The first `count` bytes, 1 to 64 of them, and zeros.
-YCBCR_VBMI __m512i load_bytes(const uint8_t* address, int count)
+YCBCR_AVX512 __m512i load_bytes(const uint8_t* address, int count)
 {
     return _mm512_maskz_loadu_epi8(~uint64_t{0} >> (64 - count), address);
 }
@@ -29,7 +29,7 @@ struct TwoRegisters {
     __m512i low, high;
 };
 
-YCBCR_VBMI TwoRegisters load_two(const uint8_t* address, int count)
+YCBCR_AVX512 TwoRegisters load_two(const uint8_t* address, int count)
 {
     if (count <= 64) return {load_bytes(address, count), _mm512_setzero_si512()};
     return {load_bytes(address, 64), load_bytes(address + 64, count - 64)};
@@ -39,12 +39,12 @@ struct Weights512 {
     __m512i luma, blue_red, green;
 };
 
-YCBCR_VBMI __m512i alternate_512(int cb, int cr)
+YCBCR_AVX512 __m512i alternate_512(int cb, int cr)
 {
     return _mm512_set1_epi32(static_cast<int>(static_cast<uint32_t>(cr) << 16 | static_cast<uint32_t>(cb)));
 }
 
-YCBCR_VBMI Weights512 widen_512(const Weights& w)
+YCBCR_AVX512 Weights512 widen_512(const Weights& w)
 {
     return {alternate_512(w.luma, w.luma), alternate_512(w.blue_cb, w.red_cr), alternate_512(w.green_cb, w.green_cr)};
 }
@@ -72,7 +72,7 @@ constexpr Places sixteen_from(int pixel)
 }
 inline constexpr Places first_sixteen = sixteen_from(0), second_sixteen = sixteen_from(16);
 
-YCBCR_VBMI Pixels512 convert(const Weights512& w, const Operands512& of)
+YCBCR_AVX512 Pixels512 convert(const Weights512& w, const Operands512& of)
 {
     const __m512i even = _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100);
     const __m512i odd = _mm512_set4_epi32(0x0F0E0F0E, 0x0B0A0B0A, 0x07060706, 0x03020302);
@@ -89,21 +89,21 @@ YCBCR_VBMI Pixels512 convert(const Weights512& w, const Operands512& of)
             _mm512_permutex2var_epi8(bg, load(second_sixteen), ra)};
 }
 
-YCBCR_VBMI void store_32(uint8_t* dst, const Pixels512& of)
+YCBCR_AVX512 void store_32(uint8_t* dst, const Pixels512& of)
 {
     _mm512_storeu_si512(dst, of.first);
     _mm512_storeu_si512(dst + 64, of.second);
 }
 
 // The first `count` pixels, 1 to 32 of them.
-YCBCR_VBMI void store_pixels(uint8_t* dst, const Pixels512& of, int count)
+YCBCR_AVX512 void store_pixels(uint8_t* dst, const Pixels512& of, int count)
 {
     const uint32_t mask = ~uint32_t{0} >> (32 - count);
     _mm512_mask_storeu_epi32(dst, static_cast<__mmask16>(mask), of.first);
     _mm512_mask_storeu_epi32(dst + 64, static_cast<__mmask16>(mask >> 16), of.second);
 }
 
-YCBCR_VBMI __m512i centred(__m512i chroma) { return _mm512_xor_si512(chroma, _mm512_set1_epi16(-0x8000)); }
+YCBCR_AVX512 __m512i centred(__m512i chroma) { return _mm512_xor_si512(chroma, _mm512_set1_epi16(-0x8000)); }
 
 // Bytes to the upper half of words: the first byte, the one `distance` behind it if there are two `rows`, then
 // the second byte.
@@ -115,7 +115,7 @@ constexpr Places upper_halves(int rows, int distance)
 }
 inline constexpr Places bytes_to_words = upper_halves(1, 0), two_rows_to_words = upper_halves(2, 16);
 
-YCBCR_VBMI __m512i to_upper_halves(const Places& places, __m512i bytes)
+YCBCR_AVX512 __m512i to_upper_halves(const Places& places, __m512i bytes)
 {
     return _mm512_maskz_permutexvar_epi8(0xAAAAAAAAAAAAAAAA, load(places), bytes);
 }
@@ -142,7 +142,7 @@ constexpr Samples every_second_from(int first)
 inline constexpr Samples chroma_samples[] = {every_second_from(0), every_second_from(4), every_second_from(8)};
 inline constexpr Samples luma_samples[] = {every_second_from(1), every_second_from(5), every_second_from(9)};
 
-YCBCR_VBMI __m512i to_words(const Samples& samples, const TwoRegisters& groups)
+YCBCR_AVX512 __m512i to_words(const Samples& samples, const TwoRegisters& groups)
 {
     const __m512i words = _mm512_permutex2var_epi8(groups.low, load(samples.bytes), groups.high);
     return _mm512_and_si512(_mm512_sllv_epi16(words, _mm512_load_si512(samples.shifts)), _mm512_set1_epi16(-64));

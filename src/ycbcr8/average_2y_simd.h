@@ -62,13 +62,13 @@ TNTVT_AVX2 inline long pull_back_avx2(uint8_t* buf, long pairs, Replacement repl
     return pair;
 }
 
-TNTVT_VBMI inline __m512i distance_vbmi(__m512i one, __m512i other)
+TNTVT_AVX512 inline __m512i distance_avx512(__m512i one, __m512i other)
 {
     return _mm512_or_si512(_mm512_subs_epu8(one, other), _mm512_subs_epu8(other, one));
 }
 
 // Sixteen pairs a step, and only what is isolated is stored.
-TNTVT_VBMI inline long pull_back_vbmi(uint8_t* buf, long pairs, Replacement replacement, int most)
+TNTVT_AVX512 inline long pull_back_avx512(uint8_t* buf, long pairs, Replacement replacement, int most)
 {
     const __m512i brightest = _mm512_set1_epi8(static_cast<char>(most));
     long pair = 1;
@@ -77,8 +77,8 @@ TNTVT_VBMI inline long pull_back_vbmi(uint8_t* buf, long pairs, Replacement repl
         const __m512i t = _mm512_loadu_si512(at);
         const __m512i prev = _mm512_slli_epi32(t, 16), cur = _mm512_slli_epi32(_mm512_loadu_si512(at + 4), 16);
         const __mmask64 counts = _mm512_mask_cmple_epu8_mask(0x4444444444444444, prev, brightest);
-        const __mmask64 agree = _mm512_mask_cmple_epu8_mask(counts, distance_vbmi(prev, cur), _mm512_set1_epi8(7));
-        const __mmask64 isolated = _mm512_mask_cmpge_epu8_mask(agree, distance_vbmi(prev, t), _mm512_set1_epi8(11));
+        const __mmask64 agree = _mm512_mask_cmple_epu8_mask(counts, distance_avx512(prev, cur), _mm512_set1_epi8(7));
+        const __mmask64 isolated = _mm512_mask_cmpge_epu8_mask(agree, distance_avx512(prev, t), _mm512_set1_epi8(11));
         const __m512i other = replacement == Replacement::half_way ? t : cur;
         const __m512i odd = _mm512_and_si512(_mm512_xor_si512(prev, other), _mm512_set1_epi8(1));
         const __m512i mean = _mm512_sub_epi8(_mm512_avg_epu8(prev, other), odd);
@@ -87,21 +87,21 @@ TNTVT_VBMI inline long pull_back_vbmi(uint8_t* buf, long pairs, Replacement repl
     return pair;
 }
 
-inline long average_pairs_wide(Tier limit, uint8_t* buf, long pairs)
+inline long average_pairs_simd(InstructionSet limit, uint8_t* buf, long pairs)
 {
-    return limit >= Tier::avx2 ? average_pairs_avx2(buf, pairs) : 1;
+    return limit >= InstructionSet::avx2 ? average_pairs_avx2(buf, pairs) : 1;
 }
 
-inline long pull_back_wide(Tier limit, uint8_t* buf, long pairs, Replacement replacement, int most)
+inline long pull_back_simd(InstructionSet limit, uint8_t* buf, long pairs, Replacement replacement, int most)
 {
-    if (limit >= Tier::vbmi) return pull_back_vbmi(buf, pairs, replacement, most);
-    return limit >= Tier::avx2 ? pull_back_avx2(buf, pairs, replacement, most) : 1;
+    if (limit >= InstructionSet::avx512) return pull_back_avx512(buf, pairs, replacement, most);
+    return limit >= InstructionSet::avx2 ? pull_back_avx2(buf, pairs, replacement, most) : 1;
 }
 
 #else
 
-inline long average_pairs_wide(Tier, uint8_t*, long) { return 1; }
-inline long pull_back_wide(Tier, uint8_t*, long, Replacement, int) { return 1; }
+inline long average_pairs_simd(InstructionSet, uint8_t*, long) { return 1; }
+inline long pull_back_simd(InstructionSet, uint8_t*, long, Replacement, int) { return 1; }
 
 #endif
 

@@ -1,4 +1,4 @@
-#include "oddities.h"
+#include "quirks.h"
 
 #include <fmt/format.h>
 
@@ -50,7 +50,7 @@ std::string_view here(std::string_view name, const catalog::Arguments& call)
 // The third cell of the row that begins with the name.
 std::string_view what_is(std::string_view name)
 {
-    std::string_view row = deliberate_page();
+    std::string_view row = quirks_page();
     row.remove_prefix(row.find(fmt::format("\n| {} |", name)) + 1);
     row = row.substr(0, row.find(" |\n"));
     return row.substr(row.rfind(" | ") + 3);
@@ -58,12 +58,12 @@ std::string_view what_is(std::string_view name)
 
 }  // namespace
 
-std::vector<Oddity> oddities_at(const catalog::Routine& routine, const catalog::Arguments& call)
+std::vector<Quirk> quirks_at(const catalog::Routine& routine, const catalog::Arguments& call)
 {
-    std::vector<Oddity> oddities;
-    for (const std::string_view name : catalog::oddities_of(routine))
-        oddities.push_back({name, what_is(name), here(name, call)});
-    return oddities;
+    std::vector<Quirk> quirks;
+    for (const std::string_view name : catalog::quirks_of(routine))
+        quirks.push_back({name, what_is(name), here(name, call)});
+    return quirks;
 }
 
 }  // namespace tintvert::tool

@@ -144,8 +144,8 @@ constexpr Yuy2Places places_of_yuy2()
 inline constexpr Yuy2Places yuy2_places = places_of_yuy2();
 
 // The same, 32 groups a step. The last step ends with the line and makes some groups anew.
-TNTVT_VBMI inline long part_pair_vbmi(const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
-                                      const uint8_t* below, long groups)
+TNTVT_AVX512 inline long part_pair_avx512(const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
+                                          const uint8_t* below, long groups)
 {
     if (groups < 32) return part_pair_avx2(to, y_below, src, below, groups);
     const __m512i luma = _mm512_load_si512(yuy2_places.luma), chroma = _mm512_load_si512(yuy2_places.chroma);
@@ -171,38 +171,39 @@ inline long part_luma_avx2(uint8_t*, const uint8_t*, long) { return 0; }
 inline long join_groups_avx2(uint8_t*, const PlanarRuns<const uint8_t>&, long) { return 0; }
 inline long join_luma_avx2(uint8_t*, const uint8_t*, long, bool) { return 0; }
 inline long part_pair_avx2(const PlanarRuns<uint8_t>&, uint8_t*, const uint8_t*, const uint8_t*, long) { return 0; }
-inline long part_pair_vbmi(const PlanarRuns<uint8_t>&, uint8_t*, const uint8_t*, const uint8_t*, long) { return 0; }
+inline long part_pair_avx512(const PlanarRuns<uint8_t>&, uint8_t*, const uint8_t*, const uint8_t*, long) { return 0; }
 
 #endif
 
-inline long part_groups_wide(Tier limit, const PlanarRuns<uint8_t>& to, const uint8_t* src, long groups)
+inline long part_groups_simd(InstructionSet limit, const PlanarRuns<uint8_t>& to, const uint8_t* src, long groups)
 {
-    if (limit < Tier::avx2) return 0;
+    if (limit < InstructionSet::avx2) return 0;
     if (!apart({{to.y, groups * 2}, {to.cb, groups}, {to.cr, groups}}, {{src, groups * 4}})) return 0;
     return part_groups_avx2(to, src, groups);
 }
 
-inline long part_luma_wide(Tier limit, uint8_t* y, const uint8_t* src, long groups)
+inline long part_luma_simd(InstructionSet limit, uint8_t* y, const uint8_t* src, long groups)
 {
-    return limit >= Tier::avx2 && disjoint(y, groups * 2, src, groups * 4) ? part_luma_avx2(y, src, groups) : 0;
+    return limit >= InstructionSet::avx2 && disjoint(y, groups * 2, src, groups * 4) ? part_luma_avx2(y, src, groups)
+                                                                                     : 0;
 }
 
-inline long join_groups_wide(Tier limit, uint8_t* dst, const PlanarRuns<const uint8_t>& from, long groups)
+inline long join_groups_simd(InstructionSet limit, uint8_t* dst, const PlanarRuns<const uint8_t>& from, long groups)
 {
-    if (limit < Tier::avx2) return 0;
+    if (limit < InstructionSet::avx2) return 0;
     if (!apart({{dst, groups * 4}}, {{from.y, groups * 2}, {from.cb, groups}, {from.cr, groups}})) return 0;
     return join_groups_avx2(dst, from, groups);
 }
 
-inline long part_pair_wide(Tier limit, const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
+inline long part_pair_simd(InstructionSet limit, const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
                            const uint8_t* below, long groups)
 {
-    if (limit < Tier::avx2) return 0;
+    if (limit < InstructionSet::avx2) return 0;
     if (!apart({{to.y, groups * 2}, {y_below, groups * 2}, {to.cb, groups}, {to.cr, groups}},
                {{src, groups * 4}, {below, groups * 4}}))
         return 0;
-    return limit == Tier::vbmi ? part_pair_vbmi(to, y_below, src, below, groups)
-                               : part_pair_avx2(to, y_below, src, below, groups);
+    return limit == InstructionSet::avx512 ? part_pair_avx512(to, y_below, src, below, groups)
+                                           : part_pair_avx2(to, y_below, src, below, groups);
 }
 
 }  // namespace tintvert

@@ -50,7 +50,7 @@ struct Places444 {
 inline constexpr Places444 places_444;
 
 // Eight groups, 48 bytes of the 64 that are read: all of them the line's, the last four of the group after the next.
-TNTVT_VBMI inline long to_422_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 inline long to_422_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     const __m512i places = _mm512_load_si512(places_444.to_422);
     long done = 0;
@@ -61,7 +61,7 @@ TNTVT_VBMI inline long to_422_vbmi(uint8_t* dst, const uint8_t* src, long groups
     return done;
 }
 
-TNTVT_VBMI inline long to_444_vbmi(uint8_t* dst, const uint8_t* src, long groups)
+TNTVT_AVX512 inline long to_444_avx512(uint8_t* dst, const uint8_t* src, long groups)
 {
     const __m512i places = _mm512_load_si512(places_444.to_444);
     long done = 0;
@@ -72,24 +72,24 @@ TNTVT_VBMI inline long to_444_vbmi(uint8_t* dst, const uint8_t* src, long groups
     return done;
 }
 
-inline long to_422_wide(uint8_t* dst, const uint8_t* src, long groups)
+inline long to_422_simd(uint8_t* dst, const uint8_t* src, long groups)
 {
-    const Tier limit = tier();
-    if (limit < Tier::avx2 || !disjoint(dst, groups * 4, src, groups * 6)) return 0;
-    return limit >= Tier::vbmi ? to_422_vbmi(dst, src, groups) : to_422_avx2(dst, src, groups);
+    const InstructionSet limit = instruction_set();
+    if (limit < InstructionSet::avx2 || !disjoint(dst, groups * 4, src, groups * 6)) return 0;
+    return limit >= InstructionSet::avx512 ? to_422_avx512(dst, src, groups) : to_422_avx2(dst, src, groups);
 }
 
-inline long to_444_wide(uint8_t* dst, const uint8_t* src, long groups)
+inline long to_444_simd(uint8_t* dst, const uint8_t* src, long groups)
 {
-    const Tier limit = tier();
-    if (limit < Tier::avx2 || !disjoint(dst, groups * 6, src, groups * 4)) return 0;
-    return limit >= Tier::vbmi ? to_444_vbmi(dst, src, groups) : to_444_avx2(dst, src, groups);
+    const InstructionSet limit = instruction_set();
+    if (limit < InstructionSet::avx2 || !disjoint(dst, groups * 6, src, groups * 4)) return 0;
+    return limit >= InstructionSet::avx512 ? to_444_avx512(dst, src, groups) : to_444_avx2(dst, src, groups);
 }
 
 #else
 
-inline long to_422_wide(uint8_t*, const uint8_t*, long) { return 0; }
-inline long to_444_wide(uint8_t*, const uint8_t*, long) { return 0; }
+inline long to_422_simd(uint8_t*, const uint8_t*, long) { return 0; }
+inline long to_444_simd(uint8_t*, const uint8_t*, long) { return 0; }
 
 #endif
 

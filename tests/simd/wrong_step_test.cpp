@@ -1,4 +1,4 @@
-// Wide steps that are wrong in one way each. The comparison must see every one of them.
+// Simd steps that are wrong in one way each. The comparison must see every one of them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,14 +11,15 @@ namespace {
 
 using namespace catalog;
 
-// Plain: each byte is the source's plus 1, leftmost first. Wide: eight at a time, as `Step` has it.
+// Plain: each byte is the source's plus 1, leftmost first. Simd: eight at a time, as `Step` has it.
 template <class Step>
 int64_t add_one(const Arguments& call)
 {
     auto* dst = call.as<uint8_t*>(Arg::dst);
     const auto* src = call.as<const uint8_t*>(Arg::src);
     const int64_t count = call[Arg::pixels];
-    int64_t x = tier() > Tier::plain && Step::lawful(dst, src, count) ? Step::wide(dst, src, count) : 0;
+    int64_t x =
+        instruction_set() > InstructionSet::scalar && Step::lawful(dst, src, count) ? Step::wide(dst, src, count) : 0;
     for (; x < count; ++x) dst[x] = static_cast<uint8_t>(src[x] + 1);
     return 0;
 }
@@ -105,7 +106,7 @@ bool caught(bool together)
     for (int64_t at = together ? -64 : 0; at <= 64; ++at) {
         Arguments call;
         call[Arg::pixels] = random.between(0, 300);
-        if (!agrees(routine, call, {0, at, together}, Tier::base, random.next())) return true;
+        if (!agrees(routine, call, {0, at, together}, InstructionSet::sse2, random.next())) return true;
     }
     return false;
 }

@@ -8,12 +8,12 @@
 #include <array>
 
 #include "frame/doubles.h"
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 namespace tintvert {
 
 // Unfiltered chroma of the pixel before the next group.
-// DELIBERATE (keeps_chroma_start_of_512): it begins at 512.0 in every matrix. VideoRange601 has 128.0 for
+// QUIRK (keeps_chroma_start_of_512): it begins at 512.0 in every matrix. VideoRange601 has 128.0 for
 // neutral, so the first Cb and the first Cr of its lines come out 384 too high.
 struct Carried {
     double cb = 512.0, cr = 512.0;
@@ -113,7 +113,7 @@ TNTVT_AVX2 long groups_avx2(uint8_t* dst, const uint8_t* src, long groups, Carri
 }
 
 // An alpha byte at the outer end of the groups is not read: `left_out` is the bit of such a byte.
-TNTVT_VBMI inline __m512i sixteen_pixels(const uint8_t* src, uint64_t left_out)
+TNTVT_AVX512 inline __m512i sixteen_pixels(const uint8_t* src, uint64_t left_out)
 {
     return _mm512_maskz_loadu_epi8(~left_out, src);
 }
@@ -126,28 +126,28 @@ constexpr std::array<uint8_t, 64> places_of_triples()
 }
 alignas(64) inline constexpr std::array<uint8_t, 64> triple_places = places_of_triples();
 
-TNTVT_VBMI inline __m512i sixteen_triples(const uint8_t* src)
+TNTVT_AVX512 inline __m512i sixteen_triples(const uint8_t* src)
 {
     return _mm512_permutexvar_epi8(_mm512_loadu_si512(&triple_places), _mm512_maskz_loadu_epi8(0xFFFFFFFFFFFF, src));
 }
 
-TNTVT_VBMI inline Pairs8 load_pairs(Bgra, const uint8_t* src)
+TNTVT_AVX512 inline Pairs8 load_pairs(Bgra, const uint8_t* src)
 {
     return {{sixteen_pixels(src, 0), sixteen_pixels(src + 64, 0), sixteen_pixels(src + 128, uint64_t{1} << 63)}};
 }
 
-TNTVT_VBMI inline Pairs8 load_pairs(Argb, const uint8_t* src)
+TNTVT_AVX512 inline Pairs8 load_pairs(Argb, const uint8_t* src)
 {
     return {{sixteen_pixels(src, 1), sixteen_pixels(src + 64, 0), sixteen_pixels(src + 128, 0)}};
 }
 
-TNTVT_VBMI inline Pairs8 load_pairs(Rgb, const uint8_t* src)
+TNTVT_AVX512 inline Pairs8 load_pairs(Rgb, const uint8_t* src)
 {
     return {{sixteen_triples(src), sixteen_triples(src + 48), sixteen_triples(src + 96)}};
 }
 
 // Pair `pair` of eight groups, from 24 pairs in a row.
-TNTVT_VBMI inline __m512i pairs_of_groups(const Pairs8& pairs, int pair)
+TNTVT_AVX512 inline __m512i pairs_of_groups(const Pairs8& pairs, int pair)
 {
     const __m512i places = _mm512_add_epi64(_mm512_setr_epi64(0, 3, 6, 9, 12, 15, 18, 21), _mm512_set1_epi64(pair));
     const __m512i below_16 = _mm512_permutex2var_epi64(pairs.at[0], places, pairs.at[1]);
@@ -155,13 +155,13 @@ TNTVT_VBMI inline __m512i pairs_of_groups(const Pairs8& pairs, int pair)
     return _mm512_mask_permutexvar_epi64(below_16, above, places, pairs.at[2]);
 }
 
-TNTVT_VBMI inline __m512i word_8(__m512d low, __m512d middle, __m512d top)
+TNTVT_AVX512 inline __m512i word_8(__m512d low, __m512d middle, __m512d top)
 {
     const __m512i lower = _mm512_or_si512(_mm512_cvttpd_epi64(low), _mm512_slli_epi64(_mm512_cvttpd_epi64(middle), 10));
     return _mm512_or_si512(lower, _mm512_slli_epi64(_mm512_cvttpd_epi64(top), 20));
 }
 
-TNTVT_VBMI inline void store_groups(uint8_t* dst, __m512i w0, __m512i w1, __m512i w2, __m512i w3)
+TNTVT_AVX512 inline void store_groups(uint8_t* dst, __m512i w0, __m512i w1, __m512i w2, __m512i w3)
 {
     const __m512i low = _mm512_or_si512(w0, _mm512_slli_epi64(w1, 32));
     const __m512i high = _mm512_or_si512(w2, _mm512_slli_epi64(w3, 32));
@@ -172,14 +172,14 @@ TNTVT_VBMI inline void store_groups(uint8_t* dst, __m512i w0, __m512i w1, __m512
 }
 
 template <class Matrix>
-TNTVT_VBMI inline __m512d filtered_8(__m512d previous, __m512d centre, __m512d next)
+TNTVT_AVX512 inline __m512d filtered_8(__m512d previous, __m512d centre, __m512d next)
 {
     const __m512d sum = filter_8(previous, centre, next);
     return Matrix::filter_half == 0.0 ? sum : _mm512_add_pd(sum, _mm512_set1_pd(Matrix::filter_half));
 }
 
 template <class Matrix, class Order>
-TNTVT_VBMI long groups_vbmi(uint8_t* dst, const uint8_t* src, long groups, Carried& carried)
+TNTVT_AVX512 long groups_avx512(uint8_t* dst, const uint8_t* src, long groups, Carried& carried)
 {
     __m512d before_cb = _mm512_set1_pd(carried.cb * Matrix::chroma_scale);
     __m512d before_cr = _mm512_set1_pd(carried.cr * Matrix::chroma_scale);

@@ -17,7 +17,7 @@ struct EntryPlanes {
 };
 
 // Whether they fit.
-TNTVT_VBMI inline bool take_entries_vbmi(EntryPlanes& planes, const uint32_t* table)
+TNTVT_AVX512 inline bool take_entries_avx512(EntryPlanes& planes, const uint32_t* table)
 {
     __m512i all = _mm512_setzero_si512();
     for (int i = 0; i < 1024; i += 16) {
@@ -35,37 +35,37 @@ struct Indices {
     __mmask64 bit_7, bit_8, bit_9;
 };
 
-TNTVT_VBMI inline __m512i entries_from_vbmi(const uint8_t* plane, __m512i low)
+TNTVT_AVX512 inline __m512i entries_from_avx512(const uint8_t* plane, __m512i low)
 {
     return _mm512_permutex2var_epi8(_mm512_load_si512(plane), low, _mm512_load_si512(plane + 64));
 }
 
-TNTVT_VBMI inline __m512i look_up_vbmi(const uint8_t* plane, const Indices& at)
+TNTVT_AVX512 inline __m512i look_up_avx512(const uint8_t* plane, const Indices& at)
 {
     __m512i quarters[4];
     for (int n = 0; n < 4; ++n)
-        quarters[n] = _mm512_mask_blend_epi8(at.bit_7, entries_from_vbmi(plane + 256 * n, at.low),
-                                             entries_from_vbmi(plane + 256 * n + 128, at.low));
+        quarters[n] = _mm512_mask_blend_epi8(at.bit_7, entries_from_avx512(plane + 256 * n, at.low),
+                                             entries_from_avx512(plane + 256 * n + 128, at.low));
     return _mm512_mask_blend_epi8(at.bit_9, _mm512_mask_blend_epi8(at.bit_8, quarters[0], quarters[1]),
                                   _mm512_mask_blend_epi8(at.bit_8, quarters[2], quarters[3]));
 }
 
 // Eight bits from each of three places in each eight bytes, those of `one` before those of `other`.
-TNTVT_VBMI inline __m512i eight_bits_vbmi(int first, int second, int third, __m512i one, __m512i other)
+TNTVT_AVX512 inline __m512i eight_bits_avx512(int first, int second, int third, __m512i one, __m512i other)
 {
     const __m512i from = _mm512_set1_epi32(first | second << 8 | third << 16);
     return _mm512_mask_multishift_epi64_epi8(_mm512_multishift_epi64_epi8(from, one), 0xF0F0F0F0F0F0F0F0, from, other);
 }
 
-TNTVT_VBMI inline Indices indices_vbmi(__m512i one, __m512i other)
+TNTVT_AVX512 inline Indices indices_avx512(__m512i one, __m512i other)
 {
-    const __m512i low = eight_bits_vbmi(12, 34, 54, one, other), high = eight_bits_vbmi(20, 42, 62, one, other);
+    const __m512i low = eight_bits_avx512(12, 34, 54, one, other), high = eight_bits_avx512(20, 42, 62, one, other);
     return {low, _mm512_movepi8_mask(low), _mm512_test_epi8_mask(high, _mm512_set1_epi8(1)),
             _mm512_test_epi8_mask(high, _mm512_set1_epi8(2))};
 }
 
 // Each eight bytes of `entries` hold three entries of 16 bits. What they have above bit 9 spills upwards.
-TNTVT_VBMI inline __m512i with_entries_vbmi(__m512i words, __m512i entries)
+TNTVT_AVX512 inline __m512i with_entries_avx512(__m512i words, __m512i entries)
 {
     const __m512i first = _mm512_slli_epi64(_mm512_and_si512(entries, _mm512_set1_epi64(0xFFFF)), 12);
     const __m512i second = _mm512_slli_epi64(_mm512_and_si512(entries, _mm512_set1_epi64(0xFFFF0000)), 34 - 16);
@@ -74,17 +74,17 @@ TNTVT_VBMI inline __m512i with_entries_vbmi(__m512i words, __m512i entries)
     return _mm512_or_si512(_mm512_or_si512(kept, first), _mm512_or_si512(second, third));
 }
 
-// Returns how many bytes it has done; what is left is for the plain form.
-TNTVT_VBMI inline long map_v210_vbmi(uint8_t* dst, const uint8_t* src, long bytes, const EntryPlanes& planes)
+// Returns how many bytes it has done; what is left is for the scalar version.
+TNTVT_AVX512 inline long map_v210_avx512(uint8_t* dst, const uint8_t* src, long bytes, const EntryPlanes& planes)
 {
     long done = 0;
     for (; bytes - done >= 128; done += 128) {
         const __m512i one = _mm512_loadu_si512(src + done), other = _mm512_loadu_si512(src + done + 64);
-        const Indices at = indices_vbmi(one, other);
-        const __m512i low = look_up_vbmi(planes.low, at), high = look_up_vbmi(planes.high, at);
+        const Indices at = indices_avx512(one, other);
+        const __m512i low = look_up_avx512(planes.low, at), high = look_up_avx512(planes.high, at);
         const __m512i even = _mm512_unpacklo_epi8(low, high), odd = _mm512_unpackhi_epi8(low, high);
-        _mm512_storeu_si512(dst + done, with_entries_vbmi(one, _mm512_unpacklo_epi64(even, odd)));
-        _mm512_storeu_si512(dst + done + 64, with_entries_vbmi(other, _mm512_unpackhi_epi64(even, odd)));
+        _mm512_storeu_si512(dst + done, with_entries_avx512(one, _mm512_unpacklo_epi64(even, odd)));
+        _mm512_storeu_si512(dst + done + 64, with_entries_avx512(other, _mm512_unpackhi_epi64(even, odd)));
     }
     return done;
 }
@@ -96,8 +96,8 @@ TNTVT_VBMI inline long map_v210_vbmi(uint8_t* dst, const uint8_t* src, long byte
 namespace tintvert {
 
 struct EntryPlanes {};
-inline bool take_entries_vbmi(EntryPlanes&, const uint32_t*) { return false; }
-inline long map_v210_vbmi(uint8_t*, const uint8_t*, long, const EntryPlanes&) { return 0; }
+inline bool take_entries_avx512(EntryPlanes&, const uint32_t*) { return false; }
+inline long map_v210_avx512(uint8_t*, const uint8_t*, long, const EntryPlanes&) { return 0; }
 
 }  // namespace tintvert
 

@@ -36,7 +36,7 @@ TNTVT_AVX2 inline long set_alpha_avx2(uint8_t* line, uint8_t alpha, long pixels)
     return done;
 }
 
-TNTVT_VBMI inline long set_alpha_vbmi(uint8_t* line, uint8_t alpha, long pixels)
+TNTVT_AVX512 inline long set_alpha_avx512(uint8_t* line, uint8_t alpha, long pixels)
 {
     const __m512i value = _mm512_set1_epi8(static_cast<char>(alpha));
     long done = 0;
@@ -60,23 +60,23 @@ TNTVT_AVX2 inline long add_alpha_avx2(uint8_t* dst, const uint8_t* src, uint8_t 
     return steps * 8;
 }
 
-inline long set_alpha_wide(Tier limit, uint8_t* line, uint8_t alpha, long pixels)
+inline long set_alpha_simd(InstructionSet limit, uint8_t* line, uint8_t alpha, long pixels)
 {
-    if (limit >= Tier::vbmi) return set_alpha_vbmi(line, alpha, pixels);
-    return limit >= Tier::avx2 ? set_alpha_avx2(line, alpha, pixels) : 0;
+    if (limit >= InstructionSet::avx512) return set_alpha_avx512(line, alpha, pixels);
+    return limit >= InstructionSet::avx2 ? set_alpha_avx2(line, alpha, pixels) : 0;
 }
 
-inline long add_alpha_wide(Tier limit, uint8_t* dst, const uint8_t* src, uint8_t alpha, long pixels)
+inline long add_alpha_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, uint8_t alpha, long pixels)
 {
-    if (limit < Tier::avx2 || pixels < 0 || !disjoint(dst, pixels * 4, src, pixels * 3)) return 0;
+    if (limit < InstructionSet::avx2 || pixels < 0 || !disjoint(dst, pixels * 4, src, pixels * 3)) return 0;
     return add_alpha_avx2(dst, src, alpha, pixels);
 }
 
 #else
 
 inline long spread_alpha_avx2(uint8_t*, const uint8_t*, long) { return 0; }
-inline long set_alpha_wide(Tier, uint8_t*, uint8_t, long) { return 0; }
-inline long add_alpha_wide(Tier, uint8_t*, const uint8_t*, uint8_t, long) { return 0; }
+inline long set_alpha_simd(InstructionSet, uint8_t*, uint8_t, long) { return 0; }
+inline long add_alpha_simd(InstructionSet, uint8_t*, const uint8_t*, uint8_t, long) { return 0; }
 
 #endif
 

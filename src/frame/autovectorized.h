@@ -1,10 +1,10 @@
-// Wide steps that are the plain pixels themselves, compiled for a wider processor: for forms whose pixels the
+// Simd steps that are the plain pixels themselves, compiled for a wider processor: for forms whose pixels the
 // compiler puts side by side. No pixel depends on another one where wide steps run.
 #pragma once
 
 #include <cstdint>
 
-#include "frame/wide.h"
+#include "frame/simd.h"
 
 #if defined(__clang__)
 #define TNTVT_PIXELS_APART _Pragma("clang loop vectorize(assume_safety)")
@@ -15,7 +15,7 @@
 namespace tintvert {
 
 template <class Form>
-struct WiderPlain {
+struct Autovectorized {
     TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long pixels, bool)
     {
         TNTVT_PIXELS_APART
@@ -23,7 +23,10 @@ struct WiderPlain {
         return pixels;
     }
 
-    static long vbmi(uint8_t* dst, const uint8_t* src, long pixels, bool down) { return avx2(dst, src, pixels, down); }
+    static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool down)
+    {
+        return avx2(dst, src, pixels, down);
+    }
 };
 
 }  // namespace tintvert

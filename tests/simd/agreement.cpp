@@ -9,7 +9,7 @@
 #include "refusals.h"
 
 namespace tintvert {
-Tier highest_tier = Tier::vbmi;
+InstructionSet highest_instruction_set = InstructionSet::avx512;
 }
 
 namespace tintvert::test {
@@ -153,18 +153,18 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
     return true;
 }
 
-testing::AssertionResult agrees(const Routine& routine, const Arguments& call, const Placement& placement, Tier tier,
-                                uint64_t seed)
+testing::AssertionResult agrees(const Routine& routine, const Arguments& call, const Placement& placement,
+                                InstructionSet level, uint64_t seed)
 {
     Memory expected(routine, call, placement, seed), actual(routine, call, placement, seed);
-    highest_tier = Tier::plain;
+    highest_instruction_set = InstructionSet::scalar;
     expected.run(routine);
-    highest_tier = tier;
+    highest_instruction_set = level;
     actual.run(routine);
     const int64_t byte = actual.differs_from(expected);
     if (byte < 0) return testing::AssertionSuccess();
     testing::AssertionResult result = testing::AssertionFailure();
-    result << routine.name << " at tier " << static_cast<int>(tier) << ":";
+    result << routine.name << " at level " << static_cast<int>(level) << ":";
     actual.tell_place(byte, &result);
     for (const Arg argument : routine.arguments)
         if (!is_buffer(argument)) result << " " << describe(argument).name << "=" << call[argument];

@@ -1,5 +1,5 @@
-/* What every chapter header stands on: fixed-width integers, the mark of an exported routine, and the
- * brackets that give a declaration C linkage in both languages. */
+/* What every chapter header includes: fixed-width integers, the export mark, and the brackets that give a
+ * declaration C linkage in C++. */
 #ifndef TINTVERT_EXPORT_H
 #define TINTVERT_EXPORT_H
 

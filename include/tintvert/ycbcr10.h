@@ -9,111 +9,135 @@
 
 TNTVT_BEGIN
 
-/* RFC 4175 payload, 10-bit YCbCr 4:2:2, to `v210`: one run of pgroups, five bytes for two pixels, most
- * significant bit first. Returns 0.
+/* RFC 4175 payload, 10-bit YCbCr 4:2:2, to `v210`: one run of pgroups, five bytes for two pixels, most significant bit
+ * first. Returns 0.
  *
- * `dst` is the group that holds the first pixel. A `startPhase` of 2 or 4 says that this is pixel 2 or 4 of
- * the group: two pgroups or one complete it, which `pgroupCount` does not count; every other value means
- * pixel 0. Then `pgroupCount` pgroups follow, three a group; a negative count is none.
+ * `dst` is the group of the first pixel. A `startPhase` of 2 or 4 starts at pixel 2 or 4 of that group: two pgroups or
+ * one complete it and are not counted in `pgroupCount`. Every other value starts at pixel 0. Then `pgroupCount`
+ * pgroups follow, three a group; a negative count is none.
  *
- * `payloadSize` bounds the reads alone: samples past it are 0 and are written like any others. A pgroup
- * stores its own four samples and keeps the other fields of the group, so calls may share one; bits
- * 30 and 31 of the words that it writes become 0, but for the second word of a group under its first pgroup. */
+ * `payloadSize` limits only the reads: samples past it are 0 and are written like any others. A pgroup stores its own
+ * four samples and keeps the other fields of the group, so that several calls may fill one group. Bits 30 and 31 of
+ * the words that it writes become 0, except in word 1 of a group by its first pgroup. */
 TNTVT_API int tntvt_4175_to_v210(void* dst, unsigned char* payload, long payloadSize, long pgroupCount,
                                  long startPhase);
 
-/* Packed 10-bit YCbCr 4:2:2, a frame of pgroups as RFC 4175 has them, to `v210`. Returns 0.
+/* Packed 10-bit YCbCr 4:2:2, a frame of RFC 4175 pgroups without headers, to `v210`. Returns 0.
  *
- * A source line is `width` x 20 / 8 bytes, truncated, and starts on a byte; a destination line is 128 bytes
- * for each 48 pixels or part of them. Both are 32-bit products. A line never reads into the next: an odd
- * `width` takes one pair more than its line holds, whose missing bits are 0. Groups that `width` does not
- * fill keep their other fields, and the padding behind the last group is untouched. */
+ * A source line is `width` x 20 / 8 bytes, truncated, and starts on a byte; a destination line is 128 bytes for each
+ * 48 pixels or part of them. Line offsets are 32-bit products. A line never reads into the next: an odd `width` reads
+ * one pair more than its line has, whose missing bits are 0. The last group of a line keeps the fields that `width`
+ * does not fill, and the padding after it is untouched.
+ *
+ * Quirks: keeps_pair_past_odd_width. */
 TNTVT_API int tntvt_YCbCr10Packed_to_v210(unsigned char* dst, unsigned char* src, unsigned int width,
                                           unsigned int height);
 
-/* Walks a `v210` frame (lines of 128 bytes for each 48 pixels) and forms an RTP packet with the RFC 4175
- * payload header for each line, every one at byte 0 of `packet`, the very buffer that holds the frame.
- * Nothing is sent: what stands at the end is the packet of the last line over the frame's first 1395 bytes.
- * Returns 0.
+/* Reads a `v210` frame (lines of 128 bytes for each 48 pixels) and forms one RTP packet with the RFC 4175 payload
+ * header for each line, always at byte 0 of `packet`, which is the buffer of the frame itself. Nothing is sent: at the
+ * end the packet of the last line is left over the frame's first 1395 bytes. Returns 0.
  *
- * Twenty bytes of header: version 2 with extension, payload type 96, the sequence number from `*seq`,
- * `timestamp`, `ssrc`, `extSeq`, the length (1375, or 224 for a `width` up to 550), the line number from 1,
- * the offset. The last packet has the marker bit. The upper bytes of line number and offset are only ORed,
- * so their F and C bits stay as they were and the bits of earlier numbers pile up.
+ * The header is 20 bytes: version 2 with extension, payload type 96, the sequence number from `*seq`, `timestamp`,
+ * `ssrc`, `extSeq`, the length (1375, or 224 for a `width` up to 550), the line number from 1, the offset. The last
+ * packet has the marker bit. The high bytes of line number and offset are ORed into the buffer, so their F and C bits
+ * stay as they were and the bits of earlier line numbers accumulate.
  *
- * The payload is the first pgroup of the line, `width` / 2 times but at most 275. It is read after the
- * header is stamped, and lines that start below byte 1395 are read as earlier packets left them.
+ * The payload is the first pgroup of the line, repeated `width` / 2 times but at most 275. It is read after the header
+ * is written, and lines that start below byte 1395 are read as earlier packets left them.
  *
- * `*seq` comes back grown by one for each line, modulo 65536; `*outA` and `*outB` become 0. A `width` or
- * `height` of 0 forms no packet and sets the marker bit alone. An odd `width` never returns. `packetSize`
- * limits nothing: the buffer holds at least 1395 bytes and the whole frame. The seventh argument is
- * ignored. */
+ * `*seq` grows by one for each line, modulo 65536; `*outA` and `*outB` become 0. A `width` or `height` of 0 forms no
+ * packet and only sets the marker bit. An odd `width` never returns. `packetSize` limits nothing: the buffer must have
+ * at least 1395 bytes and the whole frame. The seventh argument is ignored.
+ *
+ * Quirks: keeps_or_of_high_bits, keeps_fixed_length_224, keeps_place_in_line, keeps_endless_odd_width,
+ * keeps_header_over_line_0. */
 TNTVT_API int tntvt_v210_frame_to_rtp_4175(void* packet, long packetSize, unsigned short* seq, unsigned int timestamp,
                                            unsigned int ssrc, unsigned short extSeq, unsigned int* notUsed,
                                            unsigned int width, unsigned int height, unsigned int* outA,
                                            unsigned int* outB);
-/* RGB to `v210`, one line. argb_to_v210 reads bytes ignored, R, G, B, or with `hasAlpha` zero three bytes a
- * pixel R, G, B; bgra_to_v210 reads B, G, R, ignored.
+
+/* RGB to `v210`, one line, source first. Pixels are four bytes, ignored, R, G, B; with `hasAlpha` zero they are three
+ * bytes, R, G, B.
  *
- * The arithmetic is double precision up to a truncation. Nothing is clamped, and samples are joined with no
- * mask. Chroma is sited on the even pixels through a 1-2-1 filter that begins at 512.0 in both routines.
+ * ITU-R BT.601 in double precision, truncated, at 10-bit video range: black 64, white 940, neutral chroma 512. Nothing
+ * is clamped, and fields are combined without a mask. Chroma is sited on the even pixels by a 1-2-1 filter. The filter
+ * starts at 512.0 but works on values around 128, so the first Cb and the first Cr of a line are 384 too high: 896 for
+ * neutral pixels, and 1232 for Cb of a pure blue pixel, whose high bit lands in the Y0 field.
  *
- * argb_to_v210 uses the ITU-R BT.601 weights at 10-bit video range: black 64, white 940, neutral 512. Its
- * filter works on values around 128, so the first Cb and the first Cr of a line are 384 too high: 896 for
- * neutral pixels; for a pure blue first pixel Cb is 1232, whose high bit lands in the Y0 field.
- * bgra_to_v210 uses the same weights on 10-bit offsets with an 8-bit excursion: black 64, white 283, Cb and
- * Cr 512 and up to 111 on either side.
+ * A `width` below 1 does nothing. The last group is read and written whole: up to five pixels past the end of the line
+ * are read.
  *
- * `width` below 1 does nothing. A `width` that is no multiple of 6 reads six whole pixels for its last group
- * and writes it whole. */
+ * Quirks: keeps_half_before_truncation, keeps_chroma_start_of_512, keeps_overflow_into_next_field. */
 TNTVT_API void argb_to_v210(unsigned char* src, unsigned int* dst, int width, int hasAlpha);
+
+/* RGB (B, G, R, ignored) to `v210`, one line, source first.
+ *
+ * ITU-R BT.601 in double precision, truncated, with 10-bit offsets but an 8-bit excursion: black 64, white 283, Cb and
+ * Cr 512 with up to 111 on either side. Nothing is clamped. Chroma is sited on the even pixels by a 1-2-1 filter that
+ * starts at 512.0. `width` and the last group as in argb_to_v210.
+ *
+ * Quirks: keeps_8_bit_excursion. */
 TNTVT_API void bgra_to_v210(unsigned char* src, unsigned int* dst, int width);
 
-/* `rgb32` (B, G, R, alpha) to `v210`, a frame, lines at the start of their strides. A `dstStride` of 0 is 128
- * bytes for every 48 pixels begun; a `srcStride` of 0 is `width` x 4.
+/* `rgb32` (B, G, R, alpha) to `v210`, a frame, with lines at the start of their strides. A `dstStride` of 0 is 128
+ * bytes for each 48 pixels or part of them; a `srcStride` of 0 is `width` x 4.
  *
- * Up to a `width` of 961 the numbers are those of bgra_to_v210. From 962 on they are the ITU-R BT.709 weights
- * with the same narrow excursion: black 64, white 318, chroma 512 and up to 128 on either side.
+ * Up to a `width` of 961 the numbers are those of bgra_to_v210. From 962 on they are the ITU-R BT.709 weights with the
+ * same 8-bit excursion: black 64, white 318, chroma 512 with up to 128 on either side.
  *
- * The frame is `width` x `height` pixels, the product kept to 32 bits; below 1 nothing is done. Groups are
- * counted over the whole frame: a line begins at the first of its pixels whose number in the frame is a
- * multiple of 6, which is written to the line's start, and gets as many groups as begin in it. With a `width`
- * of 1280 the first line of three gets 214 groups and reads four pixels past its end, and the other two get
- * 213 and leave their last two pixels out. Below a `width` of 6 lines are skipped. The chroma filter runs on
- * from line to line. */
+ * The frame is `width` x `height` pixels, the product kept to 32 bits; below 1 nothing is done. Groups are counted
+ * over the whole frame, not line by line. A line begins at the first of its pixels whose number in the frame is a
+ * multiple of 6, which is written to the start of the line, and gets as many groups as begin in it. With a `width` of
+ * 1280 the first line of every three gets 214 groups and reads four pixels past its end; the other two get 213 and
+ * leave out their last two pixels. Below a `width` of 6 lines are skipped. The chroma filter continues from line to
+ * line.
+ *
+ * Quirks: keeps_8_bit_excursion, keeps_matrix_change_at_962, keeps_chroma_across_lines, keeps_groups_across_lines.
+ * */
 TNTVT_API void tntvt_rgb32_v210(void* dst, long dstStride, void* src, long srcStride, long width, long height);
 
-/* `yuv2` and `yuvs`, 8-bit 4:2:2 at full range, to `2vuy` at video range, a run of `width` pixels of two bytes
- * each. What the names say of `v210` they do not do. Luma becomes Y * 219 / 255 + 16; chroma, whose top bit
- * yuv2_to_v210 inverts first, becomes (c * 224 - 224) / 254 + 16, and 16 for 0. `width` below 1 does nothing.
- * `src` and `dst` may be the same memory. */
+/* `yuv2` to `2vuy`, in spite of the name: a run of `width` pixels of two bytes each, source first, full range to video
+ * range. The same numbers as yuv2_to_2vuy: luma Y x 219 / 255 + 16; chroma, its top bit inverted first, (c x 224 -
+ * 224) / 254 + 16, and 16 for 0. A `width` below 1 does nothing. `src` and `dst` may be the same memory.
+ *
+ * Quirks: keeps_8_bit_bytes_under_a_v210_name, keeps_divisors_255_and_254. */
 TNTVT_API void yuv2_to_v210(unsigned char* src, unsigned char* dst, int width);
+
+/* `yuvs` to `2vuy`, in spite of the name: as yuv2_to_v210 with unsigned chroma, which is taken as it is.
+ *
+ * Quirks: keeps_8_bit_bytes_under_a_v210_name, keeps_divisors_255_and_254. */
 TNTVT_API void yuvs_to_v210(unsigned char* src, unsigned char* dst, int width);
 
-/* `2vuy` to `v210`, a frame: samples times 4. `2vuy` lines are `width` x 2 bytes. A `dstStride` of 0 is
- * `width` x 16 / 6 rounded up to a multiple of 64: 5120 for 1920, 3456 for 1280, 320 for 100.
+/* `2vuy` to `v210`, a frame: every sample times 4. `2vuy` lines are `width` x 2 bytes with no gap. A `dstStride` of 0
+ * is `width` x 16 / 6 rounded up to a multiple of 64: 5120 for 1920, 3456 for 1280, 320 for 100.
  *
- * Lines go from last to first. A `width` that is no multiple of 6 reads and writes its last group whole; the
- * padding behind that is left alone. A `width` of 0 does nothing. A `height` of 0 is 2^32 lines: not to be
- * called. tntvt_yuv422_8_yuv422_10 is the same under another name. */
+ * Lines go from last to first. The last group of a line is read and written whole, up to five source pixels past the
+ * end; the padding after it is untouched. A `width` of 0 does nothing. A `height` of 0 is 2^32 lines: never pass
+ * it.
+ *
+ * Quirks: keeps_lines_of_64_bytes, keeps_last_line_first_without_guard. */
 TNTVT_API void tntvt_2vuy_v210(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                                unsigned int dstStride);
+
+/* `2vuy` to `v210`, a frame. The same as tntvt_2vuy_v210. */
 TNTVT_API void tntvt_yuv422_8_yuv422_10(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                                         unsigned int dstStride);
 
-/* `v210` to `2vuy`, a frame: the two low bits of each sample are dropped. `2vuy` lines are `width` x 2 bytes.
- * A `srcStride` of 0 is `width` x 16 / 6 with no rounding up: 5120 for 1920, but 3413 for 1280, where the
- * opposite direction writes 3456.
+/* `v210` to `2vuy`, a frame: the two low bits of each sample are dropped. `2vuy` lines are `width` x 2 bytes with no
+ * gap. A `srcStride` of 0 is `width` x 16 / 6 with no rounding up: 5120 for 1920, but 3413 for 1280, where
+ * tntvt_2vuy_v210 writes 3456.
  *
- * A line runs on to twice its length: `width` / 3 groups, rounded up, are read, 16 bytes each, and 12 bytes
- * written for each. Lines go from first to last, each over the surplus of the one before, so the frame comes
- * out right. Leave `width` x 2 bytes (rounded up to a whole group) behind the last line of `dst`, and the same
- * number of groups again behind the last line of `src`.
+ * A line runs to twice its length: `width` / 3 groups, rounded up, of 16 bytes are read and 12 bytes written for each.
+ * Lines go from first to last, each over the surplus of the one before, so the frame comes out right. After the last
+ * line `dst` needs `width` x 2 more bytes (rounded up to a whole group), and `src` the same number of groups again.
  *
- * Offsets of lines are kept to 32 bits. A `width` or a `height` of 0 does nothing. tntvt_yuv422_10_yuv422_8
- * is the same under another name. */
+ * Line offsets are kept to 32 bits. A `width` or `height` of 0 does nothing.
+ *
+ * Quirks: keeps_unrounded_lines, keeps_double_length_lines. */
 TNTVT_API void tntvt_v210_2vuy(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                                unsigned int srcStride);
+
+/* `v210` to `2vuy`, a frame. The same as tntvt_v210_2vuy. */
 TNTVT_API void tntvt_yuv422_10_yuv422_8(unsigned char* dst, unsigned char* src, unsigned int width, unsigned int height,
                                         unsigned int srcStride);
 

@@ -66,7 +66,7 @@ TEST(List, text_names_every_routine)
         EXPECT_NE(result.out.find("\n  " + std::string(routine.name) + " "), std::string::npos) << routine.name;
 }
 
-// Also holds the headers to having a comment above every routine.
+// Also that every routine has a comment of its own in the headers, which names all its quirks.
 TEST(Show, json_holds_prototype_arguments_and_documentation)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
@@ -75,7 +75,10 @@ TEST(Show, json_holds_prototype_arguments_and_documentation)
         const std::string prototype = told["prototype"];
         EXPECT_NE(prototype.find(std::string(routine.name) + "("), std::string::npos) << routine.name;
         EXPECT_TRUE(prototype.ends_with(");")) << prototype;
-        EXPECT_GT(told["documentation"].get<std::string>().size(), 20u) << routine.name;
+        const std::string documentation = told["documentation"];
+        EXPECT_GT(documentation.size(), 20u) << routine.name;
+        for (const std::string_view quirk : catalog::quirks_of(routine))
+            EXPECT_NE(documentation.find(quirk), std::string::npos) << routine.name << ' ' << quirk;
         ASSERT_EQ(told["arguments"].size(), routine.arguments.size());
         for (size_t i = 0; i < routine.arguments.size(); ++i) {
             const catalog::Argument& argument = catalog::describe(routine.arguments[i]);
@@ -113,27 +116,6 @@ TEST(Show, text_tells_what_the_catalogue_knows)
     EXPECT_NE(run({"show", "argb_to_2vuy"}).out.find("\nin place    yes: the same bytes as with two frames\n"),
               std::string::npos);
     EXPECT_NE(run({"list"}).out.find(" The same as tntvt_rgb24_rgba32.\n"), std::string::npos);
-}
-
-// Two declarations under one comment share it.
-TEST(Show, a_comment_holds_for_all_declarations_below_it)
-{
-    const auto documentation = [](const char* name) {
-        return json_of({"show", name, "--json"})["routine"]["documentation"];
-    };
-    EXPECT_EQ(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_yuv422_rgb16"));
-    EXPECT_NE(documentation("tntvt_yuv422_rgb24"), documentation("tntvt_rgb32_2vuy"));
-}
-
-// The ST 2084 conversions have a comment in common, above the comments of each pair.
-TEST(Show, a_comment_above_another_holds_for_all_that_follow)
-{
-    for (const catalog::Routine& routine : catalog::routines()) {
-        const json told = json_of({"show", std::string(routine.name), "--json"})["routine"];
-        const bool is_conversion = routine.chapter == "hdr" && routine.shape == "pitch_pair";
-        EXPECT_EQ(told["documentation"].get<std::string>().starts_with("All six conversions: "), is_conversion)
-            << routine.name;
-    }
 }
 
 }  // namespace

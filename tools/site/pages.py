@@ -141,7 +141,7 @@ class Site:
             index += f"| [{CHAPTERS.get(chapter, chapter)}]({chapter}.md) | `tintvert/{chapter}.h` | {len(own)} |\n"
             self.write(f"routines/{chapter}.md", self.chapter_page(chapter, own))
             for routine in own:
-                self.write(f"routines/{routine['name']}.md", self.routine_page(routine, own))
+                self.write(f"routines/{routine['name']}.md", self.routine_page(routine))
         self.write("routines/index.md", index + toctree(chapters))
 
     def chapter_page(self, chapter, own):
@@ -153,7 +153,7 @@ class Site:
             text += f"| {links.code(routine['name'])} | {' | '.join(sides)} | {links.mark(routine['summary'])} |\n"
         return text + toctree(routine["name"] for routine in own)
 
-    def routine_page(self, routine, own):
+    def routine_page(self, routine):
         name, links = routine["name"], self.links("../")
         parts = [
             f"# `{name}`",
@@ -162,7 +162,6 @@ class Site:
             f"```c\n{wrapped(routine['prototype'])}\n```",
             self.sides(routine),
             documentation(routine["documentation"], links, name),
-            self.siblings(routine, own, links),
             companions(routine),
             arguments(routine),
             extents(routine),
@@ -183,14 +182,6 @@ class Site:
             elif name:
                 sides += f'<div class="side"><p>{side} <code>{name}</code></p></div>'
         return f'<div class="sides">{sides}</div>' if sides else ""
-
-    def siblings(self, routine, own, links):
-        others = [
-            links.code(other["name"])
-            for other in own
-            if other["documentation"] == routine["documentation"] and other is not routine
-        ]
-        return f"The same comment stands above {', '.join(others)}." if others else ""
 
     def peers_of(self, routine, links):
         rows = self.peers.get(routine["name"], [])

@@ -53,8 +53,7 @@ bool declares(std::string_view prototype, std::string_view routine)
 
 }  // namespace
 
-// A comment holds for all the declarations between it and the next, and one that another follows at once for
-// all declarations behind it.
+// The comment of a declaration is the one directly above it.
 Declaration declaration_of(std::string_view chapter, std::string_view routine)
 {
     const auto header = std::ranges::find(headers(), chapter, &Header::chapter);
@@ -63,8 +62,7 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
     const size_t opening = rest.find("\nTNTVT_BEGIN");
     if (opening != std::string_view::npos) rest.remove_prefix(opening + 12);
 
-    std::string_view comment, general;
-    bool declared = true;
+    std::string_view comment;
     while (true) {
         while (!rest.empty() && is_blank(rest.front())) rest.remove_prefix(1);
         const bool in_comment = rest.starts_with("/*");
@@ -73,16 +71,11 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
         if (found == std::string_view::npos) return {};
         const std::string_view piece = rest.substr(0, found + end.size());
         rest.remove_prefix(piece.size());
-        if (in_comment) {
-            if (!declared) general = comment;
-            comment = piece;
+        if (piece.starts_with(mark)) {
+            std::string prototype = on_one_line(piece.substr(mark.size()));
+            if (declares(prototype, routine)) return {std::move(prototype), without_comment_marks(comment)};
         }
-        declared = !in_comment;
-        if (!piece.starts_with(mark)) continue;
-        std::string prototype = on_one_line(piece.substr(mark.size()));
-        if (!declares(prototype, routine)) continue;
-        const char* const gap = general.empty() || comment.empty() ? "" : "\n\n";
-        return {std::move(prototype), without_comment_marks(general) + gap + without_comment_marks(comment)};
+        comment = in_comment ? piece : std::string_view();
     }
 }
 

@@ -26,8 +26,8 @@ int main(int argc, char** argv)
         rgb[x * 4 + 2] = bar & 2 ? 255 : 0;
     }
 
-    // The line, once for every line of the frame. The last group of a line is read whole: 12 bytes behind the
-    // frame belong to the buffer.
+    // The line, once for every line of the frame. The last group of a line is read whole: the buffer has 12 bytes
+    // past the end of the frame.
     std::vector<unsigned char> bytes(line_2vuy * lines + 12);
     for (size_t y = 0; y < lines; ++y) bgra_to_2vuy(rgb.data(), &bytes[y * line_2vuy], width);
 

@@ -1,8 +1,8 @@
-// A frame cut into slices of lines, one thread each. No routine keeps a pointer or holds a lock, so calls over
+// A frame divided into slices of lines, one thread each. No routine keeps a pointer or holds a lock, so calls over
 // different lines may run at once.
 //
-// Cut where lines stand alone, as they do in tntvt_2vuy_v210. tntvt_rgb32_2vuy and a few others carry a chroma
-// filter from line to line; the header of a routine says so, and such a frame is one call.
+// Divide only where lines are independent, as in tntvt_2vuy_v210. tntvt_rgb32_2vuy and a few others carry a chroma
+// filter from line to line; the header of a routine says so, and such a frame takes one call.
 #include <tintvert.h>
 
 #include <algorithm>

@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     const long rgb_line = width * 3;                /* below width * 4, so that 24-bit pixels are written */
     const size_t v210_bytes = (size_t)(v210_line * height), rgb_bytes = (size_t)(rgb_line * height);
 
-    /* The last pair of a line is written whole: with an odd width three bytes behind the frame are written. */
+    /* The last pair of a line is written whole: with an odd width, three bytes past the end of the frame. */
     unsigned char* const v210 = malloc(v210_bytes);
     unsigned char* const rgb = malloc(rgb_bytes + 3);
     if (v210 == NULL || rgb == NULL) {

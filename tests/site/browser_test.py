@@ -1,4 +1,4 @@
-"""The pages in headless Chromium: silent, and the explorer tells and moves what it should."""
+"""The pages in headless Chromium: no console output, and the explorer shows what it should."""
 
 import pathlib
 import random
@@ -46,9 +46,9 @@ class Console(Browser):
             page.write("<script>throw new Error('on purpose')</script><img src='missing.png'>")
             page.flush()
             self.open(pathlib.Path(page.name))
-            told = " ".join(self.console())
-            self.assertIn("on purpose", told)
-            self.assertIn("missing.png", told)
+            messages = " ".join(self.console())
+            self.assertIn("on purpose", messages)
+            self.assertIn("missing.png", messages)
 
     def test_no_page_says_anything(self):
         for page in sorted(SITE.rglob("*.html")):
@@ -59,7 +59,7 @@ class Console(Browser):
         self.addCleanup(self.driver.execute_cdp_cmd, "Emulation.clearDeviceMetricsOverride", {})
         telephone = {"width": 360, "height": 740, "deviceScaleFactor": 2, "mobile": True}
         self.driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", telephone)
-        pages = ("index", "explorer", "layouts", "names", "peers", "deliberate", "routines/rgb", "routines/tntvt_v210_2vuy")
+        pages = ("index", "explorer", "layouts", "names", "peers", "quirks", "routines/rgb", "routines/tntvt_v210_2vuy")
         for page in pages:
             self.open(page + ".html")
             self.assertEqual(self.driver.execute_script("return document.documentElement.scrollWidth"), 360, page)
@@ -72,19 +72,19 @@ class Console(Browser):
         self.assertIn("tntvt_v210_2vuy", self.find("#search-results li a").text)
 
 
-# Everything that the explorer tells of every bit of a layout: [section, plane, view, byte, bit of it, words, code].
+# All texts of the explorer for every bit of a layout: [section, plane, view, byte, bit of it, words, code].
 ALL_BITS = """
-const told = [];
+const texts = [];
 for (const section of document.querySelectorAll('.choice'))
   Array.from(section.querySelectorAll('.plane')).forEach((plane, p) => {
     for (const bit of plane.querySelectorAll('.bit')) {
       bit.dispatchEvent(new PointerEvent('pointerover', {bubbles: true}));
-      const panel = document.getElementById('told');
-      told.push([section.id, p, bit.dataset.view, Number(bit.dataset.b), Number(bit.dataset.k),
+      const panel = document.getElementById('chosen-bit');
+      texts.push([section.id, p, bit.dataset.view, Number(bit.dataset.b), Number(bit.dataset.k),
                  panel.querySelector('p').textContent, panel.querySelector('code').textContent]);
     }
   });
-return told;
+return texts;
 """
 
 
@@ -116,8 +116,8 @@ class Explorer(Browser):
     def bit(self, byte, bit, view="memory"):
         return self.find(f'.chosen .bit[data-b="{byte}"][data-k="{bit}"][data-view={view}]')
 
-    def told(self):
-        return self.find("#told").text
+    def description(self):
+        return self.find("#chosen-bit").text
 
     def test_begins_with_v210_and_goes_where_a_link_says(self):
         self.assertEqual(self.find(".chosen").get_attribute("id"), "layout-v210")
@@ -133,23 +133,23 @@ class Explorer(Browser):
     def test_the_pointer_over_a_bit_shows_its_sample(self):
         ActionChains(self.driver).move_to_element(self.bit(5, 0)).perform()
         self.assertEqual(
-            self.told(),
+            self.description(),
             "Bit 0 of byte b5 is bit 8 of Y1: 10-bit luma of pixel 1, bits 0 to 9 of word 1.\nY1 = b[4] | (b[5] & 3) << 8",
         )
         self.assertEqual(len(self.driver.find_elements(By.CSS_SELECTOR, ".bit.on")), 20)  # ten bits, drawn twice
         self.assertEqual(len(self.driver.find_elements(By.CSS_SELECTOR, ".bit.at")), 2)
         ActionChains(self.driver).move_to_element(self.bit(3, 7, "word")).perform()
-        self.assertEqual(self.told(), "Bit 7 of byte b3: read by nobody.")
+        self.assertEqual(self.description(), "Bit 7 of byte b3: unused.")
 
     def test_touch_and_keys(self):
         self.choose("2vuy")
         self.bit(1, 7).click()
-        self.assertIn("bit 7 of Y0", self.told())
+        self.assertIn("bit 7 of Y0", self.description())
         self.find(".chosen svg").send_keys(Keys.ARROW_LEFT)
-        self.assertIn("bit 0 of Cb: 8-bit Cb of pixels 0 and 1", self.told())
+        self.assertIn("bit 0 of Cb: 8-bit Cb of pixels 0 and 1", self.description())
 
     def test_every_bit_of_every_layout(self):
-        told = {tuple(row[:5]): row[5:] for row in self.driver.execute_script(ALL_BITS)}
+        texts = {tuple(row[:5]): row[5:] for row in self.driver.execute_script(ALL_BITS)}
         rows = iter(self.driver.execute_script("return Array.from(document.querySelectorAll('.choice'), one => one.id)"))
         random.seed(210)
         expressions = []
@@ -159,20 +159,20 @@ class Explorer(Browser):
             for p, plane in enumerate(planes):
                 for place in range(plane["unit_bytes"] * 8):
                     byte, bit = divmod(place, 8)
-                    words, code = told.pop((section, p, "memory", byte, bit))
+                    words, code = texts.pop((section, p, "memory", byte, bit))
                     self.check_words(words, byte, bit, plane)
                     if code:
                         expressions.append((code.split(" = ")[1], plane, sample_at(plane, byte, bit)[0]))
                     double = plane["word_bytes"] > 1 and plane["byte_order"] == "little"
                     if double:
-                        self.assertEqual(told.pop((section, p, "word", byte, bit)), [words, code])
-        self.assertEqual(told, {})
+                        self.assertEqual(texts.pop((section, p, "word", byte, bit)), [words, code])
+        self.assertEqual(texts, {})
         self.check_values(expressions)
 
     def check_words(self, words, byte, bit, plane):
         sample, i = sample_at(plane, byte, bit)
         if sample is None:
-            self.assertEqual(words, f"Bit {bit} of byte b{byte}: read by nobody.")
+            self.assertEqual(words, f"Bit {bit} of byte b{byte}: unused.")
             return
         pattern = rf"Bit {bit} of byte b{byte} is bit {i} of {sample['component']}\d?: {sample['bits']}-bit .*"
         self.assertRegex(words, pattern)
@@ -191,13 +191,13 @@ class Explorer(Browser):
 
 
 ALL_WIDTHS = """
-const slider = document.getElementById('width'), told = [];
+const slider = document.getElementById('width'), lengths = [];
 for (let width = 1; width <= 4096; ++width) {
   slider.value = width;
   slider.dispatchEvent(new Event('input'));
-  told.push(['of48', 'of64', 'unrounded'].map((id) => Number(document.querySelector(`#${id} output`).textContent)));
+  lengths.push(['of48', 'of64', 'unrounded'].map((id) => Number(document.querySelector(`#${id} output`).textContent)));
 }
-return told;
+return lengths;
 """
 
 

@@ -61,7 +61,7 @@ class Folder:
         return [(str(path.relative_to(self.root)), link) for path, link in found]
 
     def unreached(self, start="index.html"):
-        """Pages to which no way leads from the first."""
+        """Pages that no chain of links reaches from the first."""
         first = self.root / start
         seen, waiting = {first}, [first]
         while waiting:

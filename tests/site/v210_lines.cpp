@@ -14,7 +14,7 @@ size_t room(unsigned width) { return (width + 48) * 16; }
 
 // A frame that is written: its second line begins where a call over two lines first differs from one over one.
 template <class Write>
-void tell_written(const char* name, unsigned width, Write write)
+void print_written(const char* name, unsigned width, Write write)
 {
     Bytes one(room(width), 0x55), two = one;
     write(one.data(), 1);
@@ -24,9 +24,9 @@ void tell_written(const char* name, unsigned width, Write write)
     std::printf("%s %u %zu\n", name, width, at);
 }
 
-// A frame that is read: ones from `at` on give the second line's first pixel as long as `at` is not behind it.
+// A frame that is read: ones from `at` on give the second line's first pixel as long as `at` is not past it.
 template <class Read>
-void tell_read(const char* name, unsigned width, Read read)
+void print_read(const char* name, unsigned width, Read read)
 {
     const auto first_pixel = [&](size_t at) {
         Bytes frame(room(width), 0);
@@ -42,39 +42,39 @@ void tell_read(const char* name, unsigned width, Read read)
     std::printf("%s %u %zu\n", name, width, low);
 }
 
-void tell(unsigned width)
+void print_lines(unsigned width)
 {
     const long w = width;
     Bytes ones(room(width), 0xFF), pixels(width * 8 + 64), narrow(width * 12 + 64);
-    tell_written("tntvt_2vuy_v210", width,
-                 [&](uint8_t* dst, unsigned lines) { tntvt_2vuy_v210(dst, ones.data(), width, lines, 0); });
-    tell_written("tntvt_yuv422_8_yuv422_10", width,
-                 [&](uint8_t* dst, unsigned lines) { tntvt_yuv422_8_yuv422_10(dst, ones.data(), width, lines, 0); });
-    tell_written("tntvt_YCbCr10Packed_to_v210", width,
-                 [&](uint8_t* dst, unsigned lines) { tntvt_YCbCr10Packed_to_v210(dst, ones.data(), width, lines); });
+    print_written("tntvt_2vuy_v210", width,
+                  [&](uint8_t* dst, unsigned lines) { tntvt_2vuy_v210(dst, ones.data(), width, lines, 0); });
+    print_written("tntvt_yuv422_8_yuv422_10", width,
+                  [&](uint8_t* dst, unsigned lines) { tntvt_yuv422_8_yuv422_10(dst, ones.data(), width, lines, 0); });
+    print_written("tntvt_YCbCr10Packed_to_v210", width,
+                  [&](uint8_t* dst, unsigned lines) { tntvt_YCbCr10Packed_to_v210(dst, ones.data(), width, lines); });
     if (width >= 6)  // below that it leaves lines out
-        tell_written("tntvt_rgb32_v210", width,
-                     [&](uint8_t* dst, long lines) { tntvt_rgb32_v210(dst, 0, ones.data(), 0, w, lines); });
-    tell_read("tntvt_v210_2vuy", width, [&](uint8_t* src) {
+        print_written("tntvt_rgb32_v210", width,
+                      [&](uint8_t* dst, long lines) { tntvt_rgb32_v210(dst, 0, ones.data(), 0, w, lines); });
+    print_read("tntvt_v210_2vuy", width, [&](uint8_t* src) {
         tntvt_v210_2vuy(narrow.data(), src, width, 2, 0);
         return narrow[width * 2];
     });
-    tell_read("tntvt_yuv422_10_yuv422_8", width, [&](uint8_t* src) {
+    print_read("tntvt_yuv422_10_yuv422_8", width, [&](uint8_t* src) {
         tntvt_yuv422_10_yuv422_8(narrow.data(), src, width, 2, 0);
         return narrow[width * 2];
     });
     const auto green = [&](long pixel_bytes) { return pixels[static_cast<size_t>(w * pixel_bytes + 1)]; };
-    tell_read("tntvt_yuv422_10_rgb24", width, [&](uint8_t* src) {
+    print_read("tntvt_yuv422_10_rgb24", width, [&](uint8_t* src) {
         tntvt_yuv422_10_rgb24(pixels.data(), w * 3, src, 0, w, 2, 1);
         return green(3);
     });
-    tell_read("tntvt_yuv422_10_rgb32", width, [&](uint8_t* src) {
+    print_read("tntvt_yuv422_10_rgb32", width, [&](uint8_t* src) {
         tntvt_yuv422_10_rgb32(pixels.data(), w * 4, src, 0, w, 2, 1);
         return green(4);
     });
-    // The last packet holds the first pgroup of the second line, if that lies behind the packet.
+    // The last packet holds the first pgroup of the second line, if that is past the end of the packet.
     if (width % 2 == 0 && width >= 576)
-        tell_read("tntvt_v210_frame_to_rtp_4175", width, [&](uint8_t* frame) {
+        print_read("tntvt_v210_frame_to_rtp_4175", width, [&](uint8_t* frame) {
             unsigned short seq = 0;
             unsigned int first = 0, second = 0;
             tntvt_v210_frame_to_rtp_4175(frame, 0, &seq, 0, 0, 0, nullptr, width, 2, &first, &second);
@@ -86,5 +86,5 @@ void tell(unsigned width)
 
 int main()
 {
-    for (unsigned width = 1; width <= 4096; ++width) tell(width);
+    for (unsigned width = 1; width <= 4096; ++width) print_lines(width);
 }

@@ -1,5 +1,5 @@
-"""A layout as SVG, from the samples that the tool tells: bits of little-endian words from the highest to the
-lowest, and bytes as they stand in memory. Every bit is a <rect> that says what it is, for explorer.js."""
+"""A layout as SVG, from the samples in the tool's JSON: bits of little-endian words from the highest to the lowest,
+and bytes in memory order. Every bit is a <rect> with data about its field, for explorer.js."""
 
 from html import escape
 
@@ -49,7 +49,7 @@ def label(plane, field):
 def what(plane, field):
     """A field in words."""
     if not field["component"]:
-        return "read by nobody"
+        return "unused"
     names = {"Y": "luma", "R": "red", "G": "green", "B": "blue", "A": "alpha"}
     name = names.get(field["component"], field["component"])
     across, down = plane["pixels_across"], plane["pixels_down"]
@@ -166,7 +166,7 @@ def draw_plane(plane, x, y, title):
 
 
 def draw_form(layout, form):
-    """One SVG; planes of a byte stand side by side, three in a line."""
+    """One SVG; planes of a byte are side by side, three in a row."""
     planes = [with_unused(plane) for plane in form["planes"]]
     parts, x, y, right, bottom = [], 0, 0, 0, 0
     for number, plane in enumerate(planes):

@@ -1,4 +1,4 @@
-"""What the site tells: the catalogue from the tool's JSON, and what was compared with peers from docs/peers.md."""
+"""The data of the site: the catalogue from the tool's JSON, and the comparisons with peers from docs/peers.md."""
 
 import json
 import re
@@ -21,7 +21,7 @@ def ask(tool, *arguments):
 
 
 def routines(tool):
-    """In the order of the catalogue; `call` is what `explain` tells of a frame of the example's size."""
+    """In the order of the catalogue; `call` is the output of `explain` for a frame of the example's size."""
     names = [routine["name"] for routine in ask(tool, "list")["routines"]]
     return [ask(tool, "show", name)["routine"] | {"call": ask(tool, "explain", name, "--size", EXAMPLE)} for name in names]
 
@@ -48,7 +48,7 @@ def table_rows(text):
 
 
 def peers(text, known):
-    """Rows by routine; one without names goes on with those of the row above."""
+    """Rows by routine; a row without names continues the row above."""
     result, last = {}, []
     for row in table_rows(text):
         if row.cells[0]:

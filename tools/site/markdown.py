@@ -4,7 +4,7 @@ import re
 
 
 class Links:
-    """Routines and layouts by name, with the way to their pages from the page that is written."""
+    """Routines and layouts by name, with the path to their pages from the page that is written."""
 
     def __init__(self, routines, layouts, root):
         self.targets = {name: f"{root}layouts.md#{name.lower()}" for name in layouts}
@@ -46,7 +46,7 @@ def escaped(text):
 
 
 def documentation(text, links, besides):
-    """A comment of a header: indented lines are tables to be kept as they stand."""
+    """A comment of a header: indented lines are tables and stay as they are."""
     blocks, kept = [], None
     for line in text.split("\n"):
         table = line.startswith("  ")

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the pages of the site, in Markdown, from docs/ and from what the tool tells.
+"""Writes the pages of the site, in Markdown, from docs/ and the tool's JSON.
 
 pages.py TOOL REPOSITORY OUTPUT
 """
@@ -38,12 +38,12 @@ V210_LINES = {
 
 BY_THE_TOOL = """, as `tintvert layouts` prints it. This page is made by
 `tintvert layouts --markdown`."""
-BY_THE_SITE = """, drawn from the catalogue. A bit tells what it is when the
-pointer is over it, and in the [explorer](explorer.md) also when it is touched."""
+BY_THE_SITE = """, drawn from the catalogue. Point at a bit to see what it
+is; in the [explorer](explorer.md) touch it or use the arrow keys."""
 
 NAMES = """# Names elsewhere
 
-The layouts by the names that they have in other software. Where there is no name the place is empty.
+The layouts by the names that they have in other software. Where there is no name the cell is empty.
 
 | Layout | FFmpeg | GStreamer | FourCC | libyuv | What it is |
 |---|---|---|---|---|---|
@@ -70,7 +70,7 @@ class Site:
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text)
 
-    # The pages of the repository, and those that stand in its root.
+    # The pages of docs/, and those in the root of the repository.
 
     def copy_docs(self):
         for page in (self.repository / "docs").iterdir():
@@ -172,7 +172,7 @@ class Site:
         return "\n\n".join(filter(None, parts)) + "\n"
 
     def sides(self, routine):
-        """What is read and what is written, drawn beside each other."""
+        """What is read and what is written, side by side."""
         sides = ""
         for side in ("reads", "writes"):
             name = routine[side]
@@ -186,7 +186,7 @@ class Site:
     def peers_of(self, routine, links):
         rows = self.peers.get(routine["name"], [])
         if not rows:
-            return "## Peers\n\nNot compared with other software; [Peers](../peers.md) tells what is."
+            return "## Peers\n\nNot compared with other software; [Peers](../peers.md) lists what is."
         lines = "".join(
             f"| {row.section} | {row.cells[1]} | {links.mark(row.cells[2], routine['name'])} |\n" for row in rows
         )
@@ -244,7 +244,7 @@ def extents(routine):
     title = f"## Extents of a {facts.EXAMPLE.replace('x', ' x ')} frame\n\n"
     buffers = [one for one in call["buffers"] if one["read"] or one["written"]]
     if not buffers:
-        return title + "It touches no buffer of the caller."
+        return title + "It accesses no buffer of the caller."
     numbers = ", ".join(f"`{name}` {value}" for name, value in call["arguments"].items())
     given = f", with {numbers}" if numbers else ""
     rows = "".join(
@@ -260,7 +260,7 @@ def extents(routine):
 def quirks(routine, links):
     rows = routine["call"]["deliberate"]
     lines = [f"- `{row['name']}`: {links.mark(row['what'], routine['name'])}" for row in rows]
-    title = "## Quirks quirks\n\n"
+    title = "## Quirks\n\n"
     return title + "\n".join(lines) + "\n\n[What these names are](../quirks.md)" if lines else ""
 
 

@@ -1,4 +1,4 @@
-// Bits that tell what they are, and the line lengths of v210 by width.
+// Descriptions of bits, and the line lengths of v210 by width.
 "use strict";
 
 const all = (from, selector) => Array.from(from.querySelectorAll(selector));
@@ -11,7 +11,7 @@ function fieldOf(bit) {
 
 const bitsOfField = (bit) => all(bit.closest(".plane"), `.bit[data-s="${bit.dataset.s}"]`);
 
-// What a program computes to have the sample: each byte masked and shifted to its place.
+// The expression that computes the sample: each byte masked and shifted into place.
 function expression(bit) {
   const bytes = new Map();
   for (const one of bitsOfField(bit)) {
@@ -44,13 +44,13 @@ function paragraphs(bit) {
 }
 
 // The panel of the explorer, or the title of the picture where there is none.
-function tell(bit) {
+function describe(bit) {
   all(document, ".bit.on, .bit.at").forEach((other) => other.classList.remove("on", "at"));
   const same = `[data-b="${bit.dataset.b}"][data-k="${bit.dataset.k}"]`;
   bitsOfField(bit).forEach((one) => one.classList.add("on"));
   all(bit.closest(".plane"), `.bit${same}`).forEach((one) => one.classList.add("at"));
   const [first, second] = paragraphs(bit);
-  const panel = document.getElementById("told");
+  const panel = document.getElementById("chosen-bit");
   if (!panel) {
     bit.replaceChildren(Object.assign(document.createElementNS("http://www.w3.org/2000/svg", "title"), { textContent: first }));
     return;
@@ -66,12 +66,12 @@ function walk(event) {
   if (!(event.key in steps) || bits.length === 0) return;
   event.preventDefault();
   const at = bits.findIndex((bit) => bit.classList.contains("at"));
-  tell(bits[at < 0 ? 0 : (at + steps[event.key] + bits.length) % bits.length]);
+  describe(bits[at < 0 ? 0 : (at + steps[event.key] + bits.length) % bits.length]);
 }
 
 function wake(picture) {
   for (const kind of ["pointerover", "click"])
-    picture.addEventListener(kind, (event) => event.target.matches(".bit") && tell(event.target));
+    picture.addEventListener(kind, (event) => event.target.matches(".bit") && describe(event.target));
   picture.addEventListener("keydown", walk);
 }
 
@@ -81,7 +81,7 @@ function choose(id) {
   all(document, ".choice").forEach((one) => one.classList.toggle("chosen", one === choice));
   document.getElementById("layout").value = id;
   const hint = Object.assign(document.createElement("p"), { className: "hint", textContent: "No bit is chosen." });
-  document.getElementById("told").replaceChildren(hint);
+  document.getElementById("chosen-bit").replaceChildren(hint);
 }
 
 function startExplorer(select) {
@@ -99,7 +99,7 @@ function lineLengths(width) {
   return { of48: Math.floor((width + 47) / 48) * 128, of64: Math.floor((tight + 63) / 64) * 64, unrounded: tight };
 }
 
-// The ends of the three lines, 512 bytes wide: all that differs lies there.
+// The ends of the three lines, 512 bytes wide: all differences are there.
 function drawLengths(width) {
   const lengths = lineLengths(width);
   const pixels = Math.ceil(width / 6) * 16;
@@ -111,12 +111,12 @@ function drawLengths(width) {
     const track = bar.querySelector(".track");
     track.style.setProperty("--length", percent(length));
     track.style.setProperty("--pixels", percent(Math.min(pixels, length)));
-    track.style.setProperty("--reach", percent(Math.max(pixels, length)));
+    track.style.setProperty("--overrun", percent(Math.max(pixels, length)));
   }
   const surplus = pixels - lengths.unrounded;
-  const reach = surplus > 0 ? ` The last of them ends ${surplus} bytes behind the truncated line.` : "";
+  const overrun = surplus > 0 ? ` The last of them ends ${surplus} bytes past the end of the truncated line.` : "";
   document.getElementById("pixels-end").textContent =
-    `Drawn: bytes ${from} to ${from + 511}. ${pixels / 16} groups of six pixels take ${pixels} bytes.${reach}`;
+    `Drawn: bytes ${from} to ${from + 511}. ${pixels / 16} groups of six pixels take ${pixels} bytes.${overrun}`;
 }
 
 function startLengths(slider) {

@@ -1,5 +1,5 @@
 # Draws docs/performance.svg from the rows that `tintvert_bench --docs` leaves: a routine, its scalar version and its
-# widest level beside memcpy of the same bytes.
+# highest level beside memcpy of the same bytes.
 rows = system("wc -l < docs/performance.dat")
 set terminal svg noenhanced size 900, 120 + rows * 14 dynamic font "sans-serif,10" background "white"
 set output "docs/performance.svg"
@@ -12,4 +12,4 @@ set grid x
 set key top right
 set lmargin 34
 plot "docs/performance.dat" using 2:(rows - 1 - $0):ytic(1) with points pt 6 ps 0.6 lc rgb "#999999" title "scalar version", \
-     "" using 3:(rows - 1 - $0) with points pt 7 ps 0.6 lc rgb "#1f6fb4" title "widest level"
+     "" using 3:(rows - 1 - $0) with points pt 7 ps 0.6 lc rgb "#1f6fb4" title "highest level"

@@ -97,11 +97,11 @@ Every memory layout that the routines read and write, as `tintvert layouts` prin
 Bytes are counted from the lowest address, b0 first; bits are drawn from the highest to the lowest. Words are
 little-endian unless a layout says otherwise. No layout needs its lines to be aligned, and a line has no
 padding of its own. The channel letters in a name follow three different readings (word order, memory order,
-and the order of the line routines), so trust the picture and not the name: `rgb32` is FFmpeg's `bgra`, and
+and the order of the line routines), so read the picture and not the name: `rgb32` is FFmpeg's `bgra`, and
 `bgra32` is not the `BGRA` of the line routines. Range, video or full, is a property of the routine that
 writes.
 
-Three default line lengths of `v210` stand beside each other: 128 bytes for each 48 pixels
+`v210` has three default line lengths: 128 bytes for each 48 pixels
 (`tntvt_rgb32_v210`, `tntvt_YCbCr10Packed_to_v210`, `tntvt_v210_frame_to_rtp_4175`, the `tntvt_yuv422_10_`
 entries), `width` x 16 / 6 rounded up to 64 bytes (`tntvt_2vuy_v210`), and `width` x 16 / 6 truncated
 (`tntvt_v210_2vuy`). At 1920 pixels all give 5120; at 1280 they give 3456, 3456 and 3413; at 100 they give

@@ -9,7 +9,7 @@ TNTVT_BEGIN
 /* 32-bit pixels b0, b1, b2, b3 (lowest address first) to b1, b2, b3, b0: one run, destination first.
  *
  * The letters in the names of this routine and the ten that follow are the bytes of the word from the most significant
- * down, and do not tell what a routine does: read its comment.
+ * down, and do not say what a routine does: read its comment.
  *
  * First pixel first, and each pixel is read whole before it is written. In place the result is the same as with two
  * buffers; where the runs overlap otherwise, a later read sees earlier writes. `pixels` of 0 does nothing. */
@@ -374,8 +374,8 @@ TNTVT_API void tntvt_argb64be_rgb24(void* dst, long dstStride, void* src, long s
 /* `rgb10` (words of three 10-bit fields: field 1 in bits 31 to 22, field 2 in 21 to 12, field 3 in 11 to 2) to
  * `rgba64`.
  *
- * The fields are not spread over 16 bits. Three channels are cut out of the word w, V1 = (w >> 16) & 0xFF30, V2 = (w >>
- * 6) & 0xFF30, V3 = (w >> 4) & 0xFF30, where V3 begins two bits into field 2, and written as V3, V2, V1, 0xFFFF.
+ * The fields are not spread over 16 bits. Three channels are extracted from the word w, V1 = (w >> 16) & 0xFF30, V2 =
+ * (w >> 6) & 0xFF30, V3 = (w >> 4) & 0xFF30, where V3 begins two bits into field 2, and written as V3, V2, V1, 0xFFFF.
  *
  * Both frames are tight, `width` pixels a line with no gap; the strides are ignored. A `width` or `height` below 1 does
  * nothing. A non-zero `swapBytes` means big-endian words. The order of the source lines depends on both flags: with

@@ -12,7 +12,8 @@ TNTVT_BEGIN
  *
  * `width` and `height` are those of the source. A `scale` of 2 or 4 shrinks the picture in both directions by
  * dropping lines, pairs and second pixels, with no filter; any other `scale` drops lines by its number and keeps
- * every pixel of a line. Only whole groups of `scale` lines yield an output line.
+ * every pixel of a line. Only whole groups of `scale` lines yield an output line. A line yields half of `width`,
+ * rounded up, at 2, and half of `width` / 2, rounded up, at 4.
  *
  * Lines are at the start of their strides. An odd `width` processes its last pair whole: one pixel more is read and,
  * at `scale` 1, written. A `width` below 1 and a `height` that yields no line, negative ones included, do nothing. A

@@ -401,9 +401,8 @@ TNTVT_API void tntvt_rgb10_rgb48(void* dst, long dstStride, void* src, long srcS
 TNTVT_API void tntvt_rgb10_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned char swapBytes, unsigned char flipLines);
 
-/* `rgb12` to 16-bit words with the low four bits zero, in the order of the samples. Sample n of a line is bits 12n to
- * 12n
- * + 11 of its little-endian words, and the samples of a pixel are red, green, blue.
+/* `rgb12` to `bgr48`: 16-bit words with the low four bits zero, in the order of the samples. Sample n of a line is bits
+ * 12n to 12n + 11 of its little-endian words, and the samples of a pixel are red, green, blue.
  *
  * Lines are at the start of their strides. The sign of `height` is ignored. A line is processed in rounds of 8 samples,
  * 12 bytes in and 16 out, each read before it is written; the round with sample 3 x `width` - 1 is the last, and is
@@ -505,11 +504,11 @@ TNTVT_API void tntvt_rle4_rgb32(void* dst, long dstStride, void* src, long srcSt
  * truncated. No value is changed and no alpha is made: 4 to 3 drops the fourth byte, 3 to 4 leaves the destination's
  * fourth byte as it was.
  *
- * Sides of equal strides (but 3 to 4 and 4 to 3) are one CopyMemoryFast of bytes a pixel x `width` x `height` bytes, a
- * 32-bit product with `height` unchecked: slack is copied too, and a frame that has it loses its last lines. 3 to 3
- * with different strides moves 3 bytes a pixel, and any other pair with different strides a 32-bit word a pixel,
- * whatever the sizes. These copy line by line, from the last to the first, each at the start of its stride; a `height`
- * or `width` below 1 does nothing there.
+ * Sides of equal strides are one CopyMemoryFast of bytes a pixel x `width` x `height` bytes, a 32-bit product with
+ * `height` unchecked: slack is copied too, and a frame that has it loses its last lines. With different strides it
+ * copies line by line, from the last to the first, each at the start of its stride: 3 to 3 moves 3 bytes a pixel, and 4
+ * to 4 and every other pair a 32-bit word a pixel, whatever the sizes. A `height` or `width` below 1 does nothing
+ * there.
  *
  * A null `dst` or `src`, or the same buffer with the same stride on both sides, does nothing. In any other call a
  * `width` of 0 divides by zero.

@@ -18,6 +18,11 @@
 #ifndef TINTVERT_H
 #define TINTVERT_H
 
+/* The version of these headers. */
+#define TINTVERT_VERSION_MAJOR 1
+#define TINTVERT_VERSION_MINOR 0
+#define TINTVERT_VERSION_PATCH 0
+
 #include <tintvert/decode.h>
 #include <tintvert/export.h>
 #include <tintvert/field.h>

@@ -12,7 +12,10 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(TINTVERT_WERROR)
+  add_compile_options(-Werror)
+endif()
 
 # The matrices are double precision in a stated order. A fused multiply-add rounds once where the
 # formulas round twice and moves a truncation by one code, so contraction stays off everywhere.
@@ -35,4 +38,14 @@ if(TINTVERT_SANITIZE)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     add_compile_options(-Wno-pass-failed)  # loops that are watched are not widened
   endif()
+endif()
+
+# What a bug could be used for is limited. The fortified functions of the C library need an optimizing compiler, and the
+# sanitizers check more by themselves.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection TINTVERT_HAS_CF_PROTECTION)
+add_compile_options(-fstack-protector-strong $<$<BOOL:${TINTVERT_HAS_CF_PROTECTION}>:-fcf-protection>)
+add_link_options(LINKER:-z,relro LINKER:-z,now)
+if(NOT TINTVERT_SANITIZE)
+  add_compile_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
 endif()

@@ -6,7 +6,7 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tintvert)
 
 # A library as tintvert::<name>, with its folder of public headers.
 function(tintvert_install_library target name headers)
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} INSTALL_RPATH "$ORIGIN")
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
   install(TARGETS ${target} EXPORT tintvert_targets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(DIRECTORY ${headers}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 endfunction()
@@ -41,8 +41,6 @@ foreach(name tintvert tintvert-checked)
 endforeach()
 
 if(TINTVERT_TOOL)
-  file(RELATIVE_PATH to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-  set_target_properties(tintvert_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
   install(TARGETS tintvert_tool)
   include(cmake/pages.cmake)
 endif()

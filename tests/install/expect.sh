@@ -1,5 +1,6 @@
 # Sourced by the scripts beside it.
 set -euo pipefail
+export CMAKE_GENERATOR=Ninja  # CMake's own choice is make, which building needs nowhere else
 unset CMAKE_PREFIX_PATH PKG_CONFIG_PATH LD_LIBRARY_PATH LD_PRELOAD
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 

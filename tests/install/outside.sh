@@ -4,6 +4,9 @@
 #   outside.sh BUILD CC CXX
 . "$(dirname "$0")/expect.sh"
 build=$1 cc=$2 cxx=$3
+# Without optimization some of the flags have no effect.
+hardened=(--hardened)
+grep -qE '^CMAKE_BUILD_TYPE:[A-Z]+=(Debug)?$' "$build/CMakeCache.txt" && hardened=()
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -30,9 +33,11 @@ tntvt_v210_rgb24: a `scale` of 0 divides by zero' "$1/checked"
 
 by_find_package() {
   rm -rf "$work/cmake"
-  cmake -S "$project/examples" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$1" -DCMAKE_C_COMPILER="$cc" \
+  cmake -S "$project/examples" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$1" -DCMAKE_C_COMPILER="$cc" \
     -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF >/dev/null
   cmake --build "$work/cmake" >"$work/cmake.txt" || fail "find_package: $(cat "$work/cmake.txt")"
+  "$project/tests/install/elf.sh" "$work"/cmake/{readme,bars,v210_to_ppm,slices,green,checked,checked_in_c} \
+    "$work/cmake/own/libkmrutil.so" || fail 'a RUNPATH of the examples'
   run_all "$work/cmake" "$work/cmake/own"
 }
 
@@ -67,7 +72,7 @@ by_the_docs() {
   mkdir "$work/docs"
   cp "$project/examples/readme.cpp" "$work/docs/app.cpp"
   sed -n "/${fence}cmake/,/$fence\$/{/$fence/!p}" "$project/docs/installing.md" >"$work/docs/CMakeLists.txt"
-  cmake -S "$work/docs" -B "$work/docs/build" -G Ninja -DCMAKE_PREFIX_PATH="$1" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
+  cmake -S "$work/docs" -B "$work/docs/build" -DCMAKE_PREFIX_PATH="$1" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
   cmake --build "$work/docs/build" >/dev/null
   expect '99 81 211 81' "$work/docs/build/app"
   sed -n "/^By pkg-config/,/$fence\$/{/^By\|$fence/!p}" "$project/docs/installing.md" |
@@ -107,6 +112,9 @@ looks() {
   local known
   known=$(grep -rIlF -e "$project" -e "$build" -e "$work" "$1" || true)
   same '' 'the text that knows its place' "$known"
+  local programs=("$lib"/*.so)
+  [ ! -e "$1/bin/tintvert" ] || programs+=("$1/bin/tintvert")
+  "$project/tests/install/elf.sh" "${hardened[@]}" "${programs[@]}" || fail 'what is installed is not hardened'
   readelf -d "$lib/libtintvert.so" | grep -qF 'runpath: [$ORIGIN]' || fail 'libtintvert looks for its companions elsewhere'
   if [ -e "$1/bin/tintvert" ]; then
     same 'tintvert 1.0.0' 'what the tool calls itself' "$("$1/bin/tintvert" --version | head -n 1)"

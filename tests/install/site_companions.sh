@@ -18,7 +18,7 @@ find_package(tintvert 1 REQUIRED)
 add_executable(calls $site/calls.c)
 target_link_libraries(calls PRIVATE tintvert::tintvert)
 END
-  cmake -S "$work/program" -B "$work/program/build" --fresh -G Ninja -DCMAKE_PREFIX_PATH="$2" \
+  cmake -S "$work/program" -B "$work/program/build" --fresh -DCMAKE_PREFIX_PATH="$2" \
     -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
   cmake --build "$work/program/build" >/dev/null || fail "the program does not build against $2"
   expect "$1" "$work/program/build/calls"
@@ -33,9 +33,9 @@ done
 
 options=(-DCMAKE_BUILD_TYPE=Release -DTINTVERT_TOOL=OFF -DTINTVERT_COMPANIONS=SYSTEM -DCMAKE_C_COMPILER="$cc"
   -DCMAKE_CXX_COMPILER="$cxx")
-refuse cmake -S "$project" -B "$work/build" -G Ninja "${options[@]}"
-refuse cmake -S "$project" -B "$work/build" --fresh -G Ninja -DTINTVERT_TOOL=OFF -DTINTVERT_COMPANIONS=MINE
-cmake -S "$project" -B "$work/build" --fresh -G Ninja "${options[@]}" -DCMAKE_PREFIX_PATH="$work/site" >/dev/null
+refuse cmake -S "$project" -B "$work/build" "${options[@]}"
+refuse cmake -S "$project" -B "$work/build" --fresh -DTINTVERT_TOOL=OFF -DTINTVERT_COMPANIONS=MINE
+cmake -S "$project" -B "$work/build" --fresh "${options[@]}" -DCMAKE_PREFIX_PATH="$work/site" >/dev/null
 cmake --build "$work/build" >/dev/null
 cmake --install "$work/build" --prefix "$work/theirs" >/dev/null
 same '' 'what of our companions is installed' "$(find "$work/theirs" -name 'libzk*' -o -name 'libkm*' -o -name 'libyc*')"

@@ -8,17 +8,14 @@ packages=$1
 skip() { echo "clean root: skipped, $*"; exit 0; }
 fail() { echo "clean root: $*" >&2; exit 1; }
 
-# The release and the mirror of this machine's own apt.
-. /etc/os-release
-mirror=$(apt-get indextargets --format '$(CODENAME) $(COMPONENT) $(REPO_URI)' 'Created-By: Packages' |
-  awk -v codename="${VERSION_CODENAME:-}" '$1 == codename && $2 == "main" { print $3; exit }')
+. "$(dirname "$0")/../../scripts/lib/mirror.sh"
 [ "$(id -u)" -eq 0 ] || skip 'it takes the superuser'
 command -v debootstrap >/dev/null || skip 'debootstrap is not installed'
-[ -n "$mirror" ] || skip "apt knows no mirror of '${VERSION_CODENAME:-}'"
+[ -n "$mirror" ] || skip "apt knows no mirror of '$release'"
 
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
-debootstrap --variant=minbase "$VERSION_CODENAME" "$root" "$mirror" >"$root.log" 2>&1 || fail "$(tail -n 5 "$root.log")"
+debootstrap --variant=minbase "$release" "$root" "$mirror" >"$root.log" 2>&1 || fail "$(tail -n 5 "$root.log")"
 rm "$root.log"
 
 in_root() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C DEBIAN_FRONTEND=noninteractive "$@"; }
@@ -33,6 +30,8 @@ apt update
 # The tool brings its libraries along.
 mapfile -t tool < <(debs tintvert libtintvert1 libtintvert-companions)
 apt install "${tool[@]}"
+"$(dirname "$0")/../install/elf.sh" --hardened "$root"/usr/bin/tintvert "$root"/usr/lib/*/lib{tintvert,zkutil,kmrutil,ycbcr}.so.1 ||
+  fail 'what is shipped is not hardened'
 version=$(in_root tintvert --version)
 [ "${version%%$'\n'*}" = 'tintvert 1.0.0' ] || fail "the tool does not tell its version: $version"
 ! grep without <<<"$version" || fail 'the tool is built without a library that it could have'

@@ -7,8 +7,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "support/fence.h"
-
 namespace tintvert::test {
 namespace {
 
@@ -161,66 +159,6 @@ TEST_F(Wraps, offsets_of_mirrored_lines)
     EXPECT_EQ(pixel(half + 4), 0u);
     EXPECT_EQ(pixel(half + 12), pixel_of(33));
     EXPECT_EQ(pixel(whole + 8), 0u);
-}
-
-// The strides of mixing, copying and dissolving are 64-bit: a line of the fields, too, is where all of it says.
-TEST_F(Wraps, strides_beyond_32_bits)
-{
-    constexpr long stride = whole + 8;
-    unsigned char near[64];
-    fill_near(near);
-    tntvt_fld_sep_to_mix32(far, stride, near, near + 32, 4, 1, 3);
-    EXPECT_EQ(pixel(0), pixel_of(1));
-    EXPECT_EQ(pixel(stride), pixel_of(33));
-    EXPECT_EQ(pixel(2 * stride), pixel_of(5));
-    EXPECT_EQ(pixel(8), 0u);
-
-    unsigned char first[16] = {}, second[16] = {};
-    tntvt_fld_mix_to_sep32(first, second, 4, far, stride, 1, 3);
-    EXPECT_EQ(std::memcmp(first, near, 8), 0);
-    EXPECT_EQ(std::memcmp(second, near + 32, 4), 0);
-
-    unsigned char frame[16] = {};
-    tntvt_fld_sep_to_mix32(frame, 4, far, near, stride, 1, 3);
-    EXPECT_EQ(std::memcmp(frame, near, 4), 0);
-    EXPECT_EQ(std::memcmp(frame + 8, near + 32, 4), 0);
-    tntvt_fld_mix_to_sep32(far, second, stride, near, 4, 1, 3);
-    EXPECT_EQ(pixel(stride), pixel_of(9));
-
-    // Dissolved with lines of 0 in a memory of its own.
-    std::memset(far, 0, 16), std::memset(far + stride, 40, 4), std::memset(far + 8, 40, 4);
-    ASSERT_EQ(tntvt_copy_dissolve(far + 16, far, stride, 2, 2, 0x79757632), 0);
-    EXPECT_EQ(pixel(stride + 16), 0x14141414u);
-    EXPECT_EQ(pixel(24), 0u);
-}
-
-// Equal in 32 bits and 4 bytes apart in 64: two strides, two copies of the smaller one.
-TEST_F(Wraps, strides_are_compared_in_64_bits)
-{
-    unsigned char near[64];
-    fill_near(near);
-    tntvt_copy_interleaved(far, whole + 4, near, 4, 0, 2);
-    EXPECT_EQ(pixel(0), pixel_of(1));
-    EXPECT_EQ(pixel(4), 0u);
-    EXPECT_EQ(pixel(whole + 4), pixel_of(5));
-    unsigned char back[16] = {};
-    tntvt_copy_interleaved(back, 4, far, whole + 4, 0, 2);
-    EXPECT_EQ(std::memcmp(back, near, 8), 0);
-}
-
-// Widths, pitches and byte counts of 2^31 and more are large numbers, none below 0.
-TEST_F(Wraps, lines_of_2_to_the_31_bytes_are_work)
-{
-    ASSERT_EQ(mprotect(far + 4096, reach - 4096, PROT_NONE), 0);
-    // 0x30000000 pixels are 0xC0000000 bytes, and two lines of 0x80000000 have 0x20000000 pixels to average.
-    EXPECT_TRUE(faults([&] { tntvt_change_field_rgb(far, 4, 0x30000000, 2, 0, nullptr, 0); }));
-    EXPECT_TRUE(faults([&] { tntvt_change_field_rgb(far, 11, 0, 2, 0x80000000, far, 0); }));
-    for (const unsigned int width : {0x20000000u, 0x80000000u, 0xFFFFFFFFu})
-        for (const int mode : {0, 2, 17})
-            EXPECT_TRUE(faults([&] { tntvt_deinterlace_rgb(far, far, width, 1, 4096, 0, 0, 0, mode); })) << width;
-    for (const unsigned int fourcc : {0x79757632u, 0x30313276u, 0x30313272u, 0x41524742u})
-        EXPECT_TRUE(faults([&] { tntvt_copy_dissolve(far, far, 4096, static_cast<long>(whole), 1, fourcc); }))
-            << fourcc;
 }
 
 }  // namespace

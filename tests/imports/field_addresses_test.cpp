@@ -94,6 +94,50 @@ TEST_F(FieldAddresses, of_split_fields)
     EXPECT_EQ(six[5], copy(place("dst", 2 * uint64_t{to_pitch}), place("src", 0x80000014)));
 }
 
+// Lines of 0x80000010 bytes: 0, 0x80000010, 2 x that is 0x20, 3 x 0x80000030 and 4 x 0x40.
+TEST_F(FieldAddresses, of_flipped_lines)
+{
+    tntvt_flip_vert(dst, src, 0, 3, to_pitch);
+    EXPECT_EQ(calls().log, (Log{copy("dst", "src+32", to_pitch), copy(to(1), "src+2147483664", to_pitch),
+                                copy(to(2), "src", to_pitch)}));
+    SetUp();
+    tntvt_flip_vert_flags(dst, src, 0, 0, 3, to_pitch, from_pitch, 0, 1);
+    EXPECT_EQ(calls().log, (Log{copy("dst", from(2)), copy(to(1), from(1)), copy(to(2), "src")}));
+    SetUp();
+    const auto scratch = [](unsigned int) { return reinterpret_cast<void*>(uintptr_t{1} << 42); };
+    calls().allocate = scratch;
+    tntvt_flip_vert(dst, dst, 0, 5, to_pitch);
+    const Log turned = {"ZKAlloc(2147483665)",
+                        copy("elsewhere", "dst", to_pitch),
+                        copy("dst", "dst+64", to_pitch),
+                        copy("dst+64", "elsewhere", to_pitch),
+                        copy("elsewhere", to(1), to_pitch),
+                        copy(to(1), to(3), to_pitch),
+                        copy(to(3), "elsewhere", to_pitch),
+                        "ZKFree(elsewhere)"};
+    EXPECT_EQ(calls().log, turned);
+    SetUp();
+    calls().allocate = scratch;
+    tntvt_flip_vert_flags(dst, dst, 0, 0, 5, to_pitch, to_pitch, 0x1000000, 0);
+    EXPECT_EQ(calls().log, turned);
+}
+
+// A destination pitch of 2^31 and more is above a source pitch of 4: the margin is no number below 0.
+TEST_F(FieldAddresses, of_lines_after_a_margin_of_2_to_the_31)
+{
+    const auto placed = [&](unsigned int pitch, unsigned int flags) {
+        SetUp();
+        tntvt_flip_vert_flags(dst, src, 0, 0, 1, pitch, 4, flags, 1);
+        return calls().log;
+    };
+    EXPECT_EQ(placed(0x80000007, 0x1000000), Log{copy("dst+2147483651", "src", 4)});
+    EXPECT_EQ(placed(0x80000007, 0x2000000), Log{copy("dst", "src", 4)});
+    EXPECT_EQ(placed(0x80000007, 0x4000000), Log{copy("dst+1073741826", "src", 4)});
+    EXPECT_EQ(placed(0x80000007, 0x8000000), Log{copy("dst+1073741825", "src", 4)});
+    EXPECT_EQ(placed(0xFFFFFFFF, 0x1000000), Log{copy("dst+4294967291", "src", 4)});
+    EXPECT_EQ(placed(0xFFFFFFFF, 0x4000000), Log{copy("dst+2147483646", "src", 4)});
+}
+
 // Each of the two copies of a repeated line is left out by itself where its two addresses are one.
 TEST_F(FieldAddresses, a_repeated_line_is_copied_onto_neither_of_its_places)
 {

@@ -191,7 +191,7 @@ TEST(Rle8Edges, lines_are_counted_in_64_bits)
 }
 
 // Line 0 of 2^29 + 1 is 2^29 strides of 8 from `dst`, which is 2^32 bytes.
-TEST(Rle8Edges, lines_are_placed_in_64_bits)
+TEST(Rle8Edges, a_line_2_to_the_32_bytes_away)
 {
     const FencedBuffer dst({0, (1l << 32) + 4096}, 4096, Side::above, Closed::wholly);
     Bytes stream{1, 1, 0, 1}, palette = palette_of(4);

@@ -109,5 +109,29 @@ TEST(FieldNumberWidths, lines_of_2_to_the_31_bytes_are_work)
         EXPECT_TRUE(faults([&] { tntvt_flip_horz(frame, frame, width, 1, 0); })) << width;
 }
 
+// Choices are asked whole: a number whose low byte or half says something else is another number.
+TEST(FieldNumberWidths, choices_are_asked_whole)
+{
+    for (const int keep : {0x100, 0x10000, -2147483647 - 1}) {
+        Bytes src = counted(2, 1), dst(6, 0xEE);
+        tntvt_flip_vert_flags(dst.data(), src.data(), 0, 0, 1, 6, 2, 0x1000000, keep);
+        EXPECT_EQ(dst, (Bytes{0xEE, 0xEE, 0xEE, 0xEE, 1, 2})) << keep;
+    }
+    // Line 2 stands out, and so line 1 becomes its mean with itself in every mode but 17 and 2, which also changes
+    // line 2. Modes 16 and 17 copy the slack of a line.
+    for (const int other : {0x100, 0x10000, -2147483647 - 1})
+        for (const int mode : {2, 16, 17}) {
+            Bytes src(45, 10), dst(45, 0xEE), expected = src;
+            std::memset(&src[18], 200, 8), std::memset(&expected[18], 200, 8);
+            std::memset(&expected[9], 200, 3), std::memset(&expected[12], 0, 5);
+            for (size_t line = 0; line < 5; ++line) expected[9 * line + 8] = 0xEE;
+            EXPECT_EQ(tntvt_deinterlace_rgb(dst.data(), src.data(), 1, 5, 9, 0, 0, 0, mode | other), 0);
+            EXPECT_EQ(dst, expected) << (mode | other);
+        }
+    for (const unsigned int high : {0x100u, 0x10000u, 0x80000000u})
+        for (unsigned int mode = 1; mode <= 14; ++mode)
+            EXPECT_EQ(tntvt_change_field_rgb(nullptr, mode | high, 1, 4, 4, nullptr, 4), 0) << mode;
+}
+
 }  // namespace
 }  // namespace tintvert::test

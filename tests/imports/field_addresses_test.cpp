@@ -138,6 +138,18 @@ TEST_F(FieldAddresses, of_lines_after_a_margin_of_2_to_the_31)
     EXPECT_EQ(placed(0xFFFFFFFF, 0x4000000), Log{copy("dst+2147483646", "src", 4)});
 }
 
+// Sizes of 2^31 bytes and more are copied whole, and these two go on to the next line by a pointer or 64 bits.
+TEST_F(FieldAddresses, of_long_lines_that_do_not_wrap)
+{
+    EXPECT_EQ(tntvt_deinterlace_rgb(dst, src, 0, 3, to_pitch, 0, 0, 0, 16), 0);
+    EXPECT_EQ(calls().log, (Log{copy("dst", "src", to_pitch), copy("dst+4294967328", "src+4294967328", to_pitch)}));
+    SetUp();
+    tntvt_fld_sep_to_mix32(dst, 0x80000004, src, src + 16, 0x80000008, 0x20000001, 4);
+    EXPECT_EQ(calls().log, (Log{copy("dst", "src", 0x80000004), copy("dst+2147483652", "src+16", 0x80000004),
+                                copy("dst+4294967304", "src+2147483656", 0x80000004),
+                                copy("dst+6442450956", "src+2147483672", 0x80000004)}));
+}
+
 // Each of the two copies of a repeated line is left out by itself where its two addresses are one.
 TEST_F(FieldAddresses, a_repeated_line_is_copied_onto_neither_of_its_places)
 {

@@ -150,6 +150,17 @@ TEST(RgbNumberWidths, counts_around_minus_2_to_the_32_are_none)
     }
 }
 
+// A stride of 2^32 + 1 cuts no packed line after one byte.
+TEST(RgbNumberWidths, packed_lines_end_at_the_whole_stride)
+{
+    for (auto* routine : {tntvt_rgb48_12_rgb12, tntvt_rgb48_rgb12}) {
+        Bytes src(16, 0x11), dst(13, 0xEE);
+        routine(dst.data(), whole + 1, src.data(), 16, 1, 1);
+        for (size_t i = 0; i < 12; ++i) EXPECT_NE(dst[i], 0xEE) << i;
+        EXPECT_EQ(dst[12], 0xEE);
+    }
+}
+
 // Two frames of two lines, each further from the next than 2^32 bytes.
 class FarLines : public testing::Test {
 protected:

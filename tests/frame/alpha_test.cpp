@@ -12,9 +12,9 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 
 // Puts 255 back.
-class DefaultAlpha : public testing::TestWithParam<long> {
+class AlphaOfTheLibrary : public testing::TestWithParam<long> {
 protected:
-    ~DefaultAlpha() override { a = 255; }
+    ~AlphaOfTheLibrary() override { a = 255; }
 
     // The alphas of `width` pixels, the byte at `place` of each four, after a call.
     template <class Call>
@@ -29,7 +29,7 @@ protected:
     static Bytes all(uint8_t alpha) { return Bytes(static_cast<size_t>(GetParam()), alpha); }
 };
 
-TEST_P(DefaultAlpha, is_read_by_every_widening_routine)
+TEST_P(AlphaOfTheLibrary, is_read_by_every_widening_routine)
 {
     for (const uint8_t alpha : Bytes{255, 0, 0x5A}) {
         a = alpha;
@@ -50,7 +50,7 @@ TEST_P(DefaultAlpha, is_read_by_every_widening_routine)
     }
 }
 
-TEST_P(DefaultAlpha, is_not_read_by_routines_with_an_alpha_of_their_own)
+TEST_P(AlphaOfTheLibrary, is_not_read_by_routines_with_an_alpha_of_their_own)
 {
     a = 0x5A;
     for (auto* routine : {tntvt_rgb48_rgba32, tntvt_bgr48_rgba32})
@@ -83,7 +83,7 @@ TEST_P(DefaultAlpha, is_not_read_by_routines_with_an_alpha_of_their_own)
 }
 
 // One pixel, and lines long enough for SIMD versions.
-INSTANTIATE_TEST_SUITE_P(Widths, DefaultAlpha, testing::Values(1, 40, 128));
+INSTANTIATE_TEST_SUITE_P(Widths, AlphaOfTheLibrary, testing::Values(1, 40, 128));
 
 }  // namespace
 }  // namespace tintvert::test

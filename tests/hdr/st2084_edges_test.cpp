@@ -95,6 +95,15 @@ TEST(St2084Lines, nothing_to_do_is_nothing_done)
     }
 }
 
+// Two strides of 2^31 and more are a long line, not one below 0: it runs into the fence.
+TEST(St2084Lines, lines_of_2_to_the_31_bytes_are_work)
+{
+    const FencedBuffer buffer({0, (1l << 32) + 4096}, 4096, Side::above, Closed::wholly);
+    for (const Conversion conversion : conversions)
+        for (const unsigned stride : {0x80000000u, 0xFFFFFFFFu})
+            EXPECT_TRUE(faults([&] { conversion(buffer.pointer(), buffer.pointer(), stride, stride, 1); })) << stride;
+}
+
 // Lines 0 and 2 of the side with a stride of 2^31 stand at the same place.
 TEST(St2084Lines, offsets_are_32_bit_products)
 {

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
+#include <vector>
 
 namespace {
 
@@ -128,6 +129,22 @@ TEST(St2084Tables, telling_entries)
     EXPECT_EQ(reverse12[2048], 37u);
     EXPECT_EQ(reverse12[3072], 402u);
     EXPECT_EQ(reverse12[4095], 4086u);
+}
+
+// The block after every byte and every index has gone through both tables, in place and from one frame to another.
+TEST(St2084Tables, are_written_by_no_conversion)
+{
+    constexpr size_t entries = 256 + 256 + 4096 + 1024 + 4096 + 1024;
+    const unsigned* const block = get_ardwRGB_to_SMPTE2048_8Bit();
+    const std::vector<unsigned> before(block, block + entries);
+    std::vector<unsigned char> src(65536 + 32), dst(src.size());
+    for (size_t i = 0; i < src.size(); ++i) src[i] = static_cast<unsigned char>(i * 37 + i / 256);
+    for (auto* conversion : {tntvt_rgb_to_st2084, tntvt_st2084_to_rgb, tntvt_yuv2_to_st2084, tntvt_st2084_to_yuv2,
+                             tntvt_v210_to_st2084, tntvt_st2084_to_v210}) {
+        conversion(dst.data(), src.data(), 65536, 65536, 1);
+        conversion(dst.data(), dst.data(), 65536, 65536, 1);
+        EXPECT_EQ(std::vector<unsigned>(block, block + entries), before);
+    }
 }
 
 // One block: walking past a table enters the next.

@@ -68,7 +68,7 @@ namespace {
 int belongs_to(const char* predicate, unsigned int fourcc)
 {
     calls().note(predicate, fourcc);
-    return calls().fourcc_class == predicate ? 1 : 0;
+    return calls().fourcc_class == predicate ? calls().yes : 0;
 }
 
 // None of the decoders writes anything, and all answer a number that is of no use.
@@ -93,7 +93,7 @@ unsigned int CPUFeatureFlags(void)
 void CopyMemoryFast(void* destination, const void* source, unsigned int bytes)
 {
     calls().note("CopyMemoryFast", static_cast<const void*>(destination), source, bytes);
-    std::memmove(destination, source, bytes);
+    if (calls().copies) std::memmove(destination, source, bytes);
 }
 
 void* ZKAlloc(unsigned int bytes)

@@ -34,7 +34,9 @@ public:
     // Answers.
     unsigned int features = 0;                    // of CPUFeatureFlags
     std::function<void*(unsigned int)> allocate;  // of ZKAlloc; empty: memory named block1, block2, ...
+    bool copies = true;                           // whether CopyMemoryFast does, or is only logged
     std::string fourcc_class;                     // the one predicate that says yes, as "fccIsRGB"
+    int yes = 1;                                  // what it answers then
     unsigned int matrix = 709;                    // of GetMatrixBySize
 
     // The `nth` call of `function` from now on, counted from 1, is logged and throws Thrown.

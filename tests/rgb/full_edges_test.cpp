@@ -50,6 +50,15 @@ TEST(RgbaFullEdges, the_quotient_truncates)
     EXPECT_EQ(full(9, 8, 2, 1, 9), (Bytes{1, 2, 3, 4, 5, 6, 7, 8, 0xEE}));
 }
 
+// Strides of 2^32 + 4 and 2^32 + 3 bytes for one pixel are no sizes of 4 and 3: whole words are moved.
+TEST(RgbaFullEdges, the_quotient_has_64_bits)
+{
+    EXPECT_EQ(full(3, (1l << 32) + 4, 1, 1, 5), (Bytes{1, 2, 3, 4, 0xEE}));
+    EXPECT_EQ(full(4, (1l << 32) + 3, 1, 1, 5), (Bytes{1, 2, 3, 4, 0xEE}));
+    EXPECT_EQ(full((1l << 32) + 4, 3, 1, 1, 5), (Bytes{1, 2, 3, 4, 0xEE}));
+    EXPECT_EQ(full((1l << 32) + 3, 4, 1, 1, 5), (Bytes{1, 2, 3, 4, 0xEE}));
+}
+
 TEST(RgbaFullEdges, keeps_block_of_pixels_with_slack)
 {
     // 2 x 2 pixels of 3, 4, 2, 2, 3 and 4 bytes from the start, whatever the stride.

@@ -179,6 +179,29 @@ TEST(Rle8Edges, keeps_count_wrap_through_many_ends_of_line)
     EXPECT_EQ(rgb24(stream, 5000), Bytes());
 }
 
+// `height` counts in 64 bits: after one end of line 2^32 lines are left, where 32 bits would leave none.
+TEST(Rle8Edges, lines_are_counted_in_64_bits)
+{
+    constexpr long whole = 1l << 32;
+    EXPECT_EQ(rgb24({1, 1, 0, 0, 1, 2, 0, 1}, whole + 1), pixels_24({1, 1, 2, 2}));
+    EXPECT_EQ(rgb32({1, 1, 0, 0, 1, 2, 0, 1}, whole + 1), pixels_32({2}));
+    EXPECT_EQ(rgb32({1, 1, 0, 0, 1, 2, 0, 1}, -whole - 1), pixels_32({2}));
+    EXPECT_EQ(rgb32({1, 1, 0, 1}, whole), pixels_32({1}));
+    for (const Routine routine : both_32) routine(nullptr, 4, nullptr, 0, 1, LONG_MIN, nullptr);  // no magnitude
+}
+
+// Line 0 of 2^29 + 1 is 2^29 strides of 8 from `dst`, which is 2^32 bytes.
+TEST(Rle8Edges, a_line_2_to_the_32_bytes_away)
+{
+    const FencedBuffer dst({0, (1l << 32) + 4096}, 4096, Side::above, Closed::wholly);
+    Bytes stream{1, 1, 0, 1}, palette = palette_of(4);
+    for (const Routine routine : both_32) {
+        EXPECT_TRUE(faults([&] { routine(dst.pointer(), 8, stream.data(), 0, 0, (1l << 29) + 1, palette.data()); }));
+        EXPECT_TRUE(faults([&] { routine(dst.pointer(), 1l << 32, stream.data(), 0, 0, 2, palette.data()); }));
+        EXPECT_FALSE(faults([&] { routine(dst.pointer(), 1l << 32, stream.data(), 0, 0, 1, palette.data()); }));
+    }
+}
+
 // The last bytes of a stream stand before a fence: nothing behind the code that stops a decode is read.
 bool faults_on(Routine routine, const Bytes& stream, long height)
 {

@@ -88,18 +88,21 @@ TNTVT_API void _v210_to_rgb(void* src, void* dst, int width, int height, int dst
 /* `v210` to `rgb24` or `rgb32`: tntvt_v210_rgb24 at every `scale`, with default strides. A `dstStride` of 0 or below
  * is `width` x 3, and a `srcStride` of 0 or below is 128 bytes for each 48 pixels or part of them.
  *
- * The stride, default or given, selects the format, so with the default a picture shrunk by 2 or 4 is 32-bit. */
-TNTVT_API void tntvt_yuv422_10_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                     long scale);
+ * The stride, default or given, selects the format, so with the default a picture shrunk by 2 or 4 is 32-bit. Returns
+ * 0. */
+TNTVT_API int tntvt_yuv422_10_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                    long scale);
 
 /* `v210` to `rgb32` with default strides. A `dstStride` of 0 or below is `width` x 4, and a `srcStride` of 0 or below
  * is 128 bytes for each 48 pixels or part of them.
  *
  * At a `scale` of 1 libycbcr decodes the frame, with the matrix that GetMatrixBySize gives for its size; a negative
  * `height` sets flag 0x8000, which turns the picture upside down. At any other `scale` it is tntvt_v210_rgb24: BT.601
- * for every size, the stride selects the format, and a `scale` of 0 divides by zero. */
-TNTVT_API void tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                     long scale);
+ * for every size, the stride selects the format, and a `scale` of 0 divides by zero.
+ *
+ * Returns libycbcr's result at a `scale` of 1, and 0 otherwise. Neither reports an error. */
+TNTVT_API int tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                    long scale);
 
 /* `2vuy` to `rgb24` by its name, with default strides. A `dstStride` of 0 or below is `width` x 3, and a `srcStride`
  * of 0 or below is `width` x 2.
@@ -109,25 +112,30 @@ TNTVT_API void tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long 
  * it is tntvt_yuv422_rgb24: the stride selects the format, so with the default a shrunk picture is 32-bit, and a
  * `scale` of 0 divides by zero.
  *
+ * Returns libycbcr's result at a `scale` of 1, and 0 otherwise. Neither reports an error.
+ *
  * Quirks: keeps_10_bit_decoder_for_8_bit_data. */
-TNTVT_API void tntvt_yuv422_8_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                    long scale);
+TNTVT_API int tntvt_yuv422_8_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                   long scale);
 
 /* `2vuy` to `rgb32` with default strides. A `dstStride` of 0 or below is `width` x 4, and a `srcStride` of 0 or below
  * is `width` x 2.
  *
  * At a `scale` of 1 libycbcr decodes the frame, with the matrix that GetMatrixBySize gives for its size; a negative
  * `height` sets flag 0x8000, which turns the picture upside down. At any other `scale` it is tntvt_yuv422_rgb24:
- * BT.601 for every size, the stride selects the format, and a `scale` of 0 divides by zero. */
-TNTVT_API void tntvt_yuv422_8_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                    long scale);
+ * BT.601 for every size, the stride selects the format, and a `scale` of 0 divides by zero.
+ *
+ * Returns libycbcr's result at a `scale` of 1, and 0 otherwise. Neither reports an error. */
+TNTVT_API int tntvt_yuv422_8_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                   long scale);
 
 /* `i420` to `rgb32` by libycbcr, with the matrix that GetMatrixBySize gives for the frame's size. Destination lines
- * are `width` x 4 bytes with no slack. `srcStride` is the distance between two luma lines and has no default. */
-TNTVT_API void tntvt_i420_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
+ * are `width` x 4 bytes with no slack. `srcStride` is the distance between two luma lines and has no default.
+ * Returns libycbcr's result, which reports no error. */
+TNTVT_API int tntvt_i420_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
 
 /* `yv12` to `rgb32` by libycbcr: as tntvt_i420_rgb32, with Cr before Cb. */
-TNTVT_API void tntvt_yv12_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
+TNTVT_API int tntvt_yv12_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
 
 /* `yuvijg` (Y, Cb, Cr at full range) to B, G, R, 0 with the JPEG coefficients, ITU-R BT.601 at full range, in double
  * precision, truncated. Nothing is clamped: colours outside the RGB cube wrap.

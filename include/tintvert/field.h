@@ -115,7 +115,7 @@ TNTVT_API void tntvt_flip_vert(unsigned char* dst, unsigned char* src, unsigned 
  *   any other            none                none
  *
  * The margins are cleared if `keepMargins` is 0. A `dstStride` below `srcStride` writes past the end of lines. The
- * third and fourth arguments are ignored.
+ * third and fourth arguments are ignored. Line offsets, margins included, wrap at 32 bits.
  *
  * In place both halves use the pitch `dstStride` and no line moves within its stride: the margins of each top line are
  * cleared, `srcStride` bytes of the bottom line go to its start, and the whole top line goes down.
@@ -132,7 +132,7 @@ TNTVT_API void tntvt_flip_vert_flags(unsigned char* dst, unsigned char* src, uns
  * end of the line.
  *
  * A `height` below 1 does nothing, and neither does a `width` below 1; in place `width` is read as unsigned, and 1 does
- * nothing.
+ * nothing. Offsets, those of pixels included, wrap at 32 bits.
  *
  * Quirks: keeps_mirror_past_the_line. */
 TNTVT_API void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int height, unsigned int stride);

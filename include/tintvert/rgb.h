@@ -269,9 +269,11 @@ TNTVT_API void tntvt_rgb48_rgba32(void* dst, long dstStride, void* src, long src
 /* `bgr48` to `rgba32`: s0, s1, s2 become s2, s1, s0, 0. Channels, lines and order as in tntvt_rgb48_rgba32.
  *
  * A negative `height` turns the picture upside down one line too low: the last source line goes to the line that ends
- * just before the start of `dst`, and the last destination line is not written. Lines are counted in 32 bits.
+ * just before the start of `dst`, and the last destination line is not written. The lines are the low 32 bits of the
+ * magnitude of `height`, as a signed number, so that 2^31 to 2^32 lines are no work.
  *
- * Quirks: keeps_wrap_of_wide_values, keeps_shift_modulo_32, keeps_transparent_alpha, keeps_flip_one_line_off. */
+ * Quirks: keeps_wrap_of_wide_values, keeps_shift_modulo_32, keeps_transparent_alpha, keeps_flip_one_line_off,
+ * keeps_signed_32_bit_count. */
 TNTVT_API void tntvt_bgr48_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned int bits);
 
@@ -312,9 +314,10 @@ TNTVT_API void tntvt_rgba32_rgb48(void* dst, long dstStride, void* src, long src
                                   unsigned int bits);
 
 /* `rgba32` to `bgr48`: channels b2, b1, b0; b3 is not read. Channels, lines and order as in tntvt_rgba32_rgb48. A
- * negative `height` turns the picture upside down one line too low, as in tntvt_bgr48_rgba32.
+ * negative `height` turns the picture upside down one line too low, and lines are counted, as in tntvt_bgr48_rgba32.
  *
- * Quirks: keeps_shift_modulo_32, keeps_flip_one_line_off, keeps_low_bits_of_deep_channels_clear. */
+ * Quirks: keeps_shift_modulo_32, keeps_flip_one_line_off, keeps_signed_32_bit_count,
+ * keeps_low_bits_of_deep_channels_clear. */
 TNTVT_API void tntvt_rgba32_bgr48(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned int bits);
 

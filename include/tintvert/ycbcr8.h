@@ -196,7 +196,7 @@ TNTVT_API void tntvt_2vuy_yv12(unsigned char* dst, unsigned char* src, unsigned 
  * rounded up; luma is copied.
  *
  * `srcPitch` counts pixels: source lines are 2 x `srcPitch` bytes apart. `y` lines are `dstPitch` bytes apart, `cb`
- * and `cr` lines half of that. A `width` or `height` below 1 does nothing.
+ * and `cr` lines half of that. Distances are `int` and wrap at 32 bits. A `width` or `height` below 1 does nothing.
  *
  * An odd `height` processes its last line as a pair: one line past the end is read and written. An odd `width`
  * processes its last group whole, one pixel past the end, and places each further pair of lines 2 bytes later in the
@@ -260,7 +260,8 @@ TNTVT_API int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dst
  *
  * Mode 1 averages the second luma with the first in every pair, truncating. In modes 2 to 6 the first luma of a pair,
  * `prev`, and that of the next, `cur`, are references: where they differ by less than 8 and the second luma `t`
- * between them differs from `prev` by 11 or more, `t` is replaced. Other modes do nothing.
+ * between them differs from `prev` by 11 or more, `t` is replaced. Other modes do nothing. No byte is stored but a
+ * second luma, and in modes 2 to 6 only one that is replaced.
  *
  *     mode   replacement        where
  *     2      prev               `prev` below 128

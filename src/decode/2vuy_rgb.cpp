@@ -132,7 +132,7 @@ void tntvt_yuv422_rgb24(void* dst, long dstStride, void* src, long srcStride, lo
 {
     need_tables();
     const long reduced = width / scale;
-    const long rows = height / scale;
+    const long rows = width < 1 ? 0 : height / scale;
     // QUIRK (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
     const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
     for (long r = 0; r < rows; ++r)
@@ -144,7 +144,7 @@ void tntvt_yuv422_rgb16(void* dst, long dstStride, void* src, long srcStride, lo
 {
     need_tables();
     if (scale == 0) scale = 1;
-    const long rows = height / scale;
+    const long rows = width < 1 ? 0 : height / scale;
     // QUIRK (keeps_swapped_line_pairs): output lines 0, 1, 2, 3 show source lines 1, 0, 3, 2, and an
     // odd count reads the line after the last one.
     const Line line = line_rgb16_at(scale);

@@ -145,7 +145,7 @@ void tntvt_v210_rgb24(void* dst, long dstStride, void* src, long srcStride, long
 {
     need_tables();
     const long reduced = width / scale;
-    const long rows = height / scale;
+    const long rows = width < 1 ? 0 : height / scale;
     // QUIRK (keeps_form_by_stride): a stride that holds 32-bit pixels gets them, asked for or not.
     const Line line = reduced * 4 <= dstStride ? line_at<Rgb32>(scale) : line_at<Rgb24>(scale);
     for (long r = 0; r < rows; ++r)
@@ -158,7 +158,7 @@ void tntvt_v210_rgb16(void* dst, long dstStride, void* src, long srcStride, long
 {
     need_tables();
     if (scale == 0) scale = 1;
-    const long rows = height / scale;
+    const long rows = width < 1 ? 0 : height / scale;
     const Line line = line_at<Rgb16>(scale);
     for (long r = 0; r < rows; ++r)
         line(advance(bytes(dst), line_offset(r, dstStride)),

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "simd/agreement.h"
 #include "support/fence.h"
-#include "wide/agreement.h"
 
 namespace tintvert::test {
 

@@ -15,12 +15,12 @@ TEST(CheckedQuery, tells_the_extents_and_touches_nothing)
         Random random(41);
         for (int round = 0; round < 100; ++round) {
             const catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            const Scene before = scene;
+            CallMemory memory(random, routine, numbers, margin);
+            const CallMemory before = memory;
             for (const auto call : {call_checked, call_checked_in_c}) {
                 checked::Extents told;
-                ASSERT_TRUE(call(routine, numbers, scene.given(), {.query = &told}).error);
-                ASSERT_TRUE(scene.same_bytes(before));
+                ASSERT_TRUE(call(routine, numbers, exact_buffers(memory), {.query = &told}).error);
+                ASSERT_TRUE(memory == before);
                 const catalog::Extents extents = routine.extents(numbers);
                 ASSERT_EQ(told.end() - told.begin(), extents.end() - extents.begin());
                 for (ptrdiff_t i = 0; i < told.end() - told.begin(); ++i) {
@@ -52,11 +52,11 @@ TEST(CheckedHeap, gives_nothing_to_a_good_call)
         Random random(42);
         for (int round = 0; round < 100; ++round) {
             catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            const std::vector<Given> given = scene.given();
+            CallMemory memory(random, routine, numbers, margin);
+            const std::vector<Given> given = exact_buffers(memory);
             const size_t checked = heap_calls_of([&] { (void)call_checked(routine, numbers, given); }).size();
             const size_t in_c = heap_calls_of([&] { (void)call_checked_in_c(routine, numbers, given); }).size();
-            scene.point(numbers);
+            memory.point(numbers);
             const size_t bare = heap_calls_of([&] { routine.call(numbers); }).size();
             ASSERT_EQ(checked, bare) << text_of(routine, numbers);
             ASSERT_EQ(in_c, bare) << text_of(routine, numbers);

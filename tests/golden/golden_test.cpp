@@ -7,7 +7,6 @@
 // `test_golden --print` prints the file with the digests of this build; a new line needs none, only its arrow.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <iostream>
@@ -19,7 +18,7 @@
 #include <vector>
 
 #include "catalog.h"
-#include "support/random.h"
+#include "support/call_memory.h"
 
 namespace tintvert::test {
 namespace {
@@ -91,39 +90,16 @@ std::string in_hex(uint64_t digest)
     return text;
 }
 
-struct Buffer {
-    Arg argument;
-    int64_t begin;  // of `bytes`, from the pointer that is passed
-    std::vector<uint8_t> bytes;
-};
-
-// The bytes of every buffer of the routine, in the order of its arguments, after the call.
-std::vector<Buffer> buffers_after(const Line& line)
-{
-    const catalog::Extents extents = line.routine->extents(line.call);
-    catalog::Arguments call = line.call;
-    Random random(line.seed);
-    std::vector<Buffer> buffers;
-    for (const Arg argument : line.routine->arguments) {
-        if (describe(argument).kind != catalog::Argument::buffer) continue;
-        int64_t begin = 0, end = 0;
-        for (const catalog::Touch& touch : extents) {
-            if (touch.buffer != argument) continue;
-            begin = std::min({begin, touch.read.begin, touch.written.begin});
-            end = std::max({end, touch.read.end, touch.written.end});
-        }
-        buffers.push_back({argument, begin - margin, random.bytes(static_cast<size_t>(end - begin + 2 * margin))});
-    }
-    for (Buffer& buffer : buffers)
-        call[buffer.argument] = reinterpret_cast<int64_t>(buffer.bytes.data() - buffer.begin);
-    line.routine->call(call);
-    return buffers;
-}
-
+// Of all buffers, in the order of the arguments.
 std::string digest_of_call(const Line& line)
 {
+    catalog::Arguments call = line.call;
+    Random random(line.seed);
+    CallMemory memory(random, *line.routine, call, margin);
+    memory.point(call);
+    line.routine->call(call);
     uint64_t digest = digest_of({});
-    for (const Buffer& buffer : buffers_after(line)) digest = digest_of(buffer.bytes, digest);
+    for (const CallMemory::Place& place : memory.places()) digest = digest_of(place.buffer.bytes(), digest);
     return in_hex(digest);
 }
 

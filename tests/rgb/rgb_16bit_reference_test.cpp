@@ -3,12 +3,12 @@
 
 #include <tintvert.h>
 
-#include "overlaps.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
 
-using namespace overlaps;
+using Routine = void(void*, long, void*, long, long, long);
 using reference::DeepForm;
 using reference::Depth;
 using reference::Height;

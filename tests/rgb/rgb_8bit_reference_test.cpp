@@ -3,12 +3,12 @@
 
 #include <tintvert.h>
 
-#include "overlaps.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
 
-using namespace overlaps;
+using Routine = void(void*, long, void*, long, long, long);
 
 TEST(Rgb8BitReference, word_kernels)
 {
@@ -39,7 +39,7 @@ TEST(Rgb8BitReference, word_kernels)
         const Work told = [&](const StridedFrame& f) {
             for (long x = 0; x < count(f); ++x) row.pixel(f.dst + 4 * x, f.src + 4 * x);
         };
-        EXPECT_TRUE(agree_everywhere({row.name, {4, 4}, routine, told}));
+        EXPECT_TRUE(agree_everywhere({row.name, PixelBytes{4, 4}, routine, told}));
     }
 }
 
@@ -75,13 +75,12 @@ TEST(Rgb8BitReference, frames_with_a_walk_of_their_own)
         tntvt_rgba24_rgb32_invert(const_cast<uint8_t*>(f.src), f.dst_stride, f.dst, f.src_stride, f.width, f.height);
     };
     const Twins all[] = {
-        {"tntvt_rgba32_bgr24_inplace", {3, 4}, calling(tntvt_rgba32_bgr24_inplace), reference::rgba32_to_bgr24},
-        {"tntvt_rgb32_bgr24_inplace", {3, 4}, calling(tntvt_rgb32_bgr24_inplace), reference::rgba32_to_bgr24},
-        {"tntvt_rgba32_rgb24_invert",
-         {3, 4},
-         calling(tntvt_rgba32_rgb24_invert),
+        {"tntvt_rgba32_bgr24_inplace", PixelBytes{3, 4}, calling(tntvt_rgba32_bgr24_inplace),
+         reference::rgba32_to_bgr24},
+        {"tntvt_rgb32_bgr24_inplace", PixelBytes{3, 4}, calling(tntvt_rgb32_bgr24_inplace), reference::rgba32_to_bgr24},
+        {"tntvt_rgba32_rgb24_invert", PixelBytes{3, 4}, calling(tntvt_rgba32_rgb24_invert),
          reference::rgba32_to_rgb24_upside_down},
-        {"tntvt_rgba24_rgb32_invert", {4, 3}, crossed, reference::rgba24_to_rgb32_upside_down},
+        {"tntvt_rgba24_rgb32_invert", PixelBytes{4, 3}, crossed, reference::rgba24_to_rgb32_upside_down},
     };
     for (const Twins& twins : all) EXPECT_TRUE(agree_everywhere(twins, 8));
 }
@@ -152,12 +151,12 @@ TEST(Rgb8BitReference, a_wrong_telling_is_found)
                                reference::rotated_right);
     };
     const Twins all[] = {
-        {"guard", {3, 4}, calling(tntvt_rgba32_bgr24_inplace), forward({3, 4}, unguarded)},
-        {"stores", {4, 3}, calling(tntvt_rgb24_rgba32), backward({4, 3}, descending)},
-        {"loads", {4, 2}, calling(tntvt_rgb16_rgba32), backward({4, 2}, word_read_once)},
-        {"start of line", {4, 2}, calling(tntvt_rgb16_rgb32), forward({4, 2}, reference::five_bits_widened)},
-        {"alpha", {4, 4}, calling(tntvt_argb32_rgba32), forward({4, 4}, uncounted)},
-        {"lines", {4, 4}, calling(tntvt_rgba32_argb32), last_line_first},
+        {"guard", PixelBytes{3, 4}, calling(tntvt_rgba32_bgr24_inplace), forward({3, 4}, unguarded)},
+        {"stores", PixelBytes{4, 3}, calling(tntvt_rgb24_rgba32), backward({4, 3}, descending)},
+        {"loads", PixelBytes{4, 2}, calling(tntvt_rgb16_rgba32), backward({4, 2}, word_read_once)},
+        {"start of line", PixelBytes{4, 2}, calling(tntvt_rgb16_rgb32), forward({4, 2}, reference::five_bits_widened)},
+        {"alpha", PixelBytes{4, 4}, calling(tntvt_argb32_rgba32), forward({4, 4}, uncounted)},
+        {"lines", PixelBytes{4, 4}, calling(tntvt_rgba32_argb32), last_line_first},
     };
     for (const Twins& twins : all) EXPECT_FALSE(agree_everywhere(twins)) << twins.name;
 }

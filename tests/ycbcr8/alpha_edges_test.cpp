@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "sparse.h"
+#include "support/sparse.h"
 
 namespace {
 

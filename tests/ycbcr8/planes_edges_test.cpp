@@ -6,7 +6,7 @@
 #include <numeric>
 #include <vector>
 
-#include "sparse.h"
+#include "support/sparse.h"
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define TINTVERT_TEST_SANITIZED 1

@@ -1,5 +1,5 @@
 // What a checked call adds to the bare one: every routine over two lines of 6 pixels, bare, checked and checked
-// in C, in the same run. The extents are told from the numbers alone, so a larger picture costs the same; but a
+// in C, in the same run. The extents follow from the numbers alone, so a larger picture costs the same; but a
 // run-length coded stream is scanned to its end.
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
@@ -77,12 +77,12 @@ struct Prepared {
 };
 
 // Whether the call was made.
-template <class Told, class... Parameters>
-bool call(const Prepared& prepared, Told (*function)(Parameters...))
+template <class Result, class... Parameters>
+bool call(const Prepared& prepared, Result (*function)(Parameters...))
 {
     return [&]<size_t... place>(std::index_sequence<place...>)
     {
-        if constexpr (std::is_class_v<Told>)
+        if constexpr (std::is_class_v<Result>)
             return static_cast<int>(function(prepared.at<Parameters>(place)...).code) == 0;
         else
             return function(prepared.at<Parameters>(place)...), true;

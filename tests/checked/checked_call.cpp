@@ -45,13 +45,13 @@ struct Values {
     }
 };
 
-template <class Told, class... Parameters, size_t... place>
-Told call(Told (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
+template <class Result, class... Parameters, size_t... place>
+Result call(Result (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
 {
     return function(values.at<Parameters>(place)...);
 }
-template <class Told, class... Parameters>
-Told call(Told (*function)(Parameters...), const Values& values)
+template <class Result, class... Parameters>
+Result call(Result (*function)(Parameters...), const Values& values)
 {
     return call(function, values, std::index_sequence_for<Parameters...>{});
 }
@@ -67,20 +67,20 @@ Answer answer_of(const checked::Result<Value>& result)
         return {result, result.value};
 }
 
-Answer answer_of(const tntvt_checked_result& told)
+Answer answer_of(const tntvt_checked_result& reported)
 {
     checked::Error error;
-    error.code = static_cast<checked::Code>(told.code);
-    error.refusal = static_cast<checked::Refusal>(told.refusal);
-    error.routine = told.routine;
-    error.buffer = told.buffer;
-    error.other = told.other;
-    error.why = told.why;
-    error.has = told.has;
-    error.front = told.front;
-    error.needs = told.needs;
-    error.where = range_of(told.where);
-    return {error, told.pointer != nullptr ? reinterpret_cast<int64_t>(told.pointer) : told.value};
+    error.code = static_cast<checked::Code>(reported.code);
+    error.refusal = static_cast<checked::Refusal>(reported.refusal);
+    error.routine = reported.routine;
+    error.buffer = reported.buffer;
+    error.other = reported.other;
+    error.why = reported.why;
+    error.has = reported.has;
+    error.front = reported.front;
+    error.needs = reported.needs;
+    error.where = range_of(reported.where);
+    return {error, reported.pointer != nullptr ? reinterpret_cast<int64_t>(reported.pointer) : reported.value};
 }
 
 template <auto function>

@@ -64,9 +64,9 @@ TEST(CheckedCall, equals_the_bare_routine_in_place)
             ASSERT_EQ(one.bytes(), other.bytes()) << text_of(routine, numbers);
             ++called;
         }
-        const bool told =
+        const bool expected =
             in_place(routine) == catalog::InPlace::as_apart || in_place(routine) == catalog::InPlace::in_its_way;
-        EXPECT_EQ(called > 20, told) << routine.name;
+        EXPECT_EQ(called > 20, expected) << routine.name;
     }
 }
 

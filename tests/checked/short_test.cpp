@@ -120,16 +120,16 @@ TEST(CheckedBuffers, streams_are_read_in_their_memory_alone)
     EXPECT_EQ(frame[0], 0);
 }
 
-TEST(CheckedBuffers, messages_tell_where)
+TEST(CheckedBuffers, messages_say_where)
 {
     std::vector<uint8_t> rgb(1920 * 1080 * 4), yuv(1920 * 1080 * 2);
     const checked::Buffer small(yuv.data(), 1920 * 1079 * 2);
     EXPECT_EQ(checked::tntvt_rgb32_2vuy(small, 3840, rgb, 7680, 1920, 1080).message(),
               "dst: 4143360 bytes, needs 4147200 (from -0 to 4147200)");
-    // One line of `yuv` is read behind the frame.
+    // One line of `yuv` is read past the end of the frame.
     EXPECT_EQ(checked::tntvt_2yuv_to_alphay(rgb, 1920, yuv, 3840, 1920, 1080).message(),
               "src: 4147200 bytes, needs 4151040 (from 1 to 4151040)");
-    // Lines in front of `dst`.
+    // Lines before `dst`.
     EXPECT_EQ(checked::tntvt_rgba32_rgb24_invert(rgb, 30, rgb, 40, 10, -2).message(),
               "dst: 8294400 bytes, needs 120 (from -120 to -60)");
     EXPECT_EQ(checked::tntvt_rgba32_rgb24_invert(checked::Buffer(rgb).at(119), 30, yuv, 40, 10, -2).message(),

@@ -12,28 +12,20 @@ TEST(Yuv422RgbReference, random_frames)
 {
     Random random(31);
     for (const Decoder& decoder : decoders_of_2vuy)
-        for (long scale = 1; scale <= 5; ++scale) {
-            expect_equal_frames(decoder, random, 240, scale, 14);
-            expect_equal_frames(decoder, random, 60, scale, -4);
-        }
+        for (long scale = 1; scale <= 5; ++scale) expect_equal_frames(decoder, random, 300, scale);
 }
 
 TEST(Yuv422RgbReference, random_frames_at_scale_0)
 {
     Random random(32);
-    expect_equal_frames(decoders_of_2vuy[1], random, 240, 0, 14);
-    expect_equal_frames(decoders_of_2vuy[1], random, 60, 0, -4);
+    expect_equal_frames(decoders_of_2vuy[1], random, 300, 0);
 }
 
-// A negative height over a negative scale is a positive count of lines, and the source is walked upwards.
 TEST(Yuv422RgbReference, random_frames_at_negative_scales)
 {
     Random random(33);
     for (const Decoder& decoder : decoders_of_2vuy)
-        for (long scale = -5; scale <= -1; ++scale) {
-            expect_equal_frames(decoder, random, 60, scale, -14);
-            expect_equal_frames(decoder, random, 15, scale, 4);
-        }
+        for (long scale = -5; scale <= -1; ++scale) expect_equal_frames(decoder, random, 75, scale);
 }
 
 // A group is read whole before its pixels are written, in place and wherever the memories overlap.
@@ -87,7 +79,7 @@ TEST(Yuv422RgbReference, terms)
     }
 }
 
-// A sum of terms lies between -4429 and 8551, so that its whole part is at most 534 of 1023.
+// A sum of terms is between -4429 and 8551, so that its whole part is at most 534 of 1023.
 TEST(Yuv422RgbReference, bounds_of_the_sums)
 {
     int low = INT_MAX, high = INT_MIN;

@@ -32,8 +32,9 @@ inline constexpr Decoder decoders_of_v210[] = {
     {"tntvt_v210_rgb16", 2, tntvt_v210_rgb16, reference::v210_rgb16, line_of_v210},
 };
 
-// Random frames, the source and the destination far from each other.
-void expect_equal_frames(const Decoder& decoder, Random& random, int rounds, long scale, long height);
+// Random frames, the source and the destination far from each other. A negative height over a negative scale is a
+// positive count of lines, and the source is walked upwards.
+void expect_equal_frames(const Decoder& decoder, Random& random, int rounds, long scale);
 // One memory, the destination at every distance from -64 to 64 of the source.
 void expect_equal_overlapping(const Decoder& decoder, Random& random);
 

@@ -8,23 +8,15 @@ TEST(V210RgbReference, random_frames)
 {
     Random random(321);
     for (const Decoder& decoder : decoders_of_v210)
-        for (long scale = 1; scale <= 5; ++scale) {
-            expect_equal_frames(decoder, random, 240, scale, 14);
-            expect_equal_frames(decoder, random, 60, scale, -4);
-        }
+        for (long scale = 1; scale <= 5; ++scale) expect_equal_frames(decoder, random, 300, scale);
 }
 
-// A negative height over a negative scale is a positive count of lines, and the source is walked upwards.
 TEST(V210RgbReference, random_frames_at_other_scales)
 {
     Random random(322);
     for (const Decoder& decoder : decoders_of_v210)
-        for (long scale = -5; scale <= -1; ++scale) {
-            expect_equal_frames(decoder, random, 64, scale, -14);
-            expect_equal_frames(decoder, random, 16, scale, 4);
-        }
-    expect_equal_frames(decoders_of_v210[1], random, 160, 0, 14);
-    expect_equal_frames(decoders_of_v210[1], random, 40, 0, -4);
+        for (long scale = -5; scale <= -1; ++scale) expect_equal_frames(decoder, random, 80, scale);
+    expect_equal_frames(decoders_of_v210[1], random, 200, 0);
 }
 
 // A pair is picked out whole before its pixels are written, in place and wherever the memories overlap.

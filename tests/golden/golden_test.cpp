@@ -2,7 +2,7 @@
 //
 // A line is a routine of the catalogue, its numbers by argument name, the seed of the bytes in its buffers,
 // and the digest of those buffers after the call. A number that is left out is 0. Each buffer has the bytes
-// that the extents rule tells, with a margin on either side that the digest covers too.
+// that the extents rule gives, with a margin on either side that the digest covers too.
 //
 // `test_golden --print` prints the file with the digests of this build; a new line needs none, only its arrow.
 #include <gtest/gtest.h>
@@ -28,11 +28,11 @@ using catalog::Arg;
 constexpr int64_t margin = 32;
 
 struct Line {
-    std::string call_text;  // all that stands in front of the arrow
+    std::string call_text;  // everything before the arrow
     const catalog::Routine* routine;
     catalog::Arguments call;
     uint64_t seed;
-    std::string digest;  // empty if none stands behind it
+    std::string digest;  // empty if there is none after it
 };
 
 bool holds_a_call(const std::string& text) { return !text.empty() && text[0] != '#'; }
@@ -163,7 +163,7 @@ TEST(Golden, rejects_a_wrong_digest)
     EXPECT_FALSE(holds(line));
 }
 
-TEST(Golden, rejects_a_line_that_tells_no_call)
+TEST(Golden, rejects_a_line_that_describes_no_call)
 {
     EXPECT_THROW(parse("bgra_to_2vuy pixels=6 seed=1"), std::runtime_error);
     EXPECT_THROW(parse("bgra_to_3vuy pixels=6 seed=1 -> 0"), std::runtime_error);

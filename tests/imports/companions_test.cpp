@@ -1,5 +1,5 @@
 // Which functions of the companions a routine calls, over random calls with and without a copy that throws, is
-// what the catalogue tells.
+// what the catalogue says.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -17,7 +17,7 @@ using Names = std::set<std::string>;
 
 constexpr const char* classes[] = {"", "fccIsYCbCr8", "fccIsYCbCr10", "fccIsDPX", "fccIsRGB"};
 
-// The extents of a call ask for the class of a FourCC too, so the log begins behind them.
+// The extents of a call ask for the class of a FourCC too, so the log begins after them.
 void call_once(Random& random, const catalog::Routine& routine, int round, Names& called)
 {
     calls().fourcc_class = classes[round % 5];
@@ -64,9 +64,9 @@ TEST_F(Imports, companions_of_every_routine_are_those_of_the_catalogue)
                 call_in_place(random, routine, round, called);
             }
         }
-        Names told;
-        for (const std::string_view name : companions_of(routine)) told.emplace(name);
-        EXPECT_EQ(called, told) << routine.name;
+        Names expected;
+        for (const std::string_view name : companions_of(routine)) expected.emplace(name);
+        EXPECT_EQ(called, expected) << routine.name;
     }
 }
 

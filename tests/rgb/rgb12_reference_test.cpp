@@ -63,7 +63,7 @@ TEST(Rgb12Reference, does_not_agree_with_the_neighbour)
     EXPECT_TRUE(differ(packers[0], packers[1]));
 }
 
-// A pixel a line makes one round, of `samples` samples of `bits` bits; sample `place` of line n holds n.
+// A pixel a line makes one round, of `samples` samples of `bits` bits; sample `place` of line n is n.
 void expect_all_values(const Twins& pair, int samples, int bits)
 {
     Random random(515);

@@ -30,6 +30,16 @@ int64_t any_of(Random& random, std::initializer_list<int64_t> values)
 
 Range around(const Extents& extents, Arg buffer) { return with_pointer(accessed_in(extents, buffer)); }
 
+bool walks_pictures(const Routine& routine)
+{
+    bool picture = false;
+    for (const Arg argument : routine.arguments) {
+        if (argument == Arg::palette || argument == Arg::packet || argument == Arg::raw) return false;
+        picture = picture || describe(argument).kind == Argument::buffer;
+    }
+    return picture;
+}
+
 // Memory filled from a seed, in which the buffers of a call are given their places.
 class PlacedMemory {
 public:
@@ -103,6 +113,22 @@ private:
 };
 
 }  // namespace
+
+std::vector<const Routine*> routines_of_pictures()
+{
+    std::vector<const Routine*> result;
+    for (const Routine& routine : routines())
+        if (walks_pictures(routine)) result.push_back(&routine);
+    return result;
+}
+
+std::vector<InstructionSet> levels()
+{
+    std::vector<InstructionSet> result;
+    for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512})
+        if (level <= machine_instruction_set()) result.push_back(level);
+    return result;
+}
 
 bool random_call(Random& random, const Routine& routine, int64_t width, Arguments* call)
 {

@@ -8,37 +8,9 @@
 #include "support/fence.h"
 
 namespace tintvert::test {
-
 namespace {
 
 using namespace catalog;
-
-// The run-length decoders and the packet former walk streams that random bytes do not make.
-bool walks_pictures(const Routine& routine)
-{
-    bool picture = false;
-    for (const Arg argument : routine.arguments) {
-        if (argument == Arg::palette || argument == Arg::packet || argument == Arg::raw) return false;
-        picture = picture || describe(argument).kind == Argument::buffer;
-    }
-    return picture;
-}
-
-std::vector<const Routine*> routines_of_pictures()
-{
-    std::vector<const Routine*> result;
-    for (const Routine& routine : routines())
-        if (walks_pictures(routine)) result.push_back(&routine);
-    return result;
-}
-
-std::vector<InstructionSet> levels()
-{
-    std::vector<InstructionSet> result;
-    for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512})
-        if (level <= machine_instruction_set()) result.push_back(level);
-    return result;
-}
 
 class Simd : public testing::TestWithParam<const Routine*> {
 protected:
@@ -111,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(Routines, Simd, testing::ValuesIn(routines_of_pictures(
                          [](const auto& routine) { return std::string{routine.param->name}; });
 
 // The program's own routines are called, not those of the library beside it.
-TEST(SimdHarness, holds_the_level_of_the_routines_that_it_calls)
+TEST(SimdHarness, sets_the_level_of_the_routines_that_it_calls)
 {
     highest_instruction_set = InstructionSet::scalar;
     EXPECT_EQ(instruction_set(), InstructionSet::scalar);

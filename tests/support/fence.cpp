@@ -9,13 +9,8 @@
 #include <string>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
-#define TINTVERT_TEST_ASAN 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define TINTVERT_TEST_ASAN 1
-#endif
-#endif
+#include "support/sanitized.h"
+
 #ifdef TINTVERT_TEST_ASAN
 #include <sanitizer/lsan_interface.h>
 #endif
@@ -47,7 +42,7 @@ std::string text_of(const Routine& routine, const Arguments& call)
     return text;
 }
 
-// One call with a fence in `fenced`; every other buffer lies far from any.
+// One call with a fence in `fenced`; every other buffer is far from any.
 bool faults_with_fence(const Routine& routine, Arguments call, const Extents& extents, const Touch& fenced,
                        int64_t fence, Side side, Closed closed, const Fill& fill)
 {

@@ -136,7 +136,7 @@ TEST(Rfc4175Packet, keeps_fixed_length_224)
     }
 }
 
-// Line 1 has three different pgroups; the payload has the first of them over and over. Behind it the buffer
+// Line 1 has three different pgroups; the payload has the first of them over and over. After it the buffer
 // is as it was: after `width` / 2 pgroups, or 275 of them.
 TEST(Rfc4175Packet, keeps_place_in_line)
 {
@@ -296,7 +296,7 @@ TEST(Rfc4175Packet, keeps_endless_odd_width)
 }
 
 // Line 2^25 at 128 bytes a line is line 0 again: its samples come from the header, which has the low byte 1
-// of its number and the sequence number 0. Behind 4 GiB stands a fence.
+// of its number and the sequence number 0. After 4 GiB there is a fence.
 TEST(Rfc4175PacketExhaustive, line_offsets_wrap_at_32_bits)
 {
     constexpr long span = 1l << 32;

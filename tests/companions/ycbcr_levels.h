@@ -1,4 +1,4 @@
-// The levels of libycbcr that this machine has beside the scalar one.
+// The levels of libycbcr that this machine has beside the plain one.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -27,7 +27,7 @@ testing::AssertionResult agrees(InstructionSet level, const Form& form, int widt
     return dst.agrees(skew);
 }
 
-TEST_F(CycbcrLevels, equal_scalar_at_every_width_and_misalignment)
+TEST_F(CycbcrLevels, equal_plain_at_every_width_and_misalignment)
 {
     Random random(8);
     for (const InstructionSet level : levels) {
@@ -47,7 +47,7 @@ TEST_F(CycbcrLevels, equal_scalar_at_every_width_and_misalignment)
     }
 }
 
-// Each misalignment of the source with each one of the destination. A scalar line is made once for the 64.
+// Each misalignment of the source with each one of the destination. A plain line is made once for the 64.
 template <class Form>
 void expect_all_misalignments(InstructionSet level, int width, const uint8_t* src, Form (*form_at)(const uint8_t*, int))
 {
@@ -145,7 +145,7 @@ TEST_F(CycbcrLevelsExhaustive, a_seventh_of_the_10_bit_triples)
     }
 }
 
-// A form whose SIMD steps get the luma of their last pixel wrong.
+// A form whose wide steps get the luma of their last pixel wrong.
 template <class Form>
 struct WrongStep : Form {
     YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
@@ -163,7 +163,7 @@ struct WrongStep : Form {
     }
 };
 
-TEST_F(CycbcrLevels, a_wrong_step_is_detected)
+TEST_F(CycbcrLevels, a_wrong_step_is_told_apart)
 {
     const std::vector<uint8_t> grey(256, 0x80);
     const std::vector<uint32_t> grey_groups(64, 512u | 512u << 10 | 512u << 20);
@@ -183,7 +183,7 @@ TEST_F(CycbcrLevels, a_wrong_step_is_detected)
     }
 }
 
-TEST_F(CycbcrLevels, a_wrong_step_under_masks_is_detected)
+TEST_F(CycbcrLevels, a_wrong_step_behind_masks_is_told_apart)
 {
     if (!machine_has(InstructionSet::avx512)) GTEST_SKIP() << "no step of this machine has masks";
     const std::vector<uint8_t> grey(64, 0x80);
@@ -197,8 +197,8 @@ TEST_F(CycbcrLevels, a_wrong_step_under_masks_is_detected)
     }
 }
 
-// What is exported takes one of the levels: a padded frame against single lines.
-TEST(Cycbcr, frames_are_their_lines)
+// What is exported takes one of the levels: a padded frame against plain lines.
+TEST(Cycbcr, frames_are_plain_lines)
 {
     Random random(12);
     for (int width = 0; width < 150; ++width) {
@@ -221,7 +221,7 @@ TEST(Cycbcr, frames_are_their_lines)
     }
 }
 
-TEST(Cycbcr, the_best_level_is_the_highest_that_the_machine_has)
+TEST(Cycbcr, the_best_level_is_the_widest_that_the_machine_has)
 {
     EXPECT_TRUE(machine_has(InstructionSet::scalar));
     EXPECT_EQ(best_level(), simd_levels().empty() ? InstructionSet::scalar : simd_levels().back());

@@ -1,4 +1,4 @@
-// A file as PPM and PAM pictures, one after the other.
+// A file as PPM and PAM pictures, one behind the other.
 #include "pnm.h"
 
 #include "failure.h"

@@ -24,7 +24,7 @@ void tell_written(const char* name, unsigned width, Write write)
     std::printf("%s %u %zu\n", name, width, at);
 }
 
-// A frame that is read: ones from `at` on give the second line's first pixel as long as `at` is not past it.
+// A frame that is read: ones from `at` on give the second line's first pixel as long as `at` is not behind it.
 template <class Read>
 void tell_read(const char* name, unsigned width, Read read)
 {
@@ -72,7 +72,7 @@ void tell(unsigned width)
         tntvt_yuv422_10_rgb32(pixels.data(), w * 4, src, 0, w, 2, 1);
         return green(4);
     });
-    // The last packet has the first pgroup of the second line, if that is after the packet.
+    // The last packet holds the first pgroup of the second line, if that lies behind the packet.
     if (width % 2 == 0 && width >= 576)
         tell_read("tntvt_v210_frame_to_rtp_4175", width, [&](uint8_t* frame) {
             unsigned short seq = 0;

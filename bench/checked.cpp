@@ -1,5 +1,5 @@
 // What a checked call adds to the bare one: every routine over two lines of 6 pixels, bare, checked and checked
-// in C, in the same run. The extents are told from the numbers alone, so a larger picture costs the same; but a
+// in C, in the same run. The extents follow from the numbers alone, so a larger picture costs the same; but a
 // run-length coded stream is scanned to its end.
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
@@ -17,6 +17,7 @@
 #include "catalog.h"
 #include "geometry.h"
 #include "routine_id.h"
+#include "support/call_memory.h"
 
 namespace {
 
@@ -24,36 +25,36 @@ using namespace tintvert;
 using namespace tintvert::catalog;
 using checked::Buffer;
 
+// Two lines of 6 pixels, or a run-length coded stream.
+Arguments small_call(const Routine& routine)
+{
+    static constexpr uint8_t stream[] = {3, 5, 0, 1};
+    Arguments numbers = plain_call(routine, {6, 2});
+    if (numbers[Arg::palette] != 0) numbers[Arg::src] = reinterpret_cast<int64_t>(stream);
+    numbers[Arg::streamSize] = sizeof stream;
+    return numbers;
+}
+
 // One call in memory of its own: the numbers, and a buffer for each place among the arguments.
 struct Prepared {
     const Routine& routine;
     Arguments numbers;
-    std::vector<std::vector<uint8_t>> memory;
+    test::Random random{1};
+    test::CallMemory memory;
     std::array<Buffer, 16> at_place;
     std::array<tntvt_checked_buffer, 16> at_place_in_c;
 
-    explicit Prepared(const Routine& of) : routine(of), numbers(plain_call(of, {6, 2}))
+    explicit Prepared(const Routine& of) : routine(of), numbers(small_call(of)), memory(random, of, numbers)
     {
-        static constexpr uint8_t stream[] = {3, 5, 0, 1};
-        if (numbers[Arg::palette] != 0) numbers[Arg::src] = reinterpret_cast<int64_t>(stream);
-        numbers[Arg::streamSize] = sizeof stream;
-        const Extents extents = routine.extents(numbers);
-        for (size_t place = 0; place < routine.arguments.size(); ++place) {
-            const Arg argument = routine.arguments[place];
-            if (describe(argument).kind != Argument::buffer) continue;
-            int64_t begin = 0, end = 0;
-            for (const Touch& touch : extents) {
-                if (touch.buffer != argument) continue;
-                begin = std::min({begin, touch.read.begin, touch.written.begin});
-                end = std::max({end, touch.read.end, touch.written.end});
-            }
-            memory.emplace_back(static_cast<size_t>(end - begin));
-            if (argument == Arg::src && numbers[Arg::palette] != 0)
-                std::copy(std::begin(stream), std::end(stream), memory.back().begin());
-            at_place[place] = Buffer(memory.back()).at(-begin);
-            const Buffer& buffer = at_place[place];
+        memory.point(numbers);
+        for (test::CallMemory::Place& one : memory.places()) {
+            const auto place =
+                static_cast<size_t>(std::ranges::find(of.arguments, one.argument) - of.arguments.begin());
+            const catalog::Range& range = one.buffer.range();
+            const Buffer buffer =
+                Buffer(one.buffer.pointer() + range.begin, one.buffer.bytes().size()).at(-range.begin);
+            at_place[place] = buffer;
             at_place_in_c[place] = {buffer.pointer(), buffer.size(), buffer.front()};
-            numbers[argument] = reinterpret_cast<int64_t>(buffer.pointer());
         }
     }
 
@@ -76,12 +77,12 @@ struct Prepared {
 };
 
 // Whether the call was made.
-template <class Told, class... Parameters>
-bool call(const Prepared& prepared, Told (*function)(Parameters...))
+template <class Result, class... Parameters>
+bool call(const Prepared& prepared, Result (*function)(Parameters...))
 {
     return [&]<size_t... place>(std::index_sequence<place...>)
     {
-        if constexpr (std::is_class_v<Told>)
+        if constexpr (std::is_class_v<Result>)
             return static_cast<int>(function(prepared.at<Parameters>(place)...).code) == 0;
         else
             return function(prepared.at<Parameters>(place)...), true;

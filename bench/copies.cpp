@@ -11,7 +11,7 @@ namespace {
 
 constexpr int64_t most = 64 << 20;
 
-// The same for both, since their places in memory tell.
+// The same for both, since their places in memory matter.
 std::vector<uint8_t> source(most + 64, 1), target(most + 64);
 
 template <class Copy>

@@ -1,4 +1,4 @@
-// Memory whose pointer stands on a cache line, as frames of video do, and elsewhere within its page than other memory:
+// Memory whose pointer is on a cache line, as frames of video do, and elsewhere within its page than other memory:
 // a load waits for a store before it to an address that is equal modulo 4096.
 #pragma once
 

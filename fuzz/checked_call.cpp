@@ -36,13 +36,13 @@ Answer answer_of(const checked::Result<Value>& result)
         return {result, static_cast<int64_t>(result.value)};
 }
 
-template <class Told, class... Parameters, size_t... place>
-Answer call(Told (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
+template <class Result, class... Parameters, size_t... place>
+Answer call(Result (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
 {
     return answer_of(function(values.at<Parameters>(place)...));
 }
-template <class Told, class... Parameters>
-Answer call(Told (*function)(Parameters...), const Values& values)
+template <class Result, class... Parameters>
+Answer call(Result (*function)(Parameters...), const Values& values)
 {
     return call(function, values, std::index_sequence_for<Parameters...>{});
 }

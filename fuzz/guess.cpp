@@ -1,4 +1,4 @@
-// What a file of raw frames may hold, by its name, its length and its bytes.
+// What a file of raw frames may contain, by its name, its length and its bytes.
 //
 //     length, three bytes   length of the name   name   bytes that fill the file, repeated
 #include "guess.h"

@@ -1,4 +1,4 @@
-// The bytes of one fuzz case, taken as numbers from the front. Behind the end there are zeros.
+// The bytes of one fuzz case, taken as numbers from the front. Past the end there are zeros.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// What has to hold. The sanitizers and libFuzzer tell the rest.
+// What has to be true. The sanitizers and libFuzzer report everything else.
 #pragma once
 
 #include <cstdio>

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <cstring>
 #include <fstream>
 #include <map>
 #include <set>
@@ -27,22 +26,13 @@ std::string outcome(const Routine& routine, catalog::Arguments call, uint64_t se
 {
     if (!catalog::refusal(routine, call).empty()) return {};
     Random random(seed);
-    const catalog::Extents extents = routine.extents(call);
-    std::vector<Memory> memories;
-    memories.reserve(8);
-    std::vector<Arg> buffers;
-    for (const Arg argument : routine.arguments)
-        if (describe(argument).kind == catalog::Argument::buffer) buffers.push_back(argument);
-    for (const Arg buffer : buffers) {
-        const catalog::Range touched = touched_in(extents, buffer);
-        if (touched.begin < -reach || touched.end > reach) return {};
-        memories.emplace_back(random, catalog::Range{-reach, reach});
-        if (takes(routine, Arg::palette) && buffer == Arg::src)
-            std::memcpy(memories.back().pointer(), call.as<const uint8_t*>(Arg::src), call.as<size_t>(Arg::streamSize));
-    }
-    for (size_t i = 0; i < buffers.size(); ++i) call[buffers[i]] = memories[i].address();
+    CallMemory memory(random, routine, call, {-reach, reach});
+    for (const CallMemory::Place& place : memory.places())
+        if (place.accessed.begin < -reach || place.accessed.end > reach) return {};
+    memory.point(call);
     std::string result = std::to_string(routine.result.ends_with('*') ? 0 : routine.call(call));
-    for (const Memory& memory : memories) result.append(memory.bytes().begin(), memory.bytes().end());
+    for (const CallMemory::Place& place : memory.places())
+        result.append(place.buffer.bytes().begin(), place.buffer.bytes().end());
     return result;
 }
 

@@ -33,9 +33,9 @@ Comparison compare(Random& random, const catalog::Routine& routine, catalog::Arg
     const catalog::Extents two = routine.extents(call);
     call[Arg::src] = call[Arg::dst];
     const catalog::Extents one = routine.extents(call);
-    catalog::Range range = hull(touched_in(two, Arg::dst), touched_in(two, Arg::src));
-    range = hull(range, hull(touched_in(one, Arg::dst), touched_in(one, Arg::src)));
-    Memory dst(random, {range.begin - margin, range.end + margin}), src = dst, both = dst;
+    catalog::Range range = hull(accessed_in(two, Arg::dst), accessed_in(two, Arg::src));
+    range = hull(range, hull(accessed_in(one, Arg::dst), accessed_in(one, Arg::src)));
+    CallBuffer dst(random, {range.begin - margin, range.end + margin}), src = dst, both = dst;
     call[Arg::dst] = dst.address();
     call[Arg::src] = src.address();
     routine.call(call);

@@ -26,7 +26,7 @@ TEST(CheckedInC, converts_and_refuses)
     EXPECT_EQ(yuv[0], 99);
 }
 
-TEST(CheckedInC, tells_the_extents_without_a_call)
+TEST(CheckedInC, reports_the_extents_without_a_call)
 {
     tntvt_checked_extents extents;
     const tntvt_checked_options options = {0, &extents};
@@ -43,19 +43,19 @@ TEST(CheckedInC, lets_no_exception_out)
     unsigned char frame[32] = {};
     const tntvt_checked_buffer dst = {frame, 16, 0}, src = {frame + 16, 16, 0};
     copies_throw = true;
-    const tntvt_checked_result told = checked_tntvt_copy_interleaved(dst, 8, src, 8, 0, 2, nullptr);
+    const tntvt_checked_result reported = checked_tntvt_copy_interleaved(dst, 8, src, 8, 0, 2, nullptr);
     EXPECT_THROW(tntvt_copy_interleaved(frame, 8, frame + 16, 8, 0, 2), Thrown);
     copies_throw = false;
-    EXPECT_EQ(told.code, TNTVT_CHECKED_FAILED);
+    EXPECT_EQ(reported.code, TNTVT_CHECKED_FAILED);
     char text[100];
-    tntvt_checked_message(&told, text, sizeof text);
+    tntvt_checked_message(&reported, text, sizeof text);
     EXPECT_STREQ(text, "tntvt_copy_interleaved: a companion library threw an exception");
 }
 
 }  // namespace
 }  // namespace tintvert::test
 
-// The program's own copy stands in for the companion's.
+// The program's own copy replaces the companion's.
 void CopyMemoryFast(void* destination, const void* source, unsigned int bytes)
 {
     if (tintvert::test::copies_throw) throw tintvert::test::Thrown{};

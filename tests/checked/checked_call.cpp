@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
-#include "extents.h"
 #include "routine_id.h"
 
 namespace tintvert::test {
@@ -47,13 +45,13 @@ struct Values {
     }
 };
 
-template <class Told, class... Parameters, size_t... place>
-Told call(Told (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
+template <class Result, class... Parameters, size_t... place>
+Result call(Result (*function)(Parameters...), const Values& values, std::index_sequence<place...>)
 {
     return function(values.at<Parameters>(place)...);
 }
-template <class Told, class... Parameters>
-Told call(Told (*function)(Parameters...), const Values& values)
+template <class Result, class... Parameters>
+Result call(Result (*function)(Parameters...), const Values& values)
 {
     return call(function, values, std::index_sequence_for<Parameters...>{});
 }
@@ -69,20 +67,20 @@ Answer answer_of(const checked::Result<Value>& result)
         return {result, result.value};
 }
 
-Answer answer_of(const tntvt_checked_result& told)
+Answer answer_of(const tntvt_checked_result& reported)
 {
     checked::Error error;
-    error.code = static_cast<checked::Code>(told.code);
-    error.refusal = static_cast<checked::Refusal>(told.refusal);
-    error.routine = told.routine;
-    error.buffer = told.buffer;
-    error.other = told.other;
-    error.why = told.why;
-    error.has = told.has;
-    error.front = told.front;
-    error.needs = told.needs;
-    error.where = range_of(told.where);
-    return {error, told.pointer != nullptr ? reinterpret_cast<int64_t>(told.pointer) : told.value};
+    error.code = static_cast<checked::Code>(reported.code);
+    error.refusal = static_cast<checked::Refusal>(reported.refusal);
+    error.routine = reported.routine;
+    error.buffer = reported.buffer;
+    error.other = reported.other;
+    error.why = reported.why;
+    error.has = reported.has;
+    error.front = reported.front;
+    error.needs = reported.needs;
+    error.where = range_of(reported.where);
+    return {error, reported.pointer != nullptr ? reinterpret_cast<int64_t>(reported.pointer) : reported.value};
 }
 
 template <auto function>
@@ -103,8 +101,6 @@ constexpr std::array<Run, catalog::routine_count> runs_in_c = {
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };
-
-constexpr int64_t margin = 48;
 
 }  // namespace
 
@@ -136,41 +132,17 @@ std::string text_of(const catalog::Routine& routine, const catalog::Arguments& n
     return text;
 }
 
-Buffer Scene::Place::exactly(uint8_t* pointer, catalog::Range range)
+Buffer exactly(uint8_t* pointer, catalog::Range range)
 {
     return Buffer(pointer + range.begin, static_cast<size_t>(range.end - range.begin)).at(-range.begin);
 }
 
-Scene::Scene(Random& random, const catalog::Routine& routine, const catalog::Arguments& numbers)
-{
-    for (const catalog::Touch& touch : routine.extents(numbers)) {
-        const catalog::Range touched = catalog::extents::join(touch.read, touch.written);
-        const catalog::Range around = {std::min<int64_t>(touched.begin, 0) - margin,
-                                       std::max<int64_t>(touched.end, 0) + margin};
-        places_.push_back({touch.buffer, touched, touch.written, Memory(random, around)});
-        if (takes(routine, Arg::palette) && touch.buffer == Arg::src && !touched.empty())
-            std::memcpy(places_.back().memory.pointer(), numbers.as<const uint8_t*>(Arg::src),
-                        numbers.as<size_t>(Arg::streamSize));
-    }
-}
-
-std::vector<Given> Scene::given()
+std::vector<Given> exact_buffers(CallMemory& memory)
 {
     std::vector<Given> result;
-    for (Place& place : places_) result.push_back({place.argument, place.buffer(place.touched)});
+    for (CallMemory::Place& place : memory.places())
+        result.push_back({place.argument, exactly(place.buffer.pointer(), place.accessed)});
     return result;
-}
-
-void Scene::point(catalog::Arguments& numbers)
-{
-    for (Place& place : places_) numbers[place.argument] = place.memory.address();
-}
-
-bool Scene::same_bytes(const Scene& other) const
-{
-    return std::ranges::equal(places_, other.places_, [](const Place& one, const Place& two) {
-        return one.memory.bytes() == two.memory.bytes();
-    });
 }
 
 }  // namespace tintvert::test

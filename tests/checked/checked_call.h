@@ -12,6 +12,8 @@
 
 namespace tintvert::test {
 
+constexpr int64_t margin = 48;  // of the memory around what a call accesses
+
 struct Given {
     catalog::Arg argument;
     checked::Buffer buffer;
@@ -30,29 +32,10 @@ Answer call_checked_in_c(const catalog::Routine& routine, const catalog::Argumen
 
 std::string text_of(const catalog::Routine& routine, const catalog::Arguments& numbers);
 
-// The memory of one call: for each buffer that it touches, its bytes and a margin around them.
-class Scene {
-public:
-    Scene(Random& random, const catalog::Routine& routine, const catalog::Arguments& numbers);
+// Memory of just these bytes around the pointer.
+checked::Buffer exactly(uint8_t* pointer, catalog::Range range);
 
-    struct Place {
-        catalog::Arg argument;
-        catalog::Range touched;  // from the lowest to the highest byte; may be empty
-        catalog::Range written;
-        Memory memory;
-
-        // Memory of just these bytes about the pointer.
-        checked::Buffer buffer(catalog::Range range) { return exactly(memory.pointer(), range); }
-        static checked::Buffer exactly(uint8_t* pointer, catalog::Range range);
-    };
-
-    std::vector<Place>& places() { return places_; }
-    std::vector<Given> given();
-    void point(catalog::Arguments& numbers);  // the addresses of the buffers
-    bool same_bytes(const Scene& other) const;
-
-private:
-    std::vector<Place> places_;
-};
+// Buffers of just what the call accesses.
+std::vector<Given> exact_buffers(CallMemory& memory);
 
 }  // namespace tintvert::test

@@ -23,13 +23,13 @@ void expect_equal(Checked call, uint64_t seed)
         Random random(seed);
         for (int round = 0; round < rounds; ++round) {
             catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers), bare = scene;
-            const Answer answer = call(routine, numbers, scene.given(), {});
+            CallMemory memory(random, routine, numbers, margin), bare = memory;
+            const Answer answer = call(routine, numbers, exact_buffers(memory), {});
             ASSERT_TRUE(answer.error) << text_of(routine, numbers) << '\n' << answer.error.message();
             bare.point(numbers);
             const int64_t value = routine.call(numbers);
-            ASSERT_TRUE(scene.same_bytes(bare)) << text_of(routine, numbers);
-            if (!routine.result.ends_with('*') || scene.places().empty())
+            ASSERT_TRUE(memory == bare) << text_of(routine, numbers);
+            if (!routine.result.ends_with('*') || memory.places().empty())
                 ASSERT_EQ(answer.value, value) << text_of(routine, numbers);
             else
                 ASSERT_NE(answer.value, 0) << text_of(routine, numbers);
@@ -53,10 +53,10 @@ TEST(CheckedCall, equals_the_bare_routine_in_place)
             numbers[Arg::src] = numbers[Arg::dst];
             if (!catalog::refusal(routine, numbers).empty() || !promised_in_place(routine, numbers)) continue;
             const catalog::Extents extents = routine.extents(numbers);
-            const catalog::Range dst = touched_in(extents, Arg::dst), src = touched_in(extents, Arg::src);
+            const catalog::Range dst = accessed_in(extents, Arg::dst), src = accessed_in(extents, Arg::src);
             const catalog::Range range = {std::min(dst.begin, src.begin), std::max(dst.end, src.end) + 1};
-            Memory one(random, range), other = one;
-            const checked::Buffer buffer = Scene::Place::exactly(one.pointer(), range);
+            CallBuffer one(random, range), other = one;
+            const checked::Buffer buffer = exactly(one.pointer(), range);
             const Answer answer = call_checked(routine, numbers, {{Arg::dst, buffer}, {Arg::src, buffer}});
             ASSERT_TRUE(answer.error) << text_of(routine, numbers) << '\n' << answer.error.message();
             numbers[Arg::dst] = numbers[Arg::src] = other.address();
@@ -64,9 +64,9 @@ TEST(CheckedCall, equals_the_bare_routine_in_place)
             ASSERT_EQ(one.bytes(), other.bytes()) << text_of(routine, numbers);
             ++called;
         }
-        const bool told =
+        const bool expected =
             in_place(routine) == catalog::InPlace::as_apart || in_place(routine) == catalog::InPlace::in_its_way;
-        EXPECT_EQ(called > 20, told) << routine.name;
+        EXPECT_EQ(called > 20, expected) << routine.name;
     }
 }
 

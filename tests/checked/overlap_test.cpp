@@ -14,23 +14,19 @@ constexpr int rounds = 200;
 
 // Two buffers of a call in one memory: the second begins `shared` bytes below the end of what the first writes.
 struct Pair {
-    Scene& scene;
+    CallMemory& call;
     size_t one, other;
     int64_t shared;
     std::vector<uint8_t> memory;
 
-    Pair(Scene& of, size_t i, size_t j, int64_t bytes) : scene(of), one(i), other(j), shared(bytes)
+    Pair(CallMemory& of, size_t i, size_t j, int64_t bytes) : call(of), one(i), other(j), shared(bytes)
     {
-        memory.resize(static_cast<size_t>(all().end - all().begin + length(other)));
+        const catalog::Range second = call.places()[other].accessed;
+        memory.resize(static_cast<size_t>(all().end - all().begin + second.end - second.begin));
     }
 
-    catalog::Range all() const { return scene.places()[one].touched; }
-    int64_t length(size_t place) const
-    {
-        const catalog::Range touched = scene.places()[place].touched;
-        return touched.end - touched.begin;
-    }
-    // The same pointer is a frame in place, of which one buffer has to hold all.
+    catalog::Range all() const { return call.places()[one].accessed; }
+    // The same pointer is a frame in place, of which one buffer has to contain all.
     bool in_place()
     {
         const std::vector<Given> buffers = given();
@@ -38,12 +34,12 @@ struct Pair {
     }
     std::vector<Given> given()
     {
-        std::vector<Given> result = scene.given();
+        std::vector<Given> result = exact_buffers(call);
         uint8_t* const first = memory.data() - all().begin;
-        const Scene::Place& second = scene.places()[other];
-        uint8_t* const lies_at = first + scene.places()[one].written.end - shared;
-        result[one].buffer = Scene::Place::exactly(first, all());
-        result[other].buffer = Scene::Place::exactly(lies_at - second.touched.begin, second.touched);
+        const catalog::Range second = call.places()[other].accessed;
+        uint8_t* const begin = first + call.places()[one].written.end - shared;
+        result[one].buffer = exactly(first, all());
+        result[other].buffer = exactly(begin - second.begin, second);
         return result;
     }
 };
@@ -56,14 +52,14 @@ TEST(CheckedOverlap, of_one_byte_is_refused_and_of_none_is_not)
         Random random(21);
         for (int round = 0; round < rounds; ++round) {
             const catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            for (size_t i = 0; i < scene.places().size(); ++i)
-                for (size_t j = 0; j < scene.places().size(); ++j) {
-                    const Scene::Place &one = scene.places()[i], &other = scene.places()[j];
-                    if (i == j || one.written.empty() || other.touched.empty()) continue;
-                    if (one.written.end != one.touched.end) continue;
+            CallMemory memory(random, routine, numbers, margin);
+            for (size_t i = 0; i < memory.places().size(); ++i)
+                for (size_t j = 0; j < memory.places().size(); ++j) {
+                    const CallMemory::Place &one = memory.places()[i], &other = memory.places()[j];
+                    if (i == j || one.written.empty() || other.accessed.empty()) continue;
+                    if (one.written.end != one.accessed.end) continue;
                     if (takes(routine, Arg::palette) && other.argument == Arg::src) continue;
-                    Pair touching(scene, i, j, 0), sharing(scene, i, j, 1);
+                    Pair touching(memory, i, j, 0), sharing(memory, i, j, 1);
                     if (sharing.in_place()) continue;
                     const std::vector<uint8_t> before = sharing.memory;
                     const checked::Error error = call_checked(routine, numbers, sharing.given()).error;
@@ -101,8 +97,8 @@ TEST(CheckedOverlap, in_place_is_refused_where_nothing_is_promised)
         Random random(22);
         for (int round = 0; round < rounds; ++round) {
             const catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            if (scene.places().size() != 2 || promised_in_place(routine, numbers)) continue;
+            const catalog::Extents extents = routine.extents(numbers);
+            if (extents.end() - extents.begin() != 2 || promised_in_place(routine, numbers)) continue;
             std::vector<uint8_t> memory(100000), before = memory;
             const checked::Buffer both = checked::Buffer(memory).at(50000);
             const std::vector<Given> given = {{Arg::dst, both}, {Arg::src, both}};

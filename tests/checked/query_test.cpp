@@ -1,4 +1,4 @@
-// A query tells the extents of the catalogue and calls nothing, and a good call takes nothing from the heap.
+// A query reports the extents of the catalogue and calls nothing, and a good call takes nothing from the heap.
 #include <gtest/gtest.h>
 
 #include "../imports/heap.h"
@@ -9,23 +9,23 @@ namespace {
 
 using catalog::Arg;
 
-TEST(CheckedQuery, tells_the_extents_and_touches_nothing)
+TEST(CheckedQuery, reports_the_extents_and_touches_nothing)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
         Random random(41);
         for (int round = 0; round < 100; ++round) {
             const catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            const Scene before = scene;
+            CallMemory memory(random, routine, numbers, margin);
+            const CallMemory before = memory;
             for (const auto call : {call_checked, call_checked_in_c}) {
-                checked::Extents told;
-                ASSERT_TRUE(call(routine, numbers, scene.given(), {.query = &told}).error);
-                ASSERT_TRUE(scene.same_bytes(before));
+                checked::Extents reported;
+                ASSERT_TRUE(call(routine, numbers, exact_buffers(memory), {.query = &reported}).error);
+                ASSERT_TRUE(memory == before);
                 const catalog::Extents extents = routine.extents(numbers);
-                ASSERT_EQ(told.end() - told.begin(), extents.end() - extents.begin());
-                for (ptrdiff_t i = 0; i < told.end() - told.begin(); ++i) {
+                ASSERT_EQ(reported.end() - reported.begin(), extents.end() - extents.begin());
+                for (ptrdiff_t i = 0; i < reported.end() - reported.begin(); ++i) {
                     const catalog::Touch& one = extents.begin()[i];
-                    const checked::Touch& other = told.begin()[i];
+                    const checked::Touch& other = reported.begin()[i];
                     ASSERT_EQ(other.buffer, describe(one.buffer).name);
                     ASSERT_EQ(other.read, (checked::Range{one.read.begin, one.read.end}));
                     ASSERT_EQ(other.written, (checked::Range{one.written.begin, one.written.end}));
@@ -52,11 +52,11 @@ TEST(CheckedHeap, gives_nothing_to_a_good_call)
         Random random(42);
         for (int round = 0; round < 100; ++round) {
             catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            const std::vector<Given> given = scene.given();
+            CallMemory memory(random, routine, numbers, margin);
+            const std::vector<Given> given = exact_buffers(memory);
             const size_t checked = heap_calls_of([&] { (void)call_checked(routine, numbers, given); }).size();
             const size_t in_c = heap_calls_of([&] { (void)call_checked_in_c(routine, numbers, given); }).size();
-            scene.point(numbers);
+            memory.point(numbers);
             const size_t bare = heap_calls_of([&] { routine.call(numbers); }).size();
             ASSERT_EQ(checked, bare) << text_of(routine, numbers);
             ASSERT_EQ(in_c, bare) << text_of(routine, numbers);

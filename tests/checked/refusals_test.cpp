@@ -159,7 +159,7 @@ std::vector<Given> buffers_of(const catalog::Routine& routine, const catalog::Ar
     return given;
 }
 
-TEST(CheckedRefusals, are_told_by_kind_and_sentence)
+TEST(CheckedRefusals, are_reported_by_kind_and_sentence)
 {
     for (const Row& row : rows) {
         const catalog::Routine* routine = catalog::find(row.routine);

@@ -11,13 +11,13 @@ using catalog::Arg;
 
 constexpr int rounds = 60;
 
-void expect_refused(const catalog::Routine& routine, const catalog::Arguments& numbers, Scene& scene, size_t of,
+void expect_refused(const catalog::Routine& routine, const catalog::Arguments& numbers, CallMemory& memory, size_t of,
                     const checked::Buffer& buffer, checked::Code code)
 {
-    const Scene before = scene;
-    std::vector<Given> given = scene.given();
+    const CallMemory before = memory;
+    std::vector<Given> given = exact_buffers(memory);
     given[of].buffer = buffer;
-    const Scene::Place& place = scene.places()[of];
+    const CallMemory::Place& place = memory.places()[of];
     for (const auto call : {call_checked, call_checked_in_c}) {
         const checked::Error error = call(routine, numbers, given, {}).error;
         const std::string text = text_of(routine, numbers);
@@ -26,10 +26,10 @@ void expect_refused(const catalog::Routine& routine, const catalog::Arguments& n
         ASSERT_EQ(error.routine, routine.name);
         ASSERT_EQ(error.has, buffer.size()) << text;
         ASSERT_EQ(error.front, buffer.front()) << text;
-        ASSERT_EQ(error.where, (checked::Range{place.touched.begin, place.touched.end})) << text;
-        const auto needs = std::max<int64_t>(place.touched.end, 0) - std::min<int64_t>(place.touched.begin, 0);
+        ASSERT_EQ(error.where, (checked::Range{place.accessed.begin, place.accessed.end})) << text;
+        const auto needs = std::max<int64_t>(place.accessed.end, 0) - std::min<int64_t>(place.accessed.begin, 0);
         ASSERT_EQ(error.needs, static_cast<uint64_t>(needs)) << text;
-        ASSERT_TRUE(scene.same_bytes(before)) << text;
+        ASSERT_TRUE(memory == before) << text;
     }
 }
 
@@ -83,17 +83,20 @@ TEST(CheckedBuffers, one_byte_short_are_refused)
         Random random(11);
         for (int round = 0; round < rounds; ++round) {
             const catalog::Arguments numbers = random_call(random, routine);
-            Scene scene(random, routine, numbers);
-            for (size_t i = 0; i < scene.places().size(); ++i, ++cases) {
-                Scene::Place& place = scene.places()[i];
-                const auto [begin, end] = place.touched;
-                if (place.touched.empty()) continue;
-                expect_refused(routine, numbers, scene, i, place.buffer({begin, end - 1}), checked::Code::too_small);
+            CallMemory memory(random, routine, numbers, margin);
+            for (size_t i = 0; i < memory.places().size(); ++i, ++cases) {
+                CallMemory::Place& place = memory.places()[i];
+                const auto [begin, end] = place.accessed;
+                uint8_t* const pointer = place.buffer.pointer();
+                if (place.accessed.empty()) continue;
+                expect_refused(routine, numbers, memory, i, exactly(pointer, {begin, end - 1}),
+                               checked::Code::too_small);
                 // Without its first byte a stream is not read, and what it needs is that byte.
                 if (takes(routine, Arg::palette) && place.argument == Arg::src) continue;
-                expect_refused(routine, numbers, scene, i, place.buffer({begin + 1, end}), checked::Code::too_small);
+                expect_refused(routine, numbers, memory, i, exactly(pointer, {begin + 1, end}),
+                               checked::Code::too_small);
                 if (means_something_null(routine, numbers, place.argument)) continue;
-                expect_refused(routine, numbers, scene, i, {}, checked::Code::null);
+                expect_refused(routine, numbers, memory, i, {}, checked::Code::null);
                 if (HasFatalFailure()) return;
             }
         }
@@ -117,16 +120,16 @@ TEST(CheckedBuffers, streams_are_read_in_their_memory_alone)
     EXPECT_EQ(frame[0], 0);
 }
 
-TEST(CheckedBuffers, messages_tell_where)
+TEST(CheckedBuffers, messages_say_where)
 {
     std::vector<uint8_t> rgb(1920 * 1080 * 4), yuv(1920 * 1080 * 2);
     const checked::Buffer small(yuv.data(), 1920 * 1079 * 2);
     EXPECT_EQ(checked::tntvt_rgb32_2vuy(small, 3840, rgb, 7680, 1920, 1080).message(),
               "dst: 4143360 bytes, needs 4147200 (from -0 to 4147200)");
-    // One line of `yuv` is read behind the frame.
+    // One line of `yuv` is read past the end of the frame.
     EXPECT_EQ(checked::tntvt_2yuv_to_alphay(rgb, 1920, yuv, 3840, 1920, 1080).message(),
               "src: 4147200 bytes, needs 4151040 (from 1 to 4151040)");
-    // Lines in front of `dst`.
+    // Lines before `dst`.
     EXPECT_EQ(checked::tntvt_rgba32_rgb24_invert(rgb, 30, rgb, 40, 10, -2).message(),
               "dst: 8294400 bytes, needs 120 (from -120 to -60)");
     EXPECT_EQ(checked::tntvt_rgba32_rgb24_invert(checked::Buffer(rgb).at(119), 30, yuv, 40, 10, -2).message(),

@@ -34,7 +34,7 @@ void expect_inside_fences(InstructionSet level, const Form& form, int width, Sid
     EXPECT_EQ(0, std::memcmp(dst.pointer(), expected.data(), bytes)) << name_of(level) << ' ' << width;
 }
 
-// No level reads behind the last sample that a line needs.
+// No level reads past the last sample that a line needs.
 TEST_F(CycbcrLevels, stay_between_fences)
 {
     Random random(10);

@@ -35,9 +35,10 @@ constexpr Matrix matrices[] = {{601, 0.299, 0.114}, {709, 0.2126, 0.0722}, {2020
 
 class Error {
 public:
-    void add(const uint8_t* pixel, const Rgb& told)
+    void add(const uint8_t* pixel, const Rgb& expected)
     {
-        for (const auto& [is, should] : {std::pair{pixel[0], told.b}, {pixel[1], told.g}, {pixel[2], told.r}}) {
+        for (const auto& [is, should] :
+             {std::pair{pixel[0], expected.b}, {pixel[1], expected.g}, {pixel[2], expected.r}}) {
             const int difference = std::abs(is - code(should));
             largest_ = std::max(largest_, difference);
             sum_ += difference;
@@ -82,7 +83,7 @@ TEST(CycbcrExhaustive, uyvy_within_one_code)
     }
 }
 
-// Every luma code with chroma codes on a grid that holds both ends and the middle, and random triples.
+// Every luma code with chroma codes on a grid with both ends and the middle, and random triples.
 TEST(CycbcrExhaustive, v210_within_one_code)
 {
     std::vector<unsigned> grid;

@@ -96,7 +96,7 @@ std::map<unsigned int, std::string> all_codes()
     return all;
 }
 
-TEST(FourCc, tells_the_class_of_each_code_and_of_its_mirror_image)
+TEST(FourCc, gives_the_class_of_each_code_and_of_its_mirror_image)
 {
     EXPECT_EQ(number_of("v210"), 0x30313276u);
     EXPECT_EQ(fccIsYCbCr10(0x30313276), 1);

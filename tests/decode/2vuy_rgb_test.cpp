@@ -9,6 +9,8 @@
 #include <cstring>
 #include <vector>
 
+#include "support/sanitized.h"
+
 namespace {
 
 using Memory = std::vector<uint8_t>;
@@ -19,7 +21,7 @@ struct Geometry {
     long dstStride, srcStride, width, height, scale;
 };
 
-// What a call leaves of `bytes` bytes of 0xEE; as many in front of them and behind them stay as they are.
+// What a call leaves of `bytes` bytes of 0xEE; as many before them and after them stay as they are.
 Memory decode(Decoder decoder, Memory src, size_t bytes, const Geometry& g)
 {
     const auto size = static_cast<ptrdiff_t>(bytes);
@@ -122,7 +124,7 @@ TEST(Yuv422Rgb24, odd_width_runs_its_last_group_whole)
               (Memory{0, 0, 0, 255, 130, 130, 130, 255, 254, 254, 254, 255, 255, 255, 255, 255, 0xEE, 0xEE}));
 }
 
-// The surplus of a line lies where the next line begins, and the next line is written later.
+// The surplus of a line is where the next line begins, and the next line is written later.
 TEST(Yuv422Rgb24, odd_width_in_tight_lines)
 {
     EXPECT_EQ(rgb24(greys({16, 255, 128, 255}), 12, {3, 4, 1, 2, 1}),
@@ -226,14 +228,6 @@ TEST(Yuv422Rgb24, first_call_and_later_calls_give_the_same)
     EXPECT_EQ(tnvtt_open(0, 0, 0, 0), 0);
     EXPECT_EQ(rgb24(src, 6, {6, 4, 2, 1, 1}), pair);
 }
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_SANITIZED 1
-#endif
-#endif
 
 #ifndef TINTVERT_TEST_SANITIZED  // sanitizers report the division in their own way
 TEST(Yuv422Rgb24DeathTest, scale_0_divides_by_zero)

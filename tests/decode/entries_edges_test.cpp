@@ -1,5 +1,5 @@
 // The decode entries where they take the tables, and full-range 4:4:4: bytes in, bytes out. Which calls go to
-// libycbcr is told in tests/imports.
+// What reaches libycbcr is in tests/imports.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -43,7 +43,7 @@ TEST(EntriesEdges, default_line_of_v210_is_128_bytes_for_48_pixels)
     }
 }
 
-// Any stride below 1 takes the default, and one of 1 stands.
+// Any stride below 1 takes the default, and one of 1 is taken.
 TEST(EntriesEdges, strides_of_0_and_below_are_replaced)
 {
     const Memory src = 400 * Memory{128, 16, 128, 235};
@@ -136,8 +136,8 @@ TEST(YuvijgRgb32Edges, keeps_alpha_0_of_yuvijg)
     for (size_t i = 3; i < dst.size(); i += 4) EXPECT_EQ(dst[i], 0);
 }
 
-// Both strides stand as they are: 0 is no default, and slack is left alone.
-TEST(YuvijgRgb32Edges, lines_stand_at_their_strides)
+// Both strides are taken unchanged: 0 is no default, and slack is left alone.
+TEST(YuvijgRgb32Edges, lines_begin_at_their_strides)
 {
     Memory src{10, 128, 128, 9, 9, 20, 128, 128, 9, 9, 30, 128, 128}, dst(17, 0xEE);
     tntvt_yuvijg_rgb32(dst.data() + 12, -6, src.data(), 5, 1, 3);

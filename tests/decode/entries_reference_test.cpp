@@ -1,4 +1,4 @@
-// The decode entries by tables, and full-range 4:4:4, against their second telling.
+// The decode entries by tables, and full-range 4:4:4, against their reference implementation.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -22,14 +22,14 @@ const Entry entries[] = {
     {"tntvt_yuv422_8_rgb32", tntvt_yuv422_8_rgb32, false, 4},
 };
 
-testing::AssertionResult agree(const Entry& entry, const Entry& told, Random& random, long dstStride, long srcStride,
-                               long width, long height, long scale)
+testing::AssertionResult agree(const Entry& entry, const Entry& expected, Random& random, long dstStride,
+                               long srcStride, long width, long height, long scale)
 {
     Arena src(random, 16, 9000), dst(random, 16, 16000);
     const int64_t from = random.between(0, 15), to = random.between(0, 15);
     entry.routine(dst.actual(to), dstStride, src.actual(from), srcStride, width, height, scale);
-    reference::entry_by_tables(told.ten_bits, told.bytes_a_pixel, dst.expected(to), dstStride, src.expected(from),
-                               srcStride, width, height, scale);
+    reference::entry_by_tables(expected.ten_bits, expected.bytes_a_pixel, dst.expected(to), dstStride,
+                               src.expected(from), srcStride, width, height, scale);
     const testing::AssertionResult result = dst.agrees(to, dstStride);
     if (result) return src.agrees(from);
     return testing::AssertionFailure() << entry.name << ", width " << width << ", height " << height << ", scale "
@@ -103,8 +103,9 @@ TEST(YuvijgExhaustive, every_pixel)
         }
         tntvt_yuvijg_rgb32(dst.data(), 1024, src.data(), 768, 256, 256);
         for (size_t i = 0; i < 65536; ++i) {
-            const auto told = reference::jpeg_pixel(y, static_cast<int>(i / 256), static_cast<int>(i % 256));
-            ASSERT_TRUE(std::equal(told.begin(), told.end(), &dst[4 * i])) << y << ' ' << i / 256 << ' ' << i % 256;
+            const auto expected = reference::jpeg_pixel(y, static_cast<int>(i / 256), static_cast<int>(i % 256));
+            ASSERT_TRUE(std::equal(expected.begin(), expected.end(), &dst[4 * i]))
+                << y << ' ' << i / 256 << ' ' << i % 256;
         }
     }
 }

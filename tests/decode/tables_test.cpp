@@ -1,4 +1,4 @@
-// The first-use tables, as they stand in the library's memory. A process has one first use only, so each of
+// The first-use tables, as they are in the library's memory. A process has one first use only, so each of
 // these tests runs in one that is started for it.
 #include <gtest/gtest.h>
 #include <tintvert.h>
@@ -26,7 +26,7 @@ void in_a_new_process(const std::function<void()>& work)
         testing::ExitedWithCode(0), "");
 }
 
-// The 8-bit tables stand once more inside the 10-bit ones, which have the same values around their zeroes.
+// The 8-bit tables are once more inside the 10-bit ones, which have the same values around their zeroes.
 void expect_use_of(bool shared, bool ten_bits)
 {
     for (const Table& table : reference::tables_of_2vuy())
@@ -126,8 +126,8 @@ TEST(Tables, wrong_entry_is_not_found)
     });
 }
 
-// The telling entries, so that what is looked for is right.
-TEST(Tables, telling_entries_of_ten_bits)
+// The entries that show the rule, so that what is looked for is right.
+TEST(Tables, expected_entries_of_ten_bits)
 {
     using namespace reference;
     EXPECT_EQ(luma_term_10(0), -1192);

@@ -1,10 +1,7 @@
 // `v210` to RGB: every code of every sample.
-#include <gtest/gtest.h>
-#include <tintvert.h>
-
 #include <vector>
 
-#include "reference/v210_decoders.h"
+#include "decoders.h"
 
 namespace tintvert::test {
 namespace {
@@ -48,47 +45,35 @@ protected:
     }
 };
 
-struct Decoder {
-    const char* name;
-    int bytes_a_pixel;
-    void (*routine)(void*, long, void*, long, long, long, long);
-    void (*told)(uint8_t*, int64_t, const uint8_t*, int64_t, int64_t, int64_t, int64_t);
-};
-
-const Decoder decoders[] = {
-    {"tntvt_v210_rgb24", 3, tntvt_v210_rgb24, reference::v210_rgb24},
-    {"tntvt_v210_rgb16", 2, tntvt_v210_rgb16, reference::v210_rgb16},
-};
-
 constexpr unsigned int factors[] = {1, 3, 117, 511, 1021, 1023};
 
 TEST_F(DecodersExhaustive, by_ten_bits)
 {
-    std::vector<uint8_t> dst(pixels * lines * 4), told = dst;
+    std::vector<uint8_t> dst(pixels * lines * 4), expected = dst;
     for (const unsigned int factor : factors) {
         for (const unsigned int start : {0u, 333u}) {
             std::vector<uint32_t> src = picture(factor, start);
             const int bgra = static_cast<int>(start);
             _v210_to_rgb(src.data(), dst.data(), pixels, lines, pixels * 4, bgra);
-            reference::v210_to_rgb(reinterpret_cast<const uint8_t*>(src.data()), told.data(), pixels, lines, pixels * 4,
-                                   bgra != 0);
-            ASSERT_TRUE(dst == told) << "Cr " << factor << " x Cb + " << start;
+            reference::v210_to_rgb(reinterpret_cast<const uint8_t*>(src.data()), expected.data(), pixels, lines,
+                                   pixels * 4, bgra != 0);
+            ASSERT_TRUE(dst == expected) << "Cr " << factor << " x Cb + " << start;
         }
     }
 }
 
 TEST_F(DecodersExhaustive, by_the_top_eight_bits)
 {
-    std::vector<uint8_t> dst(pixels * lines * 4), told = dst;
+    std::vector<uint8_t> dst(pixels * lines * 4), expected = dst;
     for (const unsigned int factor : factors) {
         std::vector<uint32_t> src = picture(factor, factor / 2);
-        for (const Decoder& decoder : decoders) {
+        for (const Decoder& decoder : decoders_of_v210) {
             for (const int64_t bytes : {decoder.bytes_a_pixel, 4}) {
                 const auto stride = static_cast<int64_t>(pixels) * bytes;
                 decoder.routine(dst.data(), stride, src.data(), words * 4, pixels, lines, 1);
-                decoder.told(told.data(), stride, reinterpret_cast<const uint8_t*>(src.data()), words * 4, pixels,
-                             lines, 1);
-                ASSERT_TRUE(dst == told) << decoder.name << ", Cr by " << factor;
+                decoder.reference(expected.data(), stride, reinterpret_cast<const uint8_t*>(src.data()), words * 4,
+                                  pixels, lines, 1);
+                ASSERT_TRUE(dst == expected) << decoder.name << ", Cr by " << factor;
             }
         }
     }

@@ -85,7 +85,7 @@ const Memory white = flat(512, 940, 512), black = flat(512, 64, 512), grey = fla
 const Memory of_white = 6 * Memory{254, 254, 254, 255}, of_black = 6 * Memory{0, 0, 0, 255},
              of_grey = 6 * Memory{130, 130, 130, 255};
 
-TEST(V210ToRgbEdges, lines_of_whole_groups_stand_at_their_stride)
+TEST(V210ToRgbEdges, lines_of_whole_groups_begin_at_their_stride)
 {
     const Memory gap(3, 0xEE);
     EXPECT_EQ(decode(white + black + grey, 81, 6, 3, 27, 1), of_white + gap + of_black + gap + of_grey + gap);
@@ -102,7 +102,7 @@ TEST(V210ToRgbEdges, stride_is_used_as_given)
     EXPECT_EQ(dst, of_black + of_white);
 }
 
-// 1280 x 3 are 640 groups. Lines 1 and 2 follow line 0 with no gap; line 3 begins with a group and stands at
+// 1280 x 3 are 640 groups. Lines 1 and 2 follow line 0 with no gap; line 3 begins with a group and is at
 // three strides.
 TEST(V210ToRgbEdges, width_1280_starts_afresh_every_third_line)
 {
@@ -141,7 +141,7 @@ TEST(V210ToRgbEdges, size_of_the_frame_wraps)
     _v210_to_rgb(nullptr, nullptr, -6, 1, 0, 1);
 }
 
-// -6 x -2 are two groups; the second stands at the line that 6 / -6 gives.
+// -6 x -2 are two groups; the second is at the line that 6 / -6 gives.
 TEST(V210ToRgbEdges, two_negative_sizes_are_a_frame)
 {
     Memory src = white + black, dst(50, 0xEE);

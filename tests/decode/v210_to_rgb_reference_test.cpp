@@ -1,4 +1,4 @@
-// `v210` to RGB by ten bits against its second telling: random frames and overlapping memory.
+// `v210` to RGB by ten bits against its reference implementation: random frames and overlapping memory.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -9,24 +9,10 @@
 
 #include "reference/v210_decoders.h"
 #include "support/arena.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
-
-// Tight, slack, smaller than a line, or any at all.
-int stride_for(Random& random, int tight)
-{
-    switch (random.between(0, 3)) {
-        case 0:
-            return tight;
-        case 1:
-            return tight + static_cast<int>(random.between(1, 50));
-        case 2:
-            return static_cast<int>(random.between(-tight, tight));
-        default:
-            return static_cast<int>(random.between(-200, 200));
-    }
-}
 
 struct Frame {
     int width, height, dstStride, bgraOrder;
@@ -38,12 +24,12 @@ std::ostream& operator<<(std::ostream& out, const Frame& frame)
                << frame.bgraOrder;
 }
 
-testing::AssertionResult agree(Random& random, const Frame& frame, int64_t from, int64_t to, const Frame& told)
+testing::AssertionResult agree(Random& random, const Frame& frame, int64_t from, int64_t to, const Frame& expected)
 {
     Arena memory(random, 6000, 12000);
     _v210_to_rgb(memory.actual(from), memory.actual(to), frame.width, frame.height, frame.dstStride, frame.bgraOrder);
-    reference::v210_to_rgb(memory.expected(from), memory.expected(to), told.width, told.height, told.dstStride,
-                           told.bgraOrder != 0);
+    reference::v210_to_rgb(memory.expected(from), memory.expected(to), expected.width, expected.height,
+                           expected.dstStride, expected.bgraOrder != 0);
     const testing::AssertionResult result = memory.agrees(to, frame.dstStride);
     return result ? result : testing::AssertionFailure() << frame << ": " << result.message();
 }
@@ -54,7 +40,7 @@ TEST(V210ToRgbReference, random_frames)
     for (int round = 0; round < 2500; ++round) {
         Frame frame{static_cast<int>(random.between(-2, 40)), static_cast<int>(random.between(-2, 12)), 0,
                     static_cast<int>(random.between(-1, 2))};
-        frame.dstStride = stride_for(random, std::abs(frame.width * 4));
+        frame.dstStride = static_cast<int>(any_stride(random, std::abs(frame.width * 4)));
         ASSERT_TRUE(agree(random, frame, 7000 + random.between(0, 15), random.between(0, 15), frame));
     }
 }

@@ -51,7 +51,7 @@ TEST(ChangeFieldEdges, no_lines_and_one)
     }
 }
 
-// In modes 5 to 8 a null source is told before the empty frame.
+// In modes 5 to 8 a null source is reported before the empty frame.
 TEST(ChangeFieldEdges, null_source_comes_before_no_lines)
 {
     for (const Change change : both) {
@@ -117,7 +117,7 @@ TEST(ChangeFieldEdges, slack_travels_with_the_line)
     }
 }
 
-// Lines of 7 bytes hold one pixel and 3 bytes over. The line copied takes all 7, the averaged one 4.
+// Lines of 7 bytes are one pixel and 3 bytes over. The line copied takes all 7, the averaged one 4.
 TEST(ChangeFieldEdges, bytes_over_are_not_averaged)
 {
     for (const unsigned int width : {0u, 1u, 5u}) {
@@ -157,7 +157,7 @@ TEST(ChangeFieldEdges, entry_copy_in_place)
     EXPECT_EQ(frame, counted(16, 1));
 }
 
-// Mode 3 with a source pitch of its own: the odd lines stand at it, the even ones at the destination's.
+// Mode 3 with a source pitch of its own: the odd lines begin at it, the even ones at the destination's.
 TEST(ChangeFieldEdges, exchange_at_two_pitches)
 {
     Bytes frame = counted(16, 1);

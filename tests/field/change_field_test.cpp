@@ -1,4 +1,4 @@
-// Frames of lines of 8 bytes, each line filled with one value unless told otherwise.
+// Frames of lines of 8 bytes, each line filled with one value unless a test says otherwise.
 #include <gtest/gtest.h>
 #include <tintvert/field.h>
 

@@ -123,7 +123,7 @@ TEST(DeinterlaceEdges, softness_is_capped_at_5500)
     }
 }
 
-// With K = 1, 9 x 6 x -1 over 101 is 0 and not -1, so the 1 of the first channel stands.
+// With K = 1, 9 x 6 x -1 over 101 is 0 and not -1, so the 1 of the first channel remains.
 TEST(DeinterlaceEdges, each_division_truncates_toward_zero)
 {
     EXPECT_TRUE(combed({0, 0, 0}, {1, 1, 0}, {0, 10, 0}, 0, 1));
@@ -168,7 +168,7 @@ TEST(DeinterlaceEdges, replaced_channels)
 }
 
 // Combed even lines: mended in mode 2, left in every other.
-TEST(DeinterlaceEdges, even_lines_are_mended_in_mode_2_only)
+TEST(DeinterlaceEdges, even_lines_are_repaired_in_mode_2_only)
 {
     const Line dark{10, 10, 10}, light{200, 200, 200};
     const std::vector<Line> lines{dark, dark, light, dark, dark};

@@ -67,7 +67,7 @@ TEST(Deinterlace, keeps_plain_copy_of_mode_17) { EXPECT_EQ(deinterlaced(17, 0, 0
 
 TEST(Deinterlace, keeps_next_line_for_first_two)
 {
-    // Line 1 stands out from line 2, and line 0 is not asked.
+    // Line 1 differs from line 2, and line 0 is not asked.
     EXPECT_EQ(line_of(deinterlaced(2, 300, 0, {200, 200, 100, 100}), 1), element(150));
     // The second of two lines has itself, and so has a single line.
     EXPECT_EQ(line_of(deinterlaced(2, 300, 0, {100, 200}), 0), element(100 * 3 / 2));

@@ -1,4 +1,4 @@
-// The field routines against their second tellings: random calls on separate, shared and overlapping memory,
+// The field routines against their reference implementation: random calls on separate, shared and overlapping memory,
 // and every pair of values where there are few.
 #include <gtest/gtest.h>
 #include <tintvert/field.h>
@@ -21,7 +21,7 @@ TEST_P(FieldReference, random_calls)
     for (int round = 0; round < 3000; ++round) {
         const FieldCall call = GetParam()(random);
         Arena memory(random, field_call_reach, field_call_reach);
-        EXPECT_EQ(call.library(memory.actual()), call.told(memory.expected())) << call.text;
+        EXPECT_EQ(call.library(memory.actual()), call.expected(memory.expected())) << call.text;
         EXPECT_TRUE(memory.agrees()) << call.text;
     }
 }
@@ -32,15 +32,16 @@ INSTANTIATE_TEST_SUITE_P(Calls, FieldReference, testing::ValuesIn(every_field_ca
 TEST(FieldOverlap, at_every_offset)
 {
     Random random(62);
-    const auto compare = [&](const char* name, int offset, const auto& library, const auto& told) {
+    const auto compare = [&](const char* name, int offset, const auto& library, const auto& expected) {
         Arena memory(random, 512, 1536);
-        EXPECT_EQ(library(memory.actual(offset), memory.actual()), told(memory.expected(offset), memory.expected()));
+        EXPECT_EQ(library(memory.actual(offset), memory.actual()),
+                  expected(memory.expected(offset), memory.expected()));
         EXPECT_TRUE(memory.agrees(offset)) << name << ", dst at " << offset;
     };
-    const auto both = [&](const char* name, int offset, auto* library, auto* told, auto call) {
+    const auto both = [&](const char* name, int offset, auto* library, auto* expected, auto call) {
         compare(
             name, offset, [&](uint8_t* dst, uint8_t* src) { return call(library, dst, src); },
-            [&](uint8_t* dst, uint8_t* src) { return call(told, dst, src); });
+            [&](uint8_t* dst, uint8_t* src) { return call(expected, dst, src); });
     };
     for (int offset = -64; offset <= 64; ++offset) {
         for (const unsigned int mode : {11u, 12u})
@@ -68,7 +69,7 @@ TEST(FieldOverlap, at_every_offset)
     }
 }
 
-// What the comparison above is worth: a call that differs in one number is told apart.
+// What the comparison above is worth: a call that differs in one number is detected.
 TEST(FieldReferenceHarness, rejects_a_wrong_form)
 {
     Random random(63);
@@ -78,17 +79,17 @@ TEST(FieldReferenceHarness, rejects_a_wrong_form)
         change(memory.expected(), memory.expected(1000));
         return memory.agrees();
     };
-    const auto told = [](unsigned int mode, unsigned int height, unsigned int dst_stride, unsigned int src_stride) {
+    const auto expected = [](unsigned int mode, unsigned int height, unsigned int dst_stride, unsigned int src_stride) {
         return [=](uint8_t* dst, uint8_t* src) {
             reference::change_field_rgb(dst, mode, 0, height, dst_stride, src, src_stride);
         };
     };
-    EXPECT_TRUE(agrees(told(11, 8, 40, 40)));
-    EXPECT_FALSE(agrees(told(9, 8, 40, 40)));
-    EXPECT_FALSE(agrees(told(11, 6, 40, 40)));
-    EXPECT_FALSE(agrees(told(11, 8, 40, 39)));
+    EXPECT_TRUE(agrees(expected(11, 8, 40, 40)));
+    EXPECT_FALSE(agrees(expected(9, 8, 40, 40)));
+    EXPECT_FALSE(agrees(expected(11, 6, 40, 40)));
+    EXPECT_FALSE(agrees(expected(11, 8, 40, 39)));
     EXPECT_FALSE(agrees([&](uint8_t* dst, uint8_t* src) {
-        told(11, 8, 40, 40)(dst, src);
+        expected(11, 8, 40, 40)(dst, src);
         dst[-1] ^= 1;
     }));
 }

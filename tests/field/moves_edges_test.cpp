@@ -61,7 +61,7 @@ TEST(FlipVertFlagsEdges, left_and_right)
     }
 }
 
-// No margin: whatever the flags say, nothing is cleared, before or behind the lines.
+// No margin: whatever the flags say, nothing is cleared, before or after the lines.
 TEST(FlipVertFlagsEdges, equal_pitches_have_no_margin)
 {
     for (const unsigned int flags : {0u, 0x1000000u, 0x2000000u, 0x4000000u, 0x8000000u}) {
@@ -81,7 +81,7 @@ TEST(FlipVertFlagsEdges, pitch_below_the_line)
         tntvt_flip_vert_flags(dst.data(), src.data(), 0, 0, 3, 2, 4, flags, 0);
         EXPECT_EQ(dst, (Bytes{9, 10, 5, 6, 1, 2, 3, 4, 0xEE, 0xEE}));
     }
-    // In place both lines stand at the pitch of 2: four bytes come up, two go down.
+    // In place both lines are at the pitch of 2: four bytes come up, two go down.
     Bytes frame = counted(8, 1);
     tntvt_flip_vert_flags(frame.data(), frame.data(), 0, 0, 3, 2, 4, 0x1000000, 0);
     EXPECT_EQ(frame, (Bytes{5, 6, 7, 8, 1, 2, 7, 8}));
@@ -225,7 +225,7 @@ TEST(CopyDissolveEdges, bytes_and_words_a_line)
     }
 }
 
-TEST(CopyDissolveEdges, telling_values)
+TEST(CopyDissolveEdges, expected_values)
 {
     const auto mixed = [](unsigned int fourcc, long width, Pixels dst, Pixels src) {
         EXPECT_EQ(tntvt_copy_dissolve(bytes(dst), bytes(src), 64, width, 1, fourcc), 0);

@@ -43,7 +43,7 @@ protected:
 
 uint32_t pixel_of(unsigned int first) { return first | (first + 1) << 8 | (first + 2) << 16 | (first + 3) << 24; }
 
-// Twice 0x80000004 is 8: line 2 stands at 8 and line 3 at 0x8000000C.
+// Twice 0x80000004 is 8: line 2 is at 8 and line 3 at 0x8000000C.
 TEST_F(Wraps, doubled_pitch_of_the_destination)
 {
     unsigned char src[64];
@@ -109,7 +109,7 @@ TEST_F(Wraps, start_of_the_bottom_half)
     EXPECT_EQ(pixel(half + 4), pixel_of(13));
     EXPECT_EQ(pixel(8), pixel_of(1));
     EXPECT_EQ(pixel(half + 12), pixel_of(9));
-    // Three lines to a field: line 2 of each lies past 2^32, and the bottom half begins at 0x8000000C.
+    // Three lines to a field: line 2 of each is past 2^32, and the bottom half begins at 0x8000000C.
     std::memset(far, 0, 64);
     std::memset(far + half, 0, 64);
     ASSERT_EQ(tntvt_change_field_rgb(far, 14, 0, 6, 0x80000004, src, 4), 0);
@@ -135,7 +135,7 @@ TEST_F(Wraps, pitches_added_to_a_pointer_do_not)
     EXPECT_EQ(far[whole + half + 7], 0);
 }
 
-// Offsets of flipped lines are products of 32 bits: line 2 of 0x80000004 stands at 8.
+// Offsets of flipped lines are products of 32 bits: line 2 of 0x80000004 is at 8.
 TEST_F(Wraps, offsets_of_flipped_lines)
 {
     unsigned char src[64];

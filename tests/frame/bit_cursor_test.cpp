@@ -82,7 +82,7 @@ TEST(BitCursor, counts_on_past_the_limit)
     for (size_t i = 1; i < 8; ++i) EXPECT_EQ(bytes[i], 0xFF) << i;
 }
 
-// Random reads and writes through one cursor against a plain array of bits.
+// Random reads and writes through one cursor against an array of bits.
 TEST(BitCursor, agrees_with_an_array_of_bits)
 {
     Random random(1);

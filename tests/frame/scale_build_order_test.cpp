@@ -11,17 +11,10 @@
 #include <memory>
 #include <vector>
 
+#include "support/sanitized.h"
 #include "ycbcr8/scale_tables.h"
 
-#if defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_TSAN 1
-#elif defined(__has_feature)
-#if __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_TSAN 1
-#endif
-#endif
-
-// The thread sanitizer holds signals back.
+// The thread sanitizer delays signals.
 #if defined(__x86_64__) && !defined(TINTVERT_TEST_TSAN)
 
 namespace tintvert::test {

@@ -6,7 +6,7 @@
 namespace tintvert::test {
 namespace {
 
-TEST(Scratch, holds_its_size_at_a_32_byte_boundary)
+TEST(Scratch, has_its_size_at_a_32_byte_boundary)
 {
     for (int size = 0; size <= 300; ++size) {
         void *raw = nullptr, *aligned = nullptr;

@@ -10,7 +10,7 @@ namespace {
 
 using Places = std::vector<std::pair<long, long>>;  // offsets of (dst, src), in the order of the walk
 
-// A pixel of 3 bytes in and 4 bytes out that notes where it stands.
+// A pixel of 3 bytes in and 4 bytes out that notes its place.
 struct Notes {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     Places* places;
@@ -46,7 +46,7 @@ TEST(WalkForward, begins_a_line_at_the_start_of_its_stride)
     EXPECT_EQ(forward(3, 2, 20, 11), (Places{{0, 0}, {4, 3}, {8, 6}, {20, 11}, {24, 14}, {28, 17}}));
 }
 
-TEST(WalkForward, takes_strides_as_they_stand)
+TEST(WalkForward, takes_strides_as_given)
 {
     EXPECT_EQ(forward(2, 3, -8, 0), (Places{{0, 0}, {4, 3}, {-8, 0}, {-4, 3}, {-16, 0}, {-12, 3}}));
     EXPECT_EQ(forward(2, 2, 1, 2), (Places{{0, 0}, {4, 3}, {1, 2}, {5, 5}}));
@@ -57,7 +57,7 @@ TEST(WalkBackward, ends_a_line_at_the_end_of_its_stride)
     EXPECT_EQ(backward(3, 2, 20, 11), (Places{{36, 19}, {32, 16}, {28, 13}, {16, 8}, {12, 5}, {8, 2}}));
 }
 
-TEST(WalkBackward, takes_strides_as_they_stand)
+TEST(WalkBackward, takes_strides_as_given)
 {
     EXPECT_EQ(backward(2, 2, -8, 0), (Places{{-20, -3}, {-24, -6}, {-12, -3}, {-16, -6}}));
 }

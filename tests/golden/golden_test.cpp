@@ -2,12 +2,11 @@
 //
 // A line is a routine of the catalogue, its numbers by argument name, the seed of the bytes in its buffers,
 // and the digest of those buffers after the call. A number that is left out is 0. Each buffer has the bytes
-// that the extents rule tells, with a margin on either side that the digest covers too.
+// that the extents rule gives, with a margin on either side that the digest covers too.
 //
 // `test_golden --print` prints the file with the digests of this build; a new line needs none, only its arrow.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <iostream>
@@ -19,7 +18,7 @@
 #include <vector>
 
 #include "catalog.h"
-#include "support/random.h"
+#include "support/call_memory.h"
 
 namespace tintvert::test {
 namespace {
@@ -29,11 +28,11 @@ using catalog::Arg;
 constexpr int64_t margin = 32;
 
 struct Line {
-    std::string call_text;  // all that stands in front of the arrow
+    std::string call_text;  // everything before the arrow
     const catalog::Routine* routine;
     catalog::Arguments call;
     uint64_t seed;
-    std::string digest;  // empty if none stands behind it
+    std::string digest;  // empty if there is none after it
 };
 
 bool holds_a_call(const std::string& text) { return !text.empty() && text[0] != '#'; }
@@ -91,39 +90,16 @@ std::string in_hex(uint64_t digest)
     return text;
 }
 
-struct Buffer {
-    Arg argument;
-    int64_t begin;  // of `bytes`, from the pointer that is passed
-    std::vector<uint8_t> bytes;
-};
-
-// The bytes of every buffer of the routine, in the order of its arguments, after the call.
-std::vector<Buffer> buffers_after(const Line& line)
-{
-    const catalog::Extents extents = line.routine->extents(line.call);
-    catalog::Arguments call = line.call;
-    Random random(line.seed);
-    std::vector<Buffer> buffers;
-    for (const Arg argument : line.routine->arguments) {
-        if (describe(argument).kind != catalog::Argument::buffer) continue;
-        int64_t begin = 0, end = 0;
-        for (const catalog::Touch& touch : extents) {
-            if (touch.buffer != argument) continue;
-            begin = std::min({begin, touch.read.begin, touch.written.begin});
-            end = std::max({end, touch.read.end, touch.written.end});
-        }
-        buffers.push_back({argument, begin - margin, random.bytes(static_cast<size_t>(end - begin + 2 * margin))});
-    }
-    for (Buffer& buffer : buffers)
-        call[buffer.argument] = reinterpret_cast<int64_t>(buffer.bytes.data() - buffer.begin);
-    line.routine->call(call);
-    return buffers;
-}
-
+// Of all buffers, in the order of the arguments.
 std::string digest_of_call(const Line& line)
 {
+    catalog::Arguments call = line.call;
+    Random random(line.seed);
+    CallMemory memory(random, *line.routine, call, margin);
+    memory.point(call);
+    line.routine->call(call);
     uint64_t digest = digest_of({});
-    for (const Buffer& buffer : buffers_after(line)) digest = digest_of(buffer.bytes, digest);
+    for (const CallMemory::Place& place : memory.places()) digest = digest_of(place.buffer.bytes(), digest);
     return in_hex(digest);
 }
 
@@ -187,7 +163,7 @@ TEST(Golden, rejects_a_wrong_digest)
     EXPECT_FALSE(holds(line));
 }
 
-TEST(Golden, rejects_a_line_that_tells_no_call)
+TEST(Golden, rejects_a_line_that_describes_no_call)
 {
     EXPECT_THROW(parse("bgra_to_2vuy pixels=6 seed=1"), std::runtime_error);
     EXPECT_THROW(parse("bgra_to_3vuy pixels=6 seed=1 -> 0"), std::runtime_error);

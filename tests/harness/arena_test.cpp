@@ -25,7 +25,7 @@ TEST(Arena, rejects_one_wrong_bit_anywhere)
     }
 }
 
-TEST(Arena, tells_where_and_what)
+TEST(Arena, reports_where_and_what)
 {
     Random random(3);
     Arena arena(random, 10, 100);

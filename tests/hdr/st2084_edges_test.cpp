@@ -104,7 +104,7 @@ TEST(St2084Lines, lines_of_2_to_the_31_bytes_are_work)
             EXPECT_TRUE(faults([&] { conversion(buffer.pointer(), buffer.pointer(), stride, stride, 1); })) << stride;
 }
 
-// Lines 0 and 2 of the side with a stride of 2^31 stand at the same place.
+// Lines 0 and 2 of the side with a stride of 2^31 are at the same place.
 TEST(St2084Lines, offsets_are_32_bit_products)
 {
     constexpr unsigned half = 0x80000000;
@@ -131,7 +131,7 @@ TEST(St2084Lines, offsets_are_32_bit_products)
     }
 }
 
-// -1 is 2^32 - 1 lines, the most negative number 2^31: both run into whatever lies behind the buffer.
+// -1 is 2^32 - 1 lines, the most negative number 2^31: both run into whatever is after the buffer.
 TEST(St2084Lines, a_negative_height_is_a_large_count)
 {
     for (const Conversion conversion : conversions) {
@@ -230,7 +230,7 @@ TEST(St2084Words, keeps_words_one_byte_on)
 }
 
 // The tables are data of the process like any other: writing does not fault. They get back what they held.
-TEST(St2084Tables, stand_in_writable_memory)
+TEST(St2084Tables, are_in_writable_memory)
 {
     unsigned* const tables[] = {get_ardwRGB_to_SMPTE2048_8Bit(),  get_ardwSMPTE2048_to_RGB_8Bit(),
                                 get_ardwRGB_to_SMPTE2048_12Bit(), get_ardwRGB_to_SMPTE2048_10Bit(),

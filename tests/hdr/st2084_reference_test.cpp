@@ -1,4 +1,4 @@
-// Random lines, in separate buffers, in place and overlapping, against the slow second telling.
+// Random lines, in separate buffers, in place and overlapping, against the reference implementation.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 

@@ -1,4 +1,4 @@
-// Every stored entry against its rule, told again in long double; and how near any rule's value comes to a
+// Every stored entry against its rule in long double; and how near any rule's value comes to a
 // whole number, which says how much precision the comparison rests on.
 #include <gtest/gtest.h>
 #include <tintvert.h>
@@ -83,7 +83,7 @@ TEST(St2084Tables, every_entry_equals_its_rule)
     }
 }
 
-TEST(St2084Tables, telling_entries)
+TEST(St2084Tables, expected_entries)
 {
     const unsigned* const forward8 = get_ardwRGB_to_SMPTE2048_8Bit();
     EXPECT_EQ(forward8[0], 0u);
@@ -148,7 +148,7 @@ TEST(St2084Tables, are_written_by_no_conversion)
 }
 
 // One block: walking past a table enters the next.
-TEST(St2084Tables, stand_in_one_block)
+TEST(St2084Tables, are_in_one_block)
 {
     EXPECT_EQ(get_ardwRGB_to_SMPTE2048_8Bit() + 256, get_ardwSMPTE2048_to_RGB_8Bit());
     EXPECT_EQ(get_ardwSMPTE2048_to_RGB_8Bit() + 256, get_ardwRGB_to_SMPTE2048_12Bit());

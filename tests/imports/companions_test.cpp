@@ -1,8 +1,7 @@
 // Which functions of the companions a routine calls, over random calls with and without a copy that throws, is
-// what the catalogue tells.
+// what the catalogue says.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <set>
 
 #include "facts.h"
@@ -18,23 +17,13 @@ using Names = std::set<std::string>;
 
 constexpr const char* classes[] = {"", "fccIsYCbCr8", "fccIsYCbCr10", "fccIsDPX", "fccIsRGB"};
 
-// The extents of a call ask for the class of a FourCC too, so the log begins behind them.
+// The extents of a call ask for the class of a FourCC too, so the log begins after them.
 void call_once(Random& random, const catalog::Routine& routine, int round, Names& called)
 {
     calls().fourcc_class = classes[round % 5];
     catalog::Arguments numbers = random_call(random, routine);
-    const catalog::Extents extents = routine.extents(numbers);
-    std::vector<Memory> memories;
-    memories.reserve(8);
-    for (const Arg argument : routine.arguments) {
-        if (describe(argument).kind != catalog::Argument::buffer) continue;
-        const catalog::Range touched = touched_in(extents, argument);
-        memories.emplace_back(random, catalog::Range{touched.begin, touched.end + 64});
-        if (takes(routine, Arg::palette) && argument == Arg::src && !touched.empty())
-            std::memcpy(memories.back().pointer(), numbers.as<const uint8_t*>(Arg::src),
-                        numbers.as<size_t>(Arg::streamSize));
-        numbers[argument] = memories.back().address();
-    }
+    CallMemory memory(random, routine, numbers, 64);
+    memory.point(numbers);
     calls().log.clear();
     if (round % 2 == 1) calls().throw_at("CopyMemoryFast", 1);
     try {
@@ -51,7 +40,7 @@ void call_in_place(Random& random, const catalog::Routine& routine, int round, N
     catalog::Arguments numbers = random_call(random, routine);
     numbers[Arg::height] = 4;
     numbers[Arg::width] = numbers[Arg::stride] = numbers[Arg::dstStride] = numbers[Arg::srcStride] = 16;
-    Memory frame(random, {0, 2048});
+    CallBuffer frame(random, {0, 2048});
     numbers[Arg::dst] = numbers[Arg::src] = frame.address();
     if (round % 2 == 1) calls().throw_at("CopyMemoryFast", 1);
     try {
@@ -75,9 +64,9 @@ TEST_F(Imports, companions_of_every_routine_are_those_of_the_catalogue)
                 call_in_place(random, routine, round, called);
             }
         }
-        Names told;
-        for (const std::string_view name : companions_of(routine)) told.emplace(name);
-        EXPECT_EQ(called, told) << routine.name;
+        Names expected;
+        for (const std::string_view name : companions_of(routine)) expected.emplace(name);
+        EXPECT_EQ(called, expected) << routine.name;
     }
 }
 

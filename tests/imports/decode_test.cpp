@@ -66,7 +66,7 @@ std::string list(std::initializer_list<long> numbers)
 }
 
 // The matrix is 0xC0FFEE42; width, height and the strides are those that the decoder is to see.
-Log told(const char* decoder, long width, long height, long dstStride, long srcStride, long flags)
+Log expected(const char* decoder, long width, long height, long dstStride, long srcStride, long flags)
 {
     return {
         "GetMatrixBySize(" + list({width, height, 0}) + ')',
@@ -75,17 +75,20 @@ Log told(const char* decoder, long width, long height, long dstStride, long srcS
 
 TEST_F(DecodeEntries, at_full_size_ask_for_the_matrix_once_and_decode_once)
 {
-    EXPECT_EQ(at_full_size(entries[1], {0, 0, 1920, 1080}), told("cycbcr_012v_to_rgb32", 1920, 1080, 7680, 5120, 0));
-    EXPECT_EQ(at_full_size(entries[1], {0, 0, 1280, 720}), told("cycbcr_012v_to_rgb32", 1280, 720, 5120, 3456, 0));
-    EXPECT_EQ(at_full_size(entries[3], {0, 0, 1920, 1080}), told("cycbcr_uyvy_to_rgb32", 1920, 1080, 7680, 3840, 0));
+    EXPECT_EQ(at_full_size(entries[1], {0, 0, 1920, 1080}),
+              expected("cycbcr_012v_to_rgb32", 1920, 1080, 7680, 5120, 0));
+    EXPECT_EQ(at_full_size(entries[1], {0, 0, 1280, 720}), expected("cycbcr_012v_to_rgb32", 1280, 720, 5120, 3456, 0));
+    EXPECT_EQ(at_full_size(entries[3], {0, 0, 1920, 1080}),
+              expected("cycbcr_uyvy_to_rgb32", 1920, 1080, 7680, 3840, 0));
 }
 
 // An 8-bit frame with 8-bit lines, to lines of three bytes a pixel.
 TEST_F(DecodeEntries, keeps_10_bit_decoder_for_8_bit_data)
 {
-    EXPECT_EQ(at_full_size(entries[2], {0, 0, 1920, 1080}), told("cycbcr_012v_to_rgb32", 1920, 1080, 5760, 3840, 0));
+    EXPECT_EQ(at_full_size(entries[2], {0, 0, 1920, 1080}),
+              expected("cycbcr_012v_to_rgb32", 1920, 1080, 5760, 3840, 0));
     EXPECT_EQ(at_full_size(entries[2], {6000, 4000, 720, -576}),
-              told("cycbcr_012v_to_rgb32", 720, -576, 6000, 4000, 0x8000));
+              expected("cycbcr_012v_to_rgb32", 720, -576, 6000, 4000, 0x8000));
 }
 
 TEST_F(DecodeEntries, resolve_strides_of_0_and_below)
@@ -95,12 +98,12 @@ TEST_F(DecodeEntries, resolve_strides_of_0_and_below)
         for (const long width : {0L, 1L, 2L, 47L, 48L, 49L, 96L, 97L, 720L, 1921L}) {
             const long dst_line = width * entry.bytes_a_pixel;
             const long src_line = entry.ten_bits ? (width + 47) / 48 * 128 : width * 2;
-            EXPECT_EQ(at_full_size(entry, {0, 0, width, 2}), told(entry.decoder, width, 2, dst_line, src_line, 0));
-            EXPECT_EQ(at_full_size(entry, {1, 1, width, 2}), told(entry.decoder, width, 2, 1, 1, 0));
-            EXPECT_EQ(at_full_size(entry, {-1, 7, width, 2}), told(entry.decoder, width, 2, dst_line, 7, 0));
-            EXPECT_EQ(at_full_size(entry, {9, LONG_MIN, width, 2}), told(entry.decoder, width, 2, 9, src_line, 0));
+            EXPECT_EQ(at_full_size(entry, {0, 0, width, 2}), expected(entry.decoder, width, 2, dst_line, src_line, 0));
+            EXPECT_EQ(at_full_size(entry, {1, 1, width, 2}), expected(entry.decoder, width, 2, 1, 1, 0));
+            EXPECT_EQ(at_full_size(entry, {-1, 7, width, 2}), expected(entry.decoder, width, 2, dst_line, 7, 0));
+            EXPECT_EQ(at_full_size(entry, {9, LONG_MIN, width, 2}), expected(entry.decoder, width, 2, 9, src_line, 0));
         }
-        EXPECT_EQ(at_full_size(entry, {1, 1, -5, 0}), told(entry.decoder, -5, 0, 1, 1, 0));
+        EXPECT_EQ(at_full_size(entry, {1, 1, -5, 0}), expected(entry.decoder, -5, 0, 1, 1, 0));
     }
 }
 
@@ -108,7 +111,7 @@ TEST_F(DecodeEntries, default_lines_of_v210)
 {
     for (const auto& [width, line] : {std::pair{48L, 128L}, {49L, 256L}, {96L, 256L}, {1280L, 3456L}, {1920L, 5120L}})
         EXPECT_EQ(at_full_size(entries[1], {0, 0, width, 2}),
-                  told("cycbcr_012v_to_rgb32", width, 2, width * 4, line, 0));
+                  expected("cycbcr_012v_to_rgb32", width, 2, width * 4, line, 0));
 }
 
 // 0x8000 is raised by a negative height and by nothing else; the height keeps its sign.
@@ -118,7 +121,7 @@ TEST_F(DecodeEntries, raise_the_flag_for_a_negative_height)
         if (entry.decoder == nullptr) continue;
         for (const long height : {-1080L, -1L, 0L, 1L, 1080L, static_cast<long>(INT_MIN), static_cast<long>(INT_MAX)})
             EXPECT_EQ(at_full_size(entry, {100, 200, 720, height}),
-                      told(entry.decoder, 720, height, 100, 200, height < 0 ? 0x8000 : 0));
+                      expected(entry.decoder, 720, height, 100, 200, height < 0 ? 0x8000 : 0));
     }
 }
 
@@ -158,28 +161,29 @@ TEST_F(DecodeEntries, return_what_the_decoder_returns)
 TEST_F(DecodeEntries, hand_on_32_bits)
 {
     EXPECT_EQ(at_full_size(entries[3], {0x100000007, 0x200000009, 0x10000000A, 0x10000000B}),
-              told("cycbcr_uyvy_to_rgb32", 10, 11, 7, 9, 0));
-    EXPECT_EQ(at_full_size(entries[3], {7, 9, 10, 0x80000000}), told("cycbcr_uyvy_to_rgb32", 10, INT_MIN, 7, 9, 0));
-    EXPECT_EQ(at_full_size(entries[3], {7, 9, 10, -0xFFFFFFFFL}), told("cycbcr_uyvy_to_rgb32", 10, 1, 7, 9, 0x8000));
+              expected("cycbcr_uyvy_to_rgb32", 10, 11, 7, 9, 0));
+    EXPECT_EQ(at_full_size(entries[3], {7, 9, 10, 0x80000000}), expected("cycbcr_uyvy_to_rgb32", 10, INT_MIN, 7, 9, 0));
+    EXPECT_EQ(at_full_size(entries[3], {7, 9, 10, -0xFFFFFFFFL}),
+              expected("cycbcr_uyvy_to_rgb32", 10, 1, 7, 9, 0x8000));
 }
 
 TEST_F(DecodeEntries, decode_planes_into_packed_lines)
 {
     tntvt_i420_rgb32(dst.data(), src.data(), 720, 576, 768);
-    EXPECT_EQ(calls().log, told("cycbcr_i420_to_rgb32", 720, 576, 2880, 768, 0));
+    EXPECT_EQ(calls().log, expected("cycbcr_i420_to_rgb32", 720, 576, 2880, 768, 0));
     calls().log.clear();
     tntvt_yv12_rgb32(dst.data(), src.data(), 1920, 1080, 1920);
-    EXPECT_EQ(calls().log, told("cycbcr_yv12_to_rgb32", 1920, 1080, 7680, 1920, 0));
+    EXPECT_EQ(calls().log, expected("cycbcr_yv12_to_rgb32", 1920, 1080, 7680, 1920, 0));
 }
 
 // `srcStride` has no default, and no height is negative: flags stay 0.
-TEST_F(DecodeEntries, decode_planes_as_they_are_told)
+TEST_F(DecodeEntries, decode_planes_by_the_given_numbers)
 {
     tntvt_i420_rgb32(dst.data(), src.data(), 0, 0, 0);
-    EXPECT_EQ(calls().log, told("cycbcr_i420_to_rgb32", 0, 0, 0, 0, 0));
+    EXPECT_EQ(calls().log, expected("cycbcr_i420_to_rgb32", 0, 0, 0, 0, 0));
     calls().log.clear();
     tntvt_yv12_rgb32(dst.data(), src.data(), 3, 0x80000000, 0xFFFFFFFF);
-    EXPECT_EQ(calls().log, told("cycbcr_yv12_to_rgb32", 3, INT_MIN, 12, -1, 0));
+    EXPECT_EQ(calls().log, expected("cycbcr_yv12_to_rgb32", 3, INT_MIN, 12, -1, 0));
 }
 
 // Every scale but 1, and every one of tntvt_yuv422_10_rgb24.

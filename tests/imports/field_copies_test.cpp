@@ -285,7 +285,7 @@ TEST_F(FieldCopies, keeps_success_after_failure)
     struct Handler {
         const char* text;
         std::function<int()> call;
-        size_t first, second;  // where the lines of the first round stand
+        size_t first, second;  // where the lines of the first round are
         size_t moved_first, moved_second;
     };
     unsigned char* const frame = dst.data();
@@ -359,7 +359,7 @@ TEST_F(FieldCopies, scratch_is_not_tested)
         EXPECT_TRUE(calls().log[1].starts_with("CopyMemoryFast(null, dst")) << calls().log[1];
         EXPECT_EQ(calls().log[2], report(text));
         EXPECT_EQ(calls().log[3], "ZKFree(null)");
-        // The allocator stands outside the handler, and so does the release.
+        // The allocator is outside the handler, and so is the release.
         SetUp();
         calls().throw_at("ZKAlloc", 1);
         EXPECT_THROW(routine(), Thrown);

@@ -33,7 +33,7 @@ TEST_F(RgbaFullImports, copies_one_block_with_equal_strides)
          {Case{6, 2, 2, "12"}, Case{7, 2, 2, "12"}, Case{8, 2, 3, "24"}, Case{9, 2, 3, "24"},
           // Other sizes a pixel than 3 and 4.
           Case{4, 2, 2, "8"}, Case{11, 2, 3, "30"}, Case{16, 2, 2, "32"}, Case{3, 4, 2, "0"}, Case{0, 4, 2, "0"},
-          // `height` goes in as it stands.
+          // `height` goes in unchanged.
           Case{6, 2, 0, "0"}, Case{6, 2, -2, "4294967284"}, Case{8, 2, -1, "4294967288"}, Case{4, 2, -3, "4294967284"},
           // So do `width` and the sign of the quotient: -3 x -2 x 2, -3 x 2 x 2, 4 x -2 x 1.
           Case{6, -2, 2, "12"}, Case{-6, 2, 2, "4294967284"}, Case{-8, -2, 1, "4294967288"}, Case{-8, -2, -1, "8"},

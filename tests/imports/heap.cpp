@@ -2,13 +2,7 @@
 
 #include <cstdlib>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_SANITIZED 1
-#endif
-#endif
+#include "support/sanitized.h"
 
 namespace tintvert::test {
 namespace {

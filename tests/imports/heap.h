@@ -1,4 +1,4 @@
-// The program's own malloc and free in front of the heap's, for routines that take a record for a call.
+// The program's own malloc and free in place of the heap's, for routines that take a record for a call.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@ struct HeapCall {
 // False under the sanitizers, which have a heap of their own.
 bool heap_is_watched();
 
-// What `work` asks of the heap. `work` must not throw. At most 64 calls are told.
+// What `work` asks of the heap. `work` must not throw. At most 64 calls are reported.
 std::vector<HeapCall> heap_calls_of(const std::function<void()>& work);
 
 // Runs `work` while malloc has nothing to give.

@@ -1,5 +1,5 @@
 // The program's own functions in place of the companions': each writes a line into a log and answers what
-// the test has told it to. The library leaves these names undefined, so the ones that the program exports
+// the test asks. The library leaves these names undefined, so the ones that the program exports
 // serve it before any companion is asked.
 //
 //     calls().name("src", frame.data(), frame.size());
@@ -24,7 +24,7 @@ namespace tintvert::test {
 
 using Log = std::vector<std::string>;
 
-// What a double throws when told to. It derives from nothing.
+// What a double throws when asked to. It derives from nothing.
 struct Thrown {};
 
 class Recorder {

@@ -14,7 +14,7 @@ namespace {
 class RecorderTest : public Imports {};
 
 // The library's calls are bound to the first of a name in the order of the program's libraries.
-TEST_F(RecorderTest, stands_before_the_companions)
+TEST_F(RecorderTest, comes_before_the_companions)
 {
     Dl_info where = {}, here = {};
     for (const char* name : {"CPUFeatureFlags", "CopyMemoryFast", "ZKAlloc", "ZKFree", "ErrFmtOut", "fccIsYCbCr8",
@@ -46,7 +46,7 @@ TEST_F(RecorderTest, logs_numbers_texts_and_places)
     EXPECT_EQ(calls().count("ZK"), 0);
 }
 
-TEST_F(RecorderTest, throws_at_the_call_it_is_told_before_the_copy)
+TEST_F(RecorderTest, throws_at_the_given_call_before_the_copy)
 {
     uint8_t from = 1, to = 0;
     calls().throw_at("CopyMemoryFast", 2);

@@ -97,7 +97,7 @@ TEST_F(CapturePeer, framed_interlaced)
     expect_same("in", 640, 360, {"--interlaced=frame"});
 }
 
-// Over the loopback and into a pcap. tcpdump is told to end by its own id.
+// Over the loopback and into a pcap. tcpdump is ended by its own id.
 TEST_F(CapturePeer, pcap_from_the_loopback)
 {
     if (!sends_packets()) GTEST_SKIP() << "skipped: GStreamer with rtpvrawpay is not installed";

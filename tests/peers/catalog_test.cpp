@@ -43,7 +43,7 @@ Words words_of(std::string_view command)
     return words;
 }
 
-// One buffer after the other, as a file of planes holds them.
+// One buffer after the other, as a file of planes has them.
 Bytes join(const catalog::Routine& routine, const catalog::Arguments& call, std::map<Arg, Bytes>& memory, bool in)
 {
     Bytes result;

@@ -122,7 +122,7 @@ TEST(ZimgDecode, full_range)
     EXPECT_TRUE(within(1, 0.001, ours, theirs));
 }
 
-// libycbcr rounds, as zimg does; the mean is the share of channels that lie near a half.
+// libycbcr rounds, as zimg does; the mean is the share of channels that are near a half.
 TEST(ZimgDecode, libycbcr)
 {
     const std::pair<unsigned int, zimg_matrix_coefficients_e> matrices[] = {

@@ -1,4 +1,4 @@
-// RGB against FFmpeg, byte for byte. Its names tell the bytes in memory, its lines have no slack.
+// RGB against FFmpeg, byte for byte. Its names give the order of bytes in memory, its lines have no slack.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 

@@ -50,7 +50,7 @@ TEST_F(Ffmpeg, planes_to_2vuy_and_back)
     }
 }
 
-// FFmpeg's v210 encoder holds samples within 4 to 1019.
+// FFmpeg's v210 encoder keeps samples within 4 to 1019.
 TEST_F(Ffmpeg, packed_10_bits_to_v210)
 {
     for (const Size& size : sizes) {

@@ -60,7 +60,7 @@ inline Samples words16(const Bytes& bytes)
 // 128 bytes for 48 pixels or part of them.
 inline long v210_stride(long width) { return (width + 47) / 48 * 128; }
 
-// The 2 x `width` samples of each line, in the order Cb Y Cr Y, out of `v210` and into it. Sample n stands in word
+// The 2 x `width` samples of each line, in the order Cb Y Cr Y, out of `v210` and into it. Sample n is in word
 // n / 3 at bit 10 x (n % 3).
 inline Samples v210_samples(const Bytes& frame, Size size, long stride)
 {

@@ -20,13 +20,13 @@ using DepthRoutine = void (*)(void*, long, void*, long, long, long, unsigned int
 using Kernel = void (*)(unsigned char*, unsigned char*, unsigned int);
 using Peer = int (*)(const uint8_t*, int, uint8_t*, int, int, int);
 
-enum class Stand { at_start, at_end };  // where a line stands in its stride
+enum class Align { left, right };  // where a line is in its stride
 
 constexpr Size sizes[] = {{1, 1}, {5, 3}, {17, 4}, {190, 7}, {721, 31}, {1280, 720}};
 
 // `ours` and `theirs` on one frame, with and without slack in the lines, and every byte of both results compared.
 template <typename Ours, typename Theirs>
-void compare(Ours ours, Theirs theirs, int dst_bytes, int src_bytes, Stand stand)
+void compare(Ours ours, Theirs theirs, int dst_bytes, int src_bytes, Align align)
 {
     for (const Size& size : sizes)
         for (const int slack : {0, 8}) {
@@ -34,7 +34,7 @@ void compare(Ours ours, Theirs theirs, int dst_bytes, int src_bytes, Stand stand
             const int dst_stride = width * dst_bytes + slack, src_stride = width * src_bytes + 2 * slack;
             Bytes src = noise(21, static_cast<size_t>(src_stride * height));
             Bytes dst = noise(22, static_cast<size_t>(dst_stride * height)), dst_theirs = dst;
-            const int skip = stand == Stand::at_end ? 1 : 0;
+            const int skip = align == Align::right ? 1 : 0;
             ours(dst.data(), dst_stride, src.data(), src_stride, size.width, size.height);
             theirs(src.data() + skip * 2 * slack, src_stride, dst_theirs.data() + skip * slack, dst_stride, width,
                    height);
@@ -65,60 +65,58 @@ auto shuffle(std::initializer_list<uint8_t> order)
 TEST(LibyuvRgb, frames_in_32_bit_orders)
 {
     const Peer to_abgr = libyuv::ARGBToABGR, to_bgra = libyuv::ARGBToBGRA;
-    compare(tntvt_rgba32_bgra32_inplace, to_abgr, 4, 4, Stand::at_start);
-    compare(tntvt_rgb32_bgr32_inplace, to_abgr, 4, 4, Stand::at_start);
-    compare(tntvt_rgba32_abgr32_inplace, to_bgra, 4, 4, Stand::at_start);
-    compare(tntvt_rgba32_argb32, shuffle({1, 2, 3, 0}), 4, 4, Stand::at_start);
+    compare(tntvt_rgba32_bgra32_inplace, to_abgr, 4, 4, Align::left);
+    compare(tntvt_rgb32_bgr32_inplace, to_abgr, 4, 4, Align::left);
+    compare(tntvt_rgba32_abgr32_inplace, to_bgra, 4, 4, Align::left);
+    compare(tntvt_rgba32_argb32, shuffle({1, 2, 3, 0}), 4, 4, Align::left);
 }
 
 TEST(LibyuvRgb, kernels_in_32_bit_orders)
 {
     for (const Kernel kernel : {rgba2argb, bgra2abgr, bgra2abgrMMX, abgr2bgraMMX})
-        compare(as_frame(kernel), shuffle({1, 2, 3, 0}), 4, 4, Stand::at_start);
+        compare(as_frame(kernel), shuffle({1, 2, 3, 0}), 4, 4, Align::left);
     // A, B, G, R in memory, libyuv's RGBA, to B, G, R, A: its own routine.
     for (const Kernel kernel : {rgba2argb, bgra2abgr, bgra2abgrMMX, abgr2bgraMMX})
-        compare(as_frame(kernel), libyuv::RGBAToARGB, 4, 4, Stand::at_start);
-    for (const Kernel kernel : {argb2rgba, abgr2bgra})
-        compare(as_frame(kernel), libyuv::ARGBToRGBA, 4, 4, Stand::at_start);
-    for (const Kernel kernel : {bgra2argb, argb2bgra})
-        compare(as_frame(kernel), libyuv::ARGBToBGRA, 4, 4, Stand::at_start);
+        compare(as_frame(kernel), libyuv::RGBAToARGB, 4, 4, Align::left);
+    for (const Kernel kernel : {argb2rgba, abgr2bgra}) compare(as_frame(kernel), libyuv::ARGBToRGBA, 4, 4, Align::left);
+    for (const Kernel kernel : {bgra2argb, argb2bgra}) compare(as_frame(kernel), libyuv::ARGBToBGRA, 4, 4, Align::left);
     for (const Kernel kernel : {abgr2argb, argb2abgr, bgra2rgba})
-        compare(as_frame(kernel), libyuv::ARGBToABGR, 4, 4, Stand::at_start);
+        compare(as_frame(kernel), libyuv::ARGBToABGR, 4, 4, Align::left);
 }
 
 TEST(LibyuvRgb, from_32_to_24_bits)
 {
     for (const FrameRoutine routine :
          {tntvt_rgba32_rgb24_inplace, tntvt_rgba32_rgb24, tntvt_rgb32_rgb24_inplace, tntvt_rgb32_rgb24})
-        compare(routine, libyuv::ARGBToRGB24, 3, 4, Stand::at_start);
+        compare(routine, libyuv::ARGBToRGB24, 3, 4, Align::left);
     for (const FrameRoutine routine : {tntvt_rgba32_bgr24_inplace, tntvt_rgb32_bgr24_inplace})
-        compare(routine, libyuv::ARGBToRAW, 3, 4, Stand::at_start);
+        compare(routine, libyuv::ARGBToRAW, 3, 4, Align::left);
     // A negative height reads the lines from the last one up.
     const auto upside_down = [](const uint8_t* src, int src_stride, uint8_t* dst, int dst_stride, int width,
                                 int height) { libyuv::ARGBToRGB24(src, src_stride, dst, dst_stride, width, -height); };
-    compare(tntvt_rgba32_rgb24_invert, upside_down, 3, 4, Stand::at_start);
+    compare(tntvt_rgba32_rgb24_invert, upside_down, 3, 4, Align::left);
 }
 
 TEST(LibyuvRgb, from_24_to_32_bits)
 {
     for (const FrameRoutine routine :
          {tntvt_rgb24_rgba32_inplace, tntvt_rgb24_rgba32, tntvt_rgb24_rgb32_inplace, tntvt_rgb24_rgb32})
-        compare(routine, libyuv::RGB24ToARGB, 4, 3, Stand::at_end);
+        compare(routine, libyuv::RGB24ToARGB, 4, 3, Align::right);
     for (const FrameRoutine routine : {tntvt_rgb24_bgra32_inplace, tntvt_rgb24_bgr32_inplace})
-        compare(routine, libyuv::RAWToARGB, 4, 3, Stand::at_end);
+        compare(routine, libyuv::RAWToARGB, 4, 3, Align::right);
     const auto alpha_in_front = [](const uint8_t* src, int src_stride, uint8_t* dst, int dst_stride, int width,
                                    int height) {
         libyuv::RGB24ToARGB(src, src_stride, dst, dst_stride, width, height);
         libyuv::ARGBToRGBA(dst, dst_stride, dst, dst_stride, width, height);
     };
-    compare(tntvt_macbgr24_macargb32_inplace, alpha_in_front, 4, 3, Stand::at_end);
-    // Its pointers stand one stride past the first byte of each frame.
+    compare(tntvt_macbgr24_macargb32_inplace, alpha_in_front, 4, 3, Align::right);
+    // Its pointers are one stride past the first byte of each frame.
     const auto inverted = [](uint8_t* dst, long dst_stride, uint8_t* src, long src_stride, long width, long height) {
         tntvt_rgba24_rgb32_invert(src + src_stride, dst_stride, dst + dst_stride, src_stride, width, height);
     };
     const auto upside_down = [](const uint8_t* src, int src_stride, uint8_t* dst, int dst_stride, int width,
                                 int height) { libyuv::RGB24ToARGB(src, src_stride, dst, dst_stride, width, -height); };
-    compare(inverted, upside_down, 4, 3, Stand::at_end);
+    compare(inverted, upside_down, 4, 3, Align::right);
 }
 
 // libyuv fills the low three bits of a byte with the high ones; ours leaves them 0.
@@ -136,7 +134,7 @@ TEST(LibyuvRgb, from_16_to_32_bits)
     };
     for (const FrameRoutine routine :
          {tntvt_rgb16_rgba32_inplace, tntvt_rgb16_rgba32, tntvt_rgb16_rgb32_inplace, tntvt_rgb16_rgb32})
-        compare(routine, top_five_bits, 4, 2, Stand::at_end);
+        compare(routine, top_five_bits, 4, 2, Align::right);
 }
 
 // Every word there is: the rgb16 of a pixel, made by the peer, comes back as the top five bits of its bytes.
@@ -168,8 +166,8 @@ TEST(LibyuvRgb, from_16_bits_a_channel_to_8)
             peer(reinterpret_cast<const uint16_t*>(src), src_stride / 2, dst, dst_stride, width, height);
         };
     };
-    compare(at_16_bits(tntvt_rgba64_rgba32), by_bytes(libyuv::AR64ToARGB), 4, 8, Stand::at_end);
-    compare(at_16_bits(tntvt_bgra64_rgba32), by_bytes(libyuv::AB64ToARGB), 4, 8, Stand::at_end);
+    compare(at_16_bits(tntvt_rgba64_rgba32), by_bytes(libyuv::AR64ToARGB), 4, 8, Align::right);
+    compare(at_16_bits(tntvt_bgra64_rgba32), by_bytes(libyuv::AB64ToARGB), 4, 8, Align::right);
 }
 
 // libyuv repeats the byte in the low half of a channel; ours leaves that 0.
@@ -185,8 +183,8 @@ TEST(LibyuvRgb, from_8_bits_a_channel_to_16)
     const FrameRoutine straight = [](void* dst, long dst_stride, void* src, long src_stride, long width, long height) {
         tntvt_rgba32_rgba64(dst, dst_stride, src, src_stride, width, height, 16);
     };
-    compare(straight, high_bytes(libyuv::ARGBToAR64), 8, 4, Stand::at_end);
-    compare(tntvt_bgra32_rgba64, high_bytes(libyuv::ARGBToAB64), 8, 4, Stand::at_end);
+    compare(straight, high_bytes(libyuv::ARGBToAR64), 8, 4, Align::right);
+    compare(tntvt_bgra32_rgba64, high_bytes(libyuv::ARGBToAB64), 8, 4, Align::right);
 }
 
 TEST(LibyuvRgb, upside_down)

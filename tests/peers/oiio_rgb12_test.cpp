@@ -14,7 +14,7 @@ namespace {
 
 // A width of 64 makes 192 samples a line: whole rounds, whole words and whole bytes.
 constexpr Size size{64, 16};
-constexpr long packed_line = size.width * 3 * 12 / 8, simd_line = size.width * 6;
+constexpr long packed_line = size.width * 3 * 12 / 8, deep_line = size.width * 6;
 
 // The three samples of each pixel, red first, of 12 bits at the top of 16. OpenImageIO divides by 65535 and multiplies
 // by 4095, which gives the 12 bits back for these.
@@ -54,7 +54,7 @@ Bytes dpx_lines()
     return {start, start + packed_line * size.height};
 }
 
-// The strips of a little-endian TIFF with no compression, end to end. Tag 273 tells where they start, 279 how long
+// The strips of a little-endian TIFF with no compression, end to end. Tag 273 says where they start, 279 how long
 // each is.
 Bytes tiff_lines()
 {
@@ -79,17 +79,17 @@ Bytes tiff_lines()
 
 TEST_F(OpenImageIo, from_12_to_16_bits)
 {
-    Bytes packed = dpx_lines(), ours(static_cast<size_t>(simd_line * size.height));
-    tntvt_rgb12_bgr48(ours.data(), simd_line, packed.data(), packed_line, size.width, size.height);
+    Bytes packed = dpx_lines(), ours(static_cast<size_t>(deep_line * size.height));
+    tntvt_rgb12_bgr48(ours.data(), deep_line, packed.data(), packed_line, size.width, size.height);
     Samples expected = picture();
     for (uint16_t& sample : expected) sample &= 0xFFF0;
     EXPECT_TRUE(same(words16(ours), expected));
 
     // Three times the pixels of each line are done: room for the excess of the last one.
     packed.resize(packed.size() + packed_line * 3);
-    ours.resize(ours.size() + simd_line * 3);
-    tntvt_rgb12_rgb48(ours.data(), simd_line, packed.data(), packed_line, size.width, size.height);
-    ours.resize(static_cast<size_t>(simd_line * size.height));
+    ours.resize(ours.size() + deep_line * 3);
+    tntvt_rgb12_rgb48(ours.data(), deep_line, packed.data(), packed_line, size.width, size.height);
+    ours.resize(static_cast<size_t>(deep_line * size.height));
     for (size_t i = 0; i < expected.size(); i += 3) std::swap(expected[i], expected[i + 2]);
     EXPECT_TRUE(same(words16(ours), expected));
 }
@@ -112,7 +112,7 @@ TEST_F(OpenImageIo, to_12_bits)
 {
     const Bytes theirs = tiff_lines();
     Bytes wide = little_endian(picture()), ours(static_cast<size_t>(packed_line * size.height));
-    tntvt_rgb48_rgb12(ours.data(), packed_line, wide.data(), simd_line, size.width, size.height);
+    tntvt_rgb48_rgb12(ours.data(), packed_line, wide.data(), deep_line, size.width, size.height);
     EXPECT_TRUE(same(ours, theirs));
 
     // The same values at the low end of the words, of which the upper four bits are not looked at.
@@ -120,7 +120,7 @@ TEST_F(OpenImageIo, to_12_bits)
     for (uint16_t& sample : low) sample = static_cast<uint16_t>(sample >> 4 | sample << 12);
     wide = little_endian(low);
     std::fill(ours.begin(), ours.end(), uint8_t{0});
-    tntvt_rgb48_12_rgb12(ours.data(), packed_line, wide.data(), simd_line, size.width, size.height);
+    tntvt_rgb48_12_rgb12(ours.data(), packed_line, wide.data(), deep_line, size.width, size.height);
     EXPECT_TRUE(same(ours, theirs));
 }
 

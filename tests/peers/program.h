@@ -12,7 +12,7 @@ namespace tintvert::test {
 using Bytes = std::vector<uint8_t>;
 using Words = std::vector<std::string>;
 
-// Whether a program of that name stands on the path.
+// Whether a program of that name is on the path.
 bool installed(const std::string& program);
 
 // What `command` makes of `input`. "{in}" and "{in2}" in its words become the names of files with the inputs, and

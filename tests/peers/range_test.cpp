@@ -1,5 +1,5 @@
 // Full range to video range and back against zimg, every code. zimg rounds; the tables truncate going down, and their
-// divisors lie one off.
+// divisors are one off.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 

@@ -41,7 +41,7 @@ struct Image {
     Bytes stream, palette;
 };
 
-// A BMP of compression 1, 8-bit runs, with its table of up to 256 colours of four bytes behind the header.
+// A BMP of compression 1, 8-bit runs, with its table of up to 256 colours of four bytes after the header.
 Image taken_apart(const Bytes& bmp)
 {
     if (word_at(bmp, 30) != 1) throw std::runtime_error("no run-length coded BMP");

@@ -1,4 +1,4 @@
-// `2vuy` to RGB by the fixed-point rules, told a second time and slowly, without tables.
+// `2vuy` to RGB by the fixed-point rules, the reference implementation, without tables.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// Alpha and luma planes, told a pixel at a time. Names and arguments are those of the routines.
+// Alpha and luma planes, the reference implementation: one pixel at a time. Names and arguments are those of the
+// routines.
 #pragma once
 
 namespace tintvert::reference {

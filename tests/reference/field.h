@@ -1,5 +1,5 @@
-// The field and frame routines, told a second time: addresses as numbers, one load or store after the other,
-// and the companions asked as often and in the order that the routines ask them.
+// The reference implementation of the field and frame routines: addresses as numbers, one load or store after the
+// other, and the companions asked as often and in the order that the routines ask them.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Addresses as plain numbers, for the second tellings of the field routines.
+// Addresses as numbers, for the reference implementations of the field routines.
 #pragma once
 
 #include <zkutil.h>

@@ -1,4 +1,4 @@
-// 8-bit planes, told a byte at a time. Names and arguments are those of the routines.
+// 8-bit planes, the reference implementation: one byte at a time. Names and arguments are those of the routines.
 #pragma once
 
 namespace tintvert::reference {

@@ -5,7 +5,7 @@
 namespace tintvert::reference {
 namespace {
 
-// The twelve samples of a group lie three a word, from its lowest bit up, so that sample s begins at bit
+// The twelve samples of a group are three a word, from its lowest bit up, so that sample s begins at bit
 // 32 * (s / 3) + 10 * (s % 3) of the group; bit n of the group is bit n % 8 of byte n / 8.
 int first_bit(int sample) { return 32 * (sample / 3) + 10 * (sample % 3); }
 

@@ -1,4 +1,4 @@
-// Pgroups, `v210` fields and the routines between them, told a second time: one bit after the other, each
+// Pgroups, `v210` fields and the routines between them, the reference implementation: one bit after the other, each
 // sample read when its turn comes and each field stored alone.
 #pragma once
 
@@ -20,7 +20,7 @@ void store_place(uint8_t* group, int place, const Pgroup& samples);
 int payload_to_v210(uint8_t* dst, const uint8_t* payload, long payloadSize, long pgroupCount, long startPhase);
 int packed_to_v210(uint8_t* dst, const uint8_t* src, uint32_t width, uint32_t height);
 
-// `width` must be even. The two counts behind the frame's packets, both 0, are left to the caller.
+// `width` must be even. The two counts past the end of the frame's packets, both 0, are left to the caller.
 int v210_frame_to_packet(uint8_t* packet, uint16_t* seq, uint32_t timestamp, uint32_t ssrc, uint16_t extSeq,
                          uint32_t width, uint32_t height);
 

@@ -1,4 +1,4 @@
-// `rgb10` to 16 and 8 bits a channel, told a second time and slowly: each bit by its number.
+// `rgb10` to 16 and 8 bits a channel, the reference implementation: each bit by its number.
 #pragma once
 
 #include <cstdint>

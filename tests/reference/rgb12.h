@@ -1,4 +1,4 @@
-// Packed 12 bits to wider forms and back, told a second time and slowly: each bit by its number.
+// Packed 12 bits to wider forms and back, the reference implementation: each bit by its number.
 #pragma once
 
 #include <cstdint>

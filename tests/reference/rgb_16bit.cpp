@@ -34,7 +34,7 @@ void put(Depth depth, uint8_t* dst, int number, uint64_t value)
     dst[2 * number + 1] = static_cast<uint8_t>(value / 256 % 256);
 }
 
-// Line counts and places by the sign of the height. A magnitude that a `long` does not hold is no work.
+// Line counts and places by the sign of the height. A magnitude that is too large for a `long` is no work.
 long line_count(Height rule, long height)
 {
     if (rule == Height::positive_only || height >= 0)

@@ -1,4 +1,4 @@
-// RGB of 16 bits a channel, told from a table: which channel goes where, how a line is placed.
+// RGB of 16 bits a channel, the reference implementation: a table of which channel goes where, how a line is placed.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// RGB to `2vuy`, told a second time and slowly.
+// RGB to `2vuy`, the reference implementation.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The frame copy by pixel size, told a second time and slowly.
+// The frame copy by pixel size, the reference implementation.
 #pragma once
 
 #include <cstdint>

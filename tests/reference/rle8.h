@@ -1,4 +1,4 @@
-// The two run-length decoders, told a second time and slowly. A decode that is not done after `codes` codes
+// The two run-length decoders, the reference implementation. A decode that is not done after `codes` codes
 // is left there, and the answer is false: such a stream may have no end.
 #pragma once
 

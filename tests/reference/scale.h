@@ -1,4 +1,4 @@
-// Range scaling of `2vuy`, told an entry at a time in whole numbers.
+// Range scaling of `2vuy`, the reference implementation: one entry at a time in whole numbers.
 #pragma once
 
 namespace tintvert::reference {

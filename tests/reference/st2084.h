@@ -1,4 +1,4 @@
-// The ST 2084 conversions, told a second time: tables from the formulas, bytes one at a time in the order in
+// The ST 2084 conversions, the reference implementation: tables from the formulas, bytes one at a time in the order in
 // which they are read and written.
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace tintvert::reference {
 
-// Entries 0 to 1023 from the start of an 8-bit table on, the tables behind it included.
+// Entries 0 to 1023 from the start of an 8-bit table on, the tables after it included.
 uint32_t entry_from_rgb_to_st2084(uint32_t index);
 uint32_t entry_from_st2084_to_rgb(uint32_t index);
 

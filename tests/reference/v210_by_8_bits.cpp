@@ -3,7 +3,7 @@
 namespace tintvert::reference {
 namespace {
 
-// A line's pixel pairs. The pair stands at sample 4 * n of its line; one in a group lies across two words.
+// A line's pixel pairs. The pair is at sample 4 * n of its line; one in a group is across two words.
 struct Pairs {
     const uint8_t* at;
     int phase = 0;
@@ -19,7 +19,7 @@ struct Pairs {
 
 }  // namespace
 
-// Bits 2 to 9, 12 to 19 and 22 to 29 of a word each lie in two neighbouring bytes.
+// Bits 2 to 9, 12 to 19 and 22 to 29 of a word each are in two neighbouring bytes.
 int top_eight_of(const uint8_t* src, int64_t n)
 {
     const int64_t field = n % 3;

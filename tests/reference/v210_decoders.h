@@ -1,4 +1,4 @@
-// `v210` to RGB, told a second time and slowly: by the 8-bit rules of `2vuy`, by ten bits, and through the
+// `v210` to RGB, the reference implementation: by the 8-bit rules of `2vuy`, by ten bits, and through the
 // entries that resolve strides; and full-range 4:4:4 to RGB.
 #pragma once
 

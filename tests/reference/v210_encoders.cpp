@@ -33,7 +33,7 @@ void put_words(uint8_t* dst, const uint32_t (&samples)[12])
     }
 }
 
-// Where a pixel's red, green and blue lie.
+// Where a pixel's red, green and blue are.
 struct Bytes {
     int64_t step, r, g, b;
 };

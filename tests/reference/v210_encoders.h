@@ -1,4 +1,4 @@
-// RGB to `v210`, `v210` to and from `2vuy`, and the two routines of 8-bit bytes, told a second time and slowly.
+// RGB to `v210`, `v210` to and from `2vuy`, and the two routines of 8-bit bytes, the reference implementation.
 // A group is read whole before it is written.
 #pragma once
 

@@ -78,7 +78,7 @@ TEST(From24To32, keeps_crossed_pointers)
     tntvt_rgba24_rgb32_invert(src.data() + 3, 4, dst.data() + 4, 3, 1, 2);
     EXPECT_EQ(dst, (Bytes{4, 5, 6, A, 1, 2, 3, A}));
 
-    // At a height of -2 they end 9 and 12 bytes in front of `src`.
+    // At a height of -2 they end 9 and 12 bytes before `src`.
     Bytes negative(8, none);
     tntvt_rgba24_rgb32_invert(src.data() + 18, 4, negative.data() + 4, 3, 1, -2);
     EXPECT_EQ(negative, (Bytes{7, 8, 9, A, 4, 5, 6, A}));

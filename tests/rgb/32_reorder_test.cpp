@@ -21,7 +21,7 @@ TEST(Reorder32, one_order_a_routine)
     EXPECT_EQ(of(tntvt_rgba32_argb32), (Bytes{1, 2, 3, 0}));
 }
 
-TEST(Reorder32, slack_behind_the_pixels_and_a_negative_height)
+TEST(Reorder32, slack_after_the_pixels_and_a_negative_height)
 {
     Bytes src{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
     Bytes dst(12, 0xEE);

@@ -5,13 +5,7 @@
 #include <numeric>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_SANITIZED 1
-#endif
-#endif
+#include "support/sanitized.h"
 
 namespace {
 
@@ -81,7 +75,7 @@ TEST(RgbaFullEdges, keeps_words_for_other_sizes)
     EXPECT_EQ(full(8, 10, 2, 1, 9), (Bytes{1, 2, 3, 4, 5, 6, 7, 8, 0xEE}));
 }
 
-// Line 0 comes last, so where lines lie on each other it is the one that shows.
+// Line 0 comes last, so where lines are on each other it is the one that shows.
 TEST(RgbaFullEdges, copies_the_last_line_first)
 {
     EXPECT_EQ(full(0, 4, 2, 2, 9), (Bytes{1, 2, 3, 4, 5, 6, 7, 8, 0xEE}));

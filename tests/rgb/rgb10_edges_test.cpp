@@ -101,7 +101,7 @@ TEST(Rgb10Edges, bits_that_reach_the_low_byte_of_a_channel)
     EXPECT_EQ(rgb48({1u << 10, 1u << 9, 1u << 8, 1u << 7}), (Channels{0, 0x10, 0, 0, 0, 0x20, 0, 0, 0x10, 0, 0, 0}));
 }
 
-// Lines of one pixel, told by the top byte of field 1.
+// Lines of one pixel, known by the top byte of field 1.
 const Words lines = {0x01000000, 0x02000000, 0x03000000, 0x04000000};
 
 Bytes order_of_lines(const Named& form, bool swap, bool flip)
@@ -129,7 +129,7 @@ TEST(Rgb10Edges, keeps_start_one_line_below)
                 << form.name;
 }
 
-// Two lines of two words behind a fence: the 16-bit forms need a third line, and none of the first.
+// Two lines of two words after a fence: the 16-bit forms need a third line, and none of the first.
 TEST(Rgb10Edges, keeps_start_one_line_below_at_a_fence)
 {
     Bytes dst(64);
@@ -172,7 +172,7 @@ TEST(Rgb10Edges, no_line_and_no_pixel_is_no_work)
                 }
 }
 
-// Destination lines lie end to end.
+// Destination lines are end to end.
 TEST(Rgb10Edges, writes_a_tight_frame)
 {
     Words src = {0x01000000, 0x02000000, 0x03000000, 0x04000000};

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "rgb/one_memory.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
@@ -20,33 +20,29 @@ void for_each_routine(Check check)
     check(tntvt_rgb10_rgba32, reference::rgb10_rgba32, 32);
 }
 
-unsigned char any_flag(Random& random)
-{
-    return random.between(0, 1) == 0 ? 0 : static_cast<unsigned char>(random.between(1, 255));
-}
-
+// Any value but 0 sets a flag.
 TEST(Rgb10Reference, agrees_apart_in_place_and_overlapping)
 {
-    Random random(510);
     for_each_routine([&](auto routine, auto reference, long bits) {
-        at_every_distance(random, 4, [&](long distance) {
-            const Geometry geometry = any_geometry(random, bits, 32);
-            const unsigned char swap = any_flag(random), flip = any_flag(random);
-            ASSERT_TRUE(agree(random, geometry, distance, routine, reference, swap, flip))
-                << bits << " bits, swapBytes " << +swap << ", flipLines " << +flip;
-        });
+        for (const uint8_t swap : {uint8_t{0}, uint8_t{1}, uint8_t{0x82}})
+            for (const uint8_t flip : {uint8_t{0}, uint8_t{255}, uint8_t{16}})
+                EXPECT_TRUE(agree_everywhere({"rgb10 to " + std::to_string(bits) + " bits",
+                                              {bits, 32},
+                                              calling(routine, swap, flip),
+                                              calling(reference, swap, flip)},
+                                             1))
+                    << "swapBytes " << +swap << ", flipLines " << +flip;
     });
 }
 
 TEST(Rgb10Reference, does_not_agree_with_another_flag)
 {
     Random random(511);
-    for_each_routine([&](auto routine, auto reference, long) {
-        const auto other = [&](uint8_t* dst, long ds, uint8_t* src, long ss, long w, long h, unsigned char swap,
-                               unsigned char flip) { reference(dst, ds, src, ss, w, h, swap, flip == 0 ? 1 : 0); };
-        const unsigned char off = 0, on = 1;
-        EXPECT_FALSE(agree(random, {0, 0, 3, 2}, 2100, routine, other, off, on));
-        EXPECT_FALSE(agree(random, {0, 0, 3, 2}, 2100, routine, other, on, on));
+    for_each_routine([&](auto routine, auto reference, long bits) {
+        const uint8_t off = 0, on = 1;
+        for (const uint8_t swap : {off, on})
+            EXPECT_FALSE(agree(random, {"", {bits, 32}, calling(routine, swap, on), calling(reference, swap, off)},
+                               {nullptr, 0, nullptr, 0, 3, 2}, 2100));
     });
 }
 

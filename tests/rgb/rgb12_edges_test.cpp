@@ -42,7 +42,7 @@ Bytes joined(const std::vector<Bytes>& parts)
     return all_bytes;
 }
 
-// How many bytes of a `line` that were 0xEE are changed, if none behind the first such run is.
+// How many bytes of a `line` that were 0xEE are changed, if none after the first such run is.
 size_t changed_at_the_start(const Bytes& line)
 {
     size_t changed = 0;
@@ -92,7 +92,7 @@ TEST(Rgb12Edges, bgr48_of_one_pixel)
     EXPECT_EQ(dst, (Channels{0x0120, 0x1120, 0x2120, 0x3120, 0x4120, 0x5120, 0x6120, 0x7120, 0xEEEE}));
 }
 
-// The surplus of line 0 ends under line 1, that of line 1 stays behind the frame.
+// The surplus of line 0 ends under line 1, that of line 1 stays past the end of the frame.
 TEST(Rgb12Edges, keeps_triple_rounds_of_two_lines)
 {
     Bytes src = joined({packed(0x11, 3), packed(0x22, 3), packed(0x33, 3)});
@@ -251,7 +251,7 @@ TEST(Rgb12Edges, keeps_one_byte_a_line_and_of_the_last_sample)
     EXPECT_EQ(dst, expected);
 }
 
-// Where the destination byte lies on a sample to come, that sample is read as it was changed.
+// Where the destination byte is on a sample to come, that sample is read as it was changed.
 TEST(Rgb12Edges, keeps_one_byte_a_line_stored_sample_by_sample)
 {
     Bytes memory = {0x10, 0x02, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};

@@ -71,7 +71,7 @@ TEST(Rgb16BitEdges, no_work_touches_nothing)
 
 // Two pixels at the end of strides five bytes longer: of each line those five keep what they held, and the
 // pixels are as in a tight frame.
-TEST(Rgb16BitEdges, slack_lies_in_front_of_the_pixels)
+TEST(Rgb16BitEdges, slack_is_before_the_pixels)
 {
     for (const Routine& routine : routines()) {
         const long src_line = 2 * routine.src_bytes, dst_line = 2 * routine.dst_bytes;
@@ -92,8 +92,8 @@ TEST(Rgb16BitEdges, slack_lies_in_front_of_the_pixels)
     }
 }
 
-// What lines 0, 1, 2, 3 of a destination hold after a call on three lines of one pixel each: the number of
-// the source line, told by its first result byte, or -1 where nothing was written. Line 0 is in front of `dst`.
+// What lines 0, 1, 2, 3 of a destination contain after a call on three lines of one pixel each: the number of
+// the source line, known by its first result byte, or -1 where nothing was written. Line 0 is before `dst`.
 std::vector<int> lines_written(const Routine& routine, long height)
 {
     Bytes src = counting(3 * routine.src_bytes), dst(static_cast<size_t>(4 * routine.dst_bytes), 0xEE);
@@ -141,7 +141,7 @@ TEST(Rgb16BitEdges, keeps_signed_32_bit_count)
     }
 }
 
-TEST(Rgb16BitEdges, telling_values)
+TEST(Rgb16BitEdges, expected_values)
 {
     Bytes white(4, 0xFF), wide(8, 0xEE);
     const Bytes ff00{0, 0xFF, 0, 0xFF, 0, 0xFF, 0, 0xFF};

@@ -3,12 +3,12 @@
 
 #include <tintvert.h>
 
-#include "overlaps.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
 
-using namespace overlaps;
+using Routine = void(void*, long, void*, long, long, long);
 using reference::DeepForm;
 using reference::Depth;
 using reference::Height;
@@ -68,10 +68,10 @@ Twins twins_of(const DeepRoutine& routine, uint32_t bits, uint32_t order)
     const Work call = [&routine, bits, order](const StridedFrame& f) {
         routine.call(f.dst, f.dst_stride, const_cast<uint8_t*>(f.src), f.src_stride, f.width, f.height, bits, order);
     };
-    const Work told = [&routine, bits, order](const StridedFrame& f) {
+    const Work expected = [&routine, bits, order](const StridedFrame& f) {
         reference::deep_frame(routine.form, f, bits_of(routine, bits), order);
     };
-    return {routine.name, reference::pixel_bytes(routine.form), call, told};
+    return {routine.name, reference::pixel_bytes(routine.form), call, expected};
 }
 
 TEST(Rgb16BitReference, frames)
@@ -88,7 +88,7 @@ TEST(Rgb16BitReference, frames)
         }
 }
 
-TEST(Rgb16BitReference, a_wrong_telling_is_found)
+TEST(Rgb16BitReference, a_wrong_reference_is_found)
 {
     DeepRoutine wrong = routines[0];  // an alpha of its own
     wrong.form.picks[0] = "0120";
@@ -106,7 +106,7 @@ TEST(Rgb16BitReference, a_wrong_telling_is_found)
 }
 
 // Every value of a channel, in every channel, at every shift: frames of 256 x 256 pixels of which channel c
-// holds the pixel's number plus 257 x c.
+// is the pixel's number plus 257 x c.
 TEST(Rgb16BitExhaustive, values_and_shifts)
 {
     constexpr long size = 256;
@@ -123,11 +123,11 @@ TEST(Rgb16BitExhaustive, values_and_shifts)
             }
         std::vector<uint8_t> dst(static_cast<size_t>(size * size * bytes.dst));
         for (uint32_t bits = 0; bits < 33; ++bits) {
-            std::vector<uint8_t> told(dst);
+            std::vector<uint8_t> expected(dst);
             const Twins twins = twins_of(routine, bits, bits % 2 * 2);
             twins.routine({dst.data(), size * bytes.dst, src.data(), size * bytes.src, size, size});
-            twins.reference({told.data(), size * bytes.dst, src.data(), size * bytes.src, size, size});
-            ASSERT_EQ(dst, told) << routine.name << ", bits " << bits;
+            twins.reference({expected.data(), size * bytes.dst, src.data(), size * bytes.src, size, size});
+            ASSERT_EQ(dst, expected) << routine.name << ", bits " << bits;
         }
     }
 }

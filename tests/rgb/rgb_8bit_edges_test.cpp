@@ -265,7 +265,7 @@ TEST(Rgb8BitEdges, sixteen_bits_and_alpha_first_are_the_same_in_place)
 }
 
 // The last pixels before the next line, on both sides.
-TEST(Rgb8BitEdges, widened_lines_stand_at_the_end_of_their_strides)
+TEST(Rgb8BitEdges, widened_lines_are_right_aligned_in_their_strides)
 {
     const auto of = [](Strided* routine, long src_stride) {
         Bytes src{0x80, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}, dst(18, 0xEE);
@@ -297,7 +297,7 @@ TEST(Rgb8BitEdges, bit_15_of_rgb16_and_the_brightest_word)
     }
 }
 
-// A whole frame: each pointer stands one stride past its first byte.
+// A whole frame: each pointer is one stride past its first byte.
 TEST(Rgb8BitEdges, keeps_crossed_pointers_over_a_whole_frame)
 {
     constexpr uint8_t none = 0xEE, A = 255;
@@ -309,7 +309,7 @@ TEST(Rgb8BitEdges, keeps_crossed_pointers_over_a_whole_frame)
     EXPECT_EQ(src, counting(21));
 }
 
-// Line `height` - 1 - i, whichever sign it has; in front of `dst` at -1 is line -2.
+// Line `height` - 1 - i, whichever sign it has; before `dst` at -1 is line -2.
 TEST(Rgb8BitEdges, keeps_signed_height_in_addresses_of_one_line)
 {
     Bytes src = counting(8), dst(20, 0xEE);

@@ -3,12 +3,12 @@
 
 #include <tintvert.h>
 
-#include "overlaps.h"
+#include "support/strided.h"
 
 namespace tintvert::test {
 namespace {
 
-using namespace overlaps;
+using Routine = void(void*, long, void*, long, long, long);
 
 TEST(Rgb8BitReference, word_kernels)
 {
@@ -36,10 +36,10 @@ TEST(Rgb8BitReference, word_kernels)
         const Work routine = [&](const StridedFrame& f) {
             row.kernel(f.dst, const_cast<uint8_t*>(f.src), static_cast<unsigned int>(count(f)));
         };
-        const Work told = [&](const StridedFrame& f) {
+        const Work expected = [&](const StridedFrame& f) {
             for (long x = 0; x < count(f); ++x) row.pixel(f.dst + 4 * x, f.src + 4 * x);
         };
-        EXPECT_TRUE(agree_everywhere({row.name, {4, 4}, routine, told}));
+        EXPECT_TRUE(agree_everywhere({row.name, PixelBytes{4, 4}, routine, expected}));
     }
 }
 
@@ -64,8 +64,8 @@ TEST(Rgb8BitReference, frames_forward)
     };
     for (const Row& row : rows) {
         const PixelBytes bytes{row.dst_bytes, 4};
-        const Work told = [&](const StridedFrame& f) { reference::forward(f, bytes, row.pixel); };
-        EXPECT_TRUE(agree_everywhere({row.name, bytes, calling(row.routine), told}));
+        const Work expected = [&](const StridedFrame& f) { reference::forward(f, bytes, row.pixel); };
+        EXPECT_TRUE(agree_everywhere({row.name, bytes, calling(row.routine), expected}));
     }
 }
 
@@ -75,13 +75,12 @@ TEST(Rgb8BitReference, frames_with_a_walk_of_their_own)
         tntvt_rgba24_rgb32_invert(const_cast<uint8_t*>(f.src), f.dst_stride, f.dst, f.src_stride, f.width, f.height);
     };
     const Twins all[] = {
-        {"tntvt_rgba32_bgr24_inplace", {3, 4}, calling(tntvt_rgba32_bgr24_inplace), reference::rgba32_to_bgr24},
-        {"tntvt_rgb32_bgr24_inplace", {3, 4}, calling(tntvt_rgb32_bgr24_inplace), reference::rgba32_to_bgr24},
-        {"tntvt_rgba32_rgb24_invert",
-         {3, 4},
-         calling(tntvt_rgba32_rgb24_invert),
+        {"tntvt_rgba32_bgr24_inplace", PixelBytes{3, 4}, calling(tntvt_rgba32_bgr24_inplace),
+         reference::rgba32_to_bgr24},
+        {"tntvt_rgb32_bgr24_inplace", PixelBytes{3, 4}, calling(tntvt_rgb32_bgr24_inplace), reference::rgba32_to_bgr24},
+        {"tntvt_rgba32_rgb24_invert", PixelBytes{3, 4}, calling(tntvt_rgba32_rgb24_invert),
          reference::rgba32_to_rgb24_upside_down},
-        {"tntvt_rgba24_rgb32_invert", {4, 3}, crossed, reference::rgba24_to_rgb32_upside_down},
+        {"tntvt_rgba24_rgb32_invert", PixelBytes{4, 3}, crossed, reference::rgba24_to_rgb32_upside_down},
     };
     for (const Twins& twins : all) EXPECT_TRUE(agree_everywhere(twins, 8));
 }
@@ -110,15 +109,15 @@ TEST(Rgb8BitReference, frames_backward)
     };
     for (const Row& row : rows) {
         const PixelBytes bytes{4, row.src_bytes};
-        const Work told = [&](const StridedFrame& f) {
+        const Work expected = [&](const StridedFrame& f) {
             reference::backward(f, row.positive_only ? f.height : std::labs(f.height), bytes, row.pixel);
         };
-        EXPECT_TRUE(agree_everywhere({row.name, bytes, calling(row.routine), told}));
+        EXPECT_TRUE(agree_everywhere({row.name, bytes, calling(row.routine), expected}));
     }
 }
 
-// Tellings that are wrong in one thing each.
-TEST(Rgb8BitReference, a_wrong_telling_is_found)
+// References that are wrong in one thing each.
+TEST(Rgb8BitReference, a_wrong_reference_is_found)
 {
     const auto forward = [](PixelBytes bytes, const reference::Pixel& pixel) -> Work {
         return [=](const StridedFrame& f) { reference::forward(f, bytes, pixel); };
@@ -152,12 +151,12 @@ TEST(Rgb8BitReference, a_wrong_telling_is_found)
                                reference::rotated_right);
     };
     const Twins all[] = {
-        {"guard", {3, 4}, calling(tntvt_rgba32_bgr24_inplace), forward({3, 4}, unguarded)},
-        {"stores", {4, 3}, calling(tntvt_rgb24_rgba32), backward({4, 3}, descending)},
-        {"loads", {4, 2}, calling(tntvt_rgb16_rgba32), backward({4, 2}, word_read_once)},
-        {"start of line", {4, 2}, calling(tntvt_rgb16_rgb32), forward({4, 2}, reference::five_bits_widened)},
-        {"alpha", {4, 4}, calling(tntvt_argb32_rgba32), forward({4, 4}, uncounted)},
-        {"lines", {4, 4}, calling(tntvt_rgba32_argb32), last_line_first},
+        {"guard", PixelBytes{3, 4}, calling(tntvt_rgba32_bgr24_inplace), forward({3, 4}, unguarded)},
+        {"stores", PixelBytes{4, 3}, calling(tntvt_rgb24_rgba32), backward({4, 3}, descending)},
+        {"loads", PixelBytes{4, 2}, calling(tntvt_rgb16_rgba32), backward({4, 2}, word_read_once)},
+        {"start of line", PixelBytes{4, 2}, calling(tntvt_rgb16_rgb32), forward({4, 2}, reference::five_bits_widened)},
+        {"alpha", PixelBytes{4, 4}, calling(tntvt_argb32_rgba32), forward({4, 4}, uncounted)},
+        {"lines", PixelBytes{4, 4}, calling(tntvt_rgba32_argb32), last_line_first},
     };
     for (const Twins& twins : all) EXPECT_FALSE(agree_everywhere(twins)) << twins.name;
 }
@@ -165,7 +164,7 @@ TEST(Rgb8BitReference, a_wrong_telling_is_found)
 // Bytes 0 to 2 in all their values, before a few of byte 3.
 TEST(Rgb8BitExhaustive, counted_alpha)
 {
-    std::vector<uint8_t> src(4 << 16), dst(4 << 16), told(4 << 16);
+    std::vector<uint8_t> src(4 << 16), dst(4 << 16), expected(4 << 16);
     for (const int b3 : {0, 1, 0x80, 0xFE, 0xFF})
         for (int b2 = 0; b2 < 256; ++b2) {
             for (size_t i = 0; i < src.size(); i += 4) {
@@ -173,27 +172,28 @@ TEST(Rgb8BitExhaustive, counted_alpha)
                 src[i + 1] = static_cast<uint8_t>(i / 4 / 256);
                 src[i + 2] = static_cast<uint8_t>(b2);
                 src[i + 3] = static_cast<uint8_t>(b3);
-                reference::counted_alpha(&told[i], &src[i]);
+                reference::counted_alpha(&expected[i], &src[i]);
             }
             tntvt_argb32_rgba32(dst.data(), 1024, src.data(), 1024, 256, 256);
-            ASSERT_EQ(dst, told) << "bytes 3 and 2: " << b3 << ", " << b2;
+            ASSERT_EQ(dst, expected) << "bytes 3 and 2: " << b3 << ", " << b2;
         }
 }
 
 TEST(Rgb8BitExhaustive, words_of_rgb16)
 {
-    std::vector<uint8_t> src(2 << 16), dst(4 << 16), told(4 << 16);
+    std::vector<uint8_t> src(2 << 16), dst(4 << 16), expected(4 << 16);
     for (size_t word = 0; word < 0x10000; ++word) {
         src[2 * word] = static_cast<uint8_t>(word);
         src[2 * word + 1] = static_cast<uint8_t>(word / 256);
-        reference::five_bits_widened(&told[4 * word], &src[2 * word]);
+        reference::five_bits_widened(&expected[4 * word], &src[2 * word]);
     }
     for (auto* routine :
          {tntvt_rgb16_rgba32_inplace, tntvt_rgb16_rgba32, tntvt_rgb16_rgb32_inplace, tntvt_rgb16_rgb32}) {
         dst.assign(dst.size(), 0xEE);
         routine(dst.data(), 1024, src.data(), 512, 256, 256);
-        EXPECT_EQ(dst, told);
-        EXPECT_TRUE(std::equal(told.begin(), told.begin() + (2 << 16), told.begin() + (2 << 16))) << "bit 15";
+        EXPECT_EQ(dst, expected);
+        EXPECT_TRUE(std::equal(expected.begin(), expected.begin() + (2 << 16), expected.begin() + (2 << 16)))
+            << "bit 15";
     }
 }
 

@@ -140,12 +140,12 @@ TEST(Rle8Edges, no_lines_in_32_bits_is_no_work)
 
 TEST(Rle8Edges, keeps_lines_below_the_frame_at_height_less_1_and_lower)
 {
-    // With a `height` of -2 lines -3 and -4 stand 12 and 16 bytes in front of `dst`.
+    // With a `height` of -2 lines -3 and -4 are 12 and 16 bytes before `dst`.
     Bytes expected(4, 0xEE);
     const Bytes lines = pixels_32({2, 1});
     expected.insert(expected.end(), lines.begin(), lines.end());
     EXPECT_EQ(rgb32({1, 1, 0, 0, 1, 2, 0, 0, 1, 3, 0, 1}, -2, 4, 20), expected);
-    // A `height` of -1 is line -2, which lies behind `dst` if the stride is negative.
+    // A `height` of -1 is line -2, which is after `dst` if the stride is negative.
     expected.assign(12, 0xEE);
     const Bytes line = pixels_32({1});
     expected.insert(expected.end(), line.begin(), line.end());
@@ -202,7 +202,7 @@ TEST(Rle8Edges, a_line_2_to_the_32_bytes_away)
     }
 }
 
-// The last bytes of a stream stand before a fence: nothing behind the code that stops a decode is read.
+// The last bytes of a stream are before a fence: nothing after the code that stops a decode is read.
 bool faults_on(Routine routine, const Bytes& stream, long height)
 {
     const auto size = static_cast<int64_t>(stream.size());
@@ -212,7 +212,7 @@ bool faults_on(Routine routine, const Bytes& stream, long height)
     return faults([&] { routine(dst.data(), 16, src.pointer(), 0, 0, height, palette.data()); });
 }
 
-TEST(Rle8Edges, reads_nothing_behind_the_code_that_stops)
+TEST(Rle8Edges, reads_nothing_past_the_code_that_stops)
 {
     for (const Routine routine : {tntvt_rle8_rgba32, tntvt_rle8_rgb32, tntvt_rle8_rgb24}) {
         EXPECT_FALSE(faults_on(routine, {3, 5, 0, 1}, 9));

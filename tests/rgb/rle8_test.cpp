@@ -18,7 +18,7 @@ Bytes palette_of(int entry_bytes)
     return palette;
 }
 
-// `size` bytes of destination with `dst` in front of the byte `start`.
+// `size` bytes of destination with `dst` before the byte `start`.
 Bytes rgba32(Bytes stream, long height, long stride, size_t size, long start = 0)
 {
     Bytes dst(size, 0xEE), palette = palette_of(4);

@@ -7,6 +7,7 @@
 
 #include "geometry.h"
 #include "refusals.h"
+#include "support/call_memory.h"
 
 namespace tintvert {
 InstructionSet highest_instruction_set = InstructionSet::avx512;
@@ -22,37 +23,32 @@ constexpr int64_t most_bytes = 1 << 20;  // a line count that wraps asks for gig
 
 bool is_buffer(Arg argument) { return describe(argument).kind == Argument::buffer; }
 
-bool takes(const Routine& routine, Arg argument)
-{
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
-}
-
 int64_t any_of(Random& random, std::initializer_list<int64_t> values)
 {
     return values.begin()[random.between(0, static_cast<long>(values.size()) - 1)];
 }
 
-// The bytes that a call touches in a buffer, its pointer among them.
-Range hull_of(const Extents& extents, Arg buffer)
+Range around(const Extents& extents, Arg buffer) { return with_pointer(accessed_in(extents, buffer)); }
+
+bool walks_pictures(const Routine& routine)
 {
-    Range hull;
-    for (const Touch& touch : extents) {
-        if (touch.buffer != buffer) continue;
-        hull.begin = std::min({hull.begin, touch.read.begin, touch.written.begin});
-        hull.end = std::max({hull.end, touch.read.end, touch.written.end});
+    bool picture = false;
+    for (const Arg argument : routine.arguments) {
+        if (argument == Arg::palette || argument == Arg::packet || argument == Arg::raw) return false;
+        picture = picture || describe(argument).kind == Argument::buffer;
     }
-    return hull;
+    return picture;
 }
 
 // Memory filled from a seed, in which the buffers of a call are given their places.
-class Memory {
+class PlacedMemory {
 public:
-    Memory(const Routine& routine, Arguments call, const Placement& placement, uint64_t seed)
+    PlacedMemory(const Routine& routine, Arguments call, const Placement& placement, uint64_t seed)
         : call_(call), extents_(routine.extents(call))
     {
-        Range hull = hull_of(extents_, Arg::dst);
+        Range hull = around(extents_, Arg::dst);
         if (placement.together) {
-            const Range other = hull_of(extents_, Arg::src);
+            const Range other = around(extents_, Arg::src);
             hull = {std::min(hull.begin, other.begin + placement.src), std::max(hull.end, other.end + placement.src)};
         }
         place(Arg::dst, hull, placement.dst);
@@ -61,7 +57,7 @@ public:
             if (argument == Arg::src && placement.together)
                 offsets_.push_back({argument, offsets_[0].offset + placement.src});
             else
-                place(argument, hull_of(extents_, argument), argument == Arg::src ? placement.src : placement.dst);
+                place(argument, around(extents_, argument), argument == Arg::src ? placement.src : placement.dst);
         }
         bytes_.resize(static_cast<size_t>(end_ + 64));
         Random random(seed);
@@ -75,14 +71,14 @@ public:
     }
 
     // The first byte that differs, or -1.
-    int64_t differs_from(const Memory& other) const
+    int64_t differs_from(const PlacedMemory& other) const
     {
         const uint8_t *mine = base(), *its = other.base();
         if (std::memcmp(mine, its, static_cast<size_t>(end_)) == 0) return -1;
         return std::mismatch(mine, mine + end_, its).first - mine;
     }
 
-    void tell_place(int64_t byte, testing::AssertionResult* result) const
+    void name_place(int64_t byte, testing::AssertionResult* result) const
     {
         for (const Place& place : offsets_)
             *result << " " << describe(place.buffer).name << "[" << byte - place.offset << "]";
@@ -96,9 +92,9 @@ private:
 
     void place(Arg buffer, Range hull, int64_t misalignment)
     {
-        const int64_t stands_at = (end_ + margin - hull.begin + 63) / 64 * 64 + misalignment;
-        offsets_.push_back({buffer, stands_at});
-        end_ = stands_at + hull.end + margin;
+        const int64_t pointer = (end_ + margin - hull.begin + 63) / 64 * 64 + misalignment;
+        offsets_.push_back({buffer, pointer});
+        end_ = pointer + hull.end + margin;
     }
 
     // The fill is counted from here, so that two memories agree wherever the allocator puts them.
@@ -118,6 +114,22 @@ private:
 
 }  // namespace
 
+std::vector<const Routine*> routines_of_pictures()
+{
+    std::vector<const Routine*> result;
+    for (const Routine& routine : routines())
+        if (walks_pictures(routine)) result.push_back(&routine);
+    return result;
+}
+
+std::vector<InstructionSet> levels()
+{
+    std::vector<InstructionSet> result;
+    for (const InstructionSet level : {InstructionSet::sse2, InstructionSet::avx2, InstructionSet::avx512})
+        if (level <= machine_instruction_set()) result.push_back(level);
+    return result;
+}
+
 bool random_call(Random& random, const Routine& routine, int64_t width, Arguments* call)
 {
     const int64_t scale = takes(routine, Arg::scale) ? any_of(random, {1, 2, 4}) : 1;
@@ -126,7 +138,7 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
     const int64_t slack = any_of(random, {0, 0, 1, 2, 4, 16, 64, 77});
     c[Arg::dstStride] += slack;
     c[Arg::srcStride] += any_of(random, {0, slack, 1, 4, 8, 64});
-    if (routine.name == "tntvt_rgba_full") {  // its strides tell the sizes of a pixel
+    if (routine.name == "tntvt_rgba_full") {  // the sizes of a pixel follow from its strides
         c[Arg::dstStride] = width * any_of(random, {3, 4}) + std::min(slack, width / 2);
         c[Arg::srcStride] = width * any_of(random, {3, 4, 4, 8});
     }
@@ -149,14 +161,14 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
     if (signed_height && random.between(0, 3) == 0) c[Arg::height] = -c[Arg::height];
     if (!refusal(routine, c).empty()) return false;
     for (const Touch& touch : routine.extents(c))
-        if (hull_of(routine.extents(c), touch.buffer).end > most_bytes) return false;
+        if (around(routine.extents(c), touch.buffer).end > most_bytes) return false;
     return true;
 }
 
 testing::AssertionResult agrees(const Routine& routine, const Arguments& call, const Placement& placement,
                                 InstructionSet level, uint64_t seed)
 {
-    Memory expected(routine, call, placement, seed), actual(routine, call, placement, seed);
+    PlacedMemory expected(routine, call, placement, seed), actual(routine, call, placement, seed);
     highest_instruction_set = InstructionSet::scalar;
     expected.run(routine);
     highest_instruction_set = level;
@@ -165,7 +177,7 @@ testing::AssertionResult agrees(const Routine& routine, const Arguments& call, c
     if (byte < 0) return testing::AssertionSuccess();
     testing::AssertionResult result = testing::AssertionFailure();
     result << routine.name << " at level " << static_cast<int>(level) << ":";
-    actual.tell_place(byte, &result);
+    actual.name_place(byte, &result);
     for (const Arg argument : routine.arguments)
         if (!is_buffer(argument)) result << " " << describe(argument).name << "=" << call[argument];
     return result << ", dst at " << placement.dst << ", src at " << placement.src

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <vector>
 
 #include "catalog.h"
 #include "frame/simd.h"
@@ -11,7 +12,14 @@
 
 namespace tintvert::test {
 
-// Where the buffers of a call lie.
+// The routines whose buffers are pictures. The run-length decoders and the packet former walk streams that random bytes
+// do not make.
+std::vector<const catalog::Routine*> routines_of_pictures();
+
+// The levels of this machine, but for the scalar code.
+std::vector<InstructionSet> levels();
+
+// Where the buffers of a call are.
 struct Placement {
     int64_t dst = 0, src = 0;  // bytes from an address that 64 divides
     bool together = false;     // one memory: `src` counts from the destination's pointer

@@ -9,7 +9,7 @@ namespace {
 
 using namespace catalog;
 
-TEST(DoubledLines, equal_plain_at_every_distance_of_the_frames)
+TEST(DoubledLines, equal_scalar_at_every_distance_of_the_frames)
 {
     const Routine& routine = *find("tntvt_v210_2vuy");
     Random random(11);

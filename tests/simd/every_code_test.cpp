@@ -143,7 +143,7 @@ TEST_F(EveryCodeExhaustive, of_rgb32)
     });
 }
 
-// Greys have whole numbers for chroma by one matrix, which doubles miss for some: each before, in and behind a pair.
+// Greys have whole numbers for chroma by one matrix, which doubles miss for some: each before, in and after a pair.
 TEST_F(EveryCodeExhaustive, of_three_greys)
 {
     constexpr int pixels = 4 * 65536;

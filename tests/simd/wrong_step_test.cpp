@@ -1,4 +1,4 @@
-// Simd steps that are wrong in one way each. The comparison must see every one of them.
+// SIMD steps that are wrong in one way each. The comparison must see every one of them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,25 +11,26 @@ namespace {
 
 using namespace catalog;
 
-// Plain: each byte is the source's plus 1, leftmost first. Simd: eight at a time, as `Step` has it.
+// Scalar: each byte is the source's plus 1, leftmost first. SIMD: eight at a time, as `Step` has it.
 template <class Step>
 int64_t add_one(const Arguments& call)
 {
     auto* dst = call.as<uint8_t*>(Arg::dst);
     const auto* src = call.as<const uint8_t*>(Arg::src);
     const int64_t count = call[Arg::pixels];
-    int64_t x =
-        instruction_set() > InstructionSet::scalar && Step::lawful(dst, src, count) ? Step::wide(dst, src, count) : 0;
+    int64_t x = instruction_set() > InstructionSet::scalar && Step::allowed(dst, src, count)
+                    ? Step::leading(dst, src, count)
+                    : 0;
     for (; x < count; ++x) dst[x] = static_cast<uint8_t>(src[x] + 1);
     return 0;
 }
 
 struct Right {
-    static bool lawful(const uint8_t* dst, const uint8_t* src, int64_t count)
+    static bool allowed(const uint8_t* dst, const uint8_t* src, int64_t count)
     {
         return disjoint(dst, count, src, count);
     }
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count)
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
     {
         int64_t x = 0;
         for (; count - x >= 8; x += 8) step(dst + x, src + x);
@@ -44,7 +45,7 @@ struct Right {
 };
 
 struct WrongLane : Right {
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count)
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
     {
         if (count < 8) return 0;
         step(dst, src, 7);
@@ -53,7 +54,7 @@ struct WrongLane : Right {
 };
 
 struct WritesBeyond : Right {
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count)
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
     {
         int64_t x = 0;
         for (; x < count; x += 8) step(dst + x, src + x);
@@ -62,15 +63,15 @@ struct WritesBeyond : Right {
 };
 
 struct SkipsOne : Right {
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count)
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
     {
-        const int64_t x = Right::wide(dst, src, count);
+        const int64_t x = Right::leading(dst, src, count);
         return x > 0 ? std::min(x + 1, count) : 0;
     }
 };
 
 struct AssumesAlignment : Right {
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count)
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
     {
         const auto down = reinterpret_cast<uintptr_t>(src) % 16;
         return count < 24 ? 0 : (step(dst, src - down), 8);
@@ -78,12 +79,15 @@ struct AssumesAlignment : Right {
 };
 
 struct ForgetsOverlap : Right {
-    static bool lawful(const uint8_t*, const uint8_t*, int64_t) { return true; }
+    static bool allowed(const uint8_t*, const uint8_t*, int64_t) { return true; }
 };
 
 struct WidensInPlaceOnly : Right {
-    static bool lawful(const uint8_t* dst, const uint8_t* src, int64_t) { return dst == src; }
-    static int64_t wide(uint8_t* dst, const uint8_t* src, int64_t count) { return WrongLane::wide(dst, src, count); }
+    static bool allowed(const uint8_t* dst, const uint8_t* src, int64_t) { return dst == src; }
+    static int64_t leading(uint8_t* dst, const uint8_t* src, int64_t count)
+    {
+        return WrongLane::leading(dst, src, count);
+    }
 };
 
 template <class Step>

@@ -14,7 +14,7 @@ namespace tintvert::test {
 
 class Arena {
 public:
-    // `below` bytes in front of offset 0 and `above` bytes from there on.
+    // `below` bytes before offset 0 and `above` bytes from there on.
     Arena(Random& random, int64_t below, int64_t above)
         : below_(below), actual_(random.bytes(static_cast<size_t>(below + above))), expected_(actual_)
     {}

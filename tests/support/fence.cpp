@@ -9,13 +9,8 @@
 #include <string>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
-#define TINTVERT_TEST_ASAN 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define TINTVERT_TEST_ASAN 1
-#endif
-#endif
+#include "support/sanitized.h"
+
 #ifdef TINTVERT_TEST_ASAN
 #include <sanitizer/lsan_interface.h>
 #endif
@@ -37,13 +32,6 @@ sigjmp_buf after_fault;
 
 void leave(int) { siglongjmp(after_fault, 1); }
 
-Range hull_of(const Touch& touch)
-{
-    if (touch.read.empty()) return touch.written;
-    if (touch.written.empty()) return touch.read;
-    return {std::min(touch.read.begin, touch.written.begin), std::max(touch.read.end, touch.written.end)};
-}
-
 std::string text_of(const Routine& routine, const Arguments& call)
 {
     std::string text{routine.name};
@@ -54,13 +42,13 @@ std::string text_of(const Routine& routine, const Arguments& call)
     return text;
 }
 
-// One call with a fence in `fenced`; every other buffer lies far from any.
+// One call with a fence in `fenced`; every other buffer is far from any.
 bool faults_with_fence(const Routine& routine, Arguments call, const Extents& extents, const Touch& fenced,
                        int64_t fence, Side side, Closed closed, const Fill& fill)
 {
     std::vector<std::unique_ptr<FencedBuffer>> buffers;
     for (const Touch& touch : extents) {
-        const Range hull = hull_of(touch);
+        const Range hull = touch.touched;
         const bool here = &touch == &fenced;
         buffers.push_back(here ? std::make_unique<FencedBuffer>(hull, fence, side, closed)
                                : std::make_unique<FencedBuffer>(hull, hull.end, Side::above, Closed::wholly));
@@ -140,7 +128,7 @@ void expect_extents(Claim claim, const Routine& routine, Arguments call, const F
             EXPECT_TRUE(fault(range.begin + depth, Side::below))
                 << where << ' ' << what << " not at " << range.begin + depth - 1;
         };
-        const Range hull = hull_of(touch);
+        const Range hull = touch.touched;
         if (hull.empty()) continue;
         check(hull, Closed::wholly, "touches");
         if (!touch.written.empty() && touch.written != hull) check(touch.written, Closed::to_writes, "writes");

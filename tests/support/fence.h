@@ -12,7 +12,7 @@ namespace tintvert::test {
 enum class Side { below, above };         // which side of the fence is closed
 enum class Closed { wholly, to_writes };  // how
 
-// Holds the bytes of `hull` around pointer(). The fence stands in front of the byte at offset `fence`.
+// Contains the bytes of `hull` around pointer(). The fence is before the byte at offset `fence`.
 class FencedBuffer {
 public:
     FencedBuffer(catalog::Range hull, int64_t fence, Side side, Closed closed);
@@ -33,7 +33,7 @@ bool faults(const std::function<void()>& work);
 
 // Calls `routine` with `call`, whose buffers are supplied here, and proves that it touches the bytes of its
 // extents rule: none outside, and the outermost ones on either side, reads and writes apart. Both are
-// proved with fences, so nothing rests on the values in the buffers. GoogleTest failures tell what differs.
+// proved with fences, so nothing rests on the values in the buffers. GoogleTest failures say what differs.
 // Buffers to which `call` gives one number other than 0 are one buffer: that is a call in place.
 // `fill` is called on a buffer before each call, for routines that want a stream of a certain form. Of a
 // buffer that is only read, the outermost `idle` bytes change no result, and a compiler may leave them out.

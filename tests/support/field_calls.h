@@ -1,4 +1,4 @@
-// Random calls of the field routines, each made ready twice: for the library and for its second telling.
+// Random calls of the field routines, each prepared twice: for the library and for its reference implementation.
 #pragma once
 
 #include <tintvert/field.h>
@@ -15,14 +15,14 @@ namespace tintvert::test {
 // Either takes the address of offset 0 of a memory that reaches `field_call_reach` bytes to both sides.
 struct FieldCall {
     std::string text;
-    std::function<int(uint8_t*)> library, told;
+    std::function<int(uint8_t*)> library, expected;
 };
 
 constexpr int64_t field_call_reach = 4096;
 
 namespace field_calls {
 
-// Where a second buffer lies beside `first`: on it, over it, or away from it.
+// Where a second buffer is beside `first`: on it, over it, or away from it.
 inline int64_t beside(Random& random, int64_t first)
 {
     switch (random.between(0, 2)) {

@@ -1,7 +1,5 @@
 #include "support/random_call.h"
 
-#include <algorithm>
-
 #include "geometry.h"
 #include "refusals.h"
 
@@ -56,11 +54,6 @@ catalog::Arguments any_call(Random& random, const catalog::Routine& routine)
 
 }  // namespace
 
-bool takes(const catalog::Routine& routine, Arg argument)
-{
-    return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
-}
-
 catalog::Arguments random_call(Random& random, const catalog::Routine& routine)
 {
     for (;;) {
@@ -68,20 +61,5 @@ catalog::Arguments random_call(Random& random, const catalog::Routine& routine)
         if (catalog::refusal(routine, call).empty()) return call;
     }
 }
-
-catalog::Range touched_in(const catalog::Extents& extents, Arg buffer)
-{
-    catalog::Range range;
-    for (const catalog::Touch& touch : extents) {
-        if (touch.buffer != buffer) continue;
-        for (const catalog::Range& part : {touch.read, touch.written})
-            if (!part.empty()) range = {std::min(range.begin, part.begin), std::max(range.end, part.end)};
-    }
-    return range;
-}
-
-Memory::Memory(Random& random, catalog::Range range)
-    : range_(range), bytes_(random.bytes(static_cast<size_t>(range.end - range.begin)))
-{}
 
 }  // namespace tintvert::test

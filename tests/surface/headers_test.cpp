@@ -1,4 +1,4 @@
-// Each header stands alone in both languages.
+// Each header compiles alone in both languages.
 #include <gtest/gtest.h>
 
 #include <vector>

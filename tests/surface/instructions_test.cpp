@@ -1,5 +1,5 @@
-// Which instructions stand where. A SIMD version says its level in its name, or in the name of the form that it serves,
-// and nothing else holds an instruction that a processor of the base level lacks; and nothing fuses a
+// Which instructions are where. A SIMD version says its level in its name, or in the name of the form that it serves,
+// and nothing else has an instruction that the base level does not have; and nothing fuses a
 // multiplication with an addition, which would round once where the matrices round twice.
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace tintvert::test {
 namespace {
 
 struct Instructions {
-    Names wide, fused;  // functions that hold one
+    Names simd, fused;  // functions that contain one
 };
 
 Instructions instructions_of(const std::string& file)
@@ -27,7 +27,7 @@ Instructions instructions_of(const std::string& file)
         if (tab == std::string::npos || line[0] != ' ') continue;
         const std::string mnemonic = line.substr(tab + 1, line.find_first_of(" \n", tab + 1) - tab - 1);
         // Whatever is encoded for AVX and later begins with a v.
-        if (mnemonic.starts_with('v')) result.wide.insert(function);
+        if (mnemonic.starts_with('v')) result.simd.insert(function);
         for (const char* const fused : {"vfmadd", "vfmsub", "vfnmadd", "vfnmsub"})
             if (mnemonic.starts_with(fused)) result.fused.insert(function);
     }
@@ -38,20 +38,21 @@ Names without_level(const Names& functions)
 {
     Names result;
     for (const std::string& function : functions) {
-        const bool told = function.find("avx2") != std::string::npos || function.find("avx512") != std::string::npos;
-        if (!told) result.insert(function);
+        const bool expected =
+            function.find("avx2") != std::string::npos || function.find("avx512") != std::string::npos;
+        if (!expected) result.insert(function);
     }
     return result;
 }
 
 class InstructionsOf : public testing::TestWithParam<const char*> {};
 
-TEST_P(InstructionsOf, simd_ones_stand_in_functions_that_say_so)
+TEST_P(InstructionsOf, simd_ones_are_in_functions_that_say_so)
 {
 #if !defined(__x86_64__) || !defined(__OPTIMIZE__) || defined(TINTVERT_SANITIZED)
     GTEST_SKIP() << "asked of optimized builds for x86-64";
 #endif
-    EXPECT_EQ(difference(without_level(instructions_of(GetParam()).wide), {}), "");
+    EXPECT_EQ(difference(without_level(instructions_of(GetParam()).simd), {}), "");
 }
 
 TEST_P(InstructionsOf, none_is_fused) { EXPECT_EQ(difference(instructions_of(GetParam()).fused, {}), ""); }
@@ -60,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(Instructions, InstructionsOf,
                          testing::Values(TINTVERT_LIBRARY, TINTVERT_LIBRARIES "/libycbcr.so",
                                          TINTVERT_LIBRARIES "/libzkutil.so", TINTVERT_LIBRARIES "/libkmrutil.so"));
 
-TEST(Instructions, has_wide_and_fused_ones_found)
+TEST(Instructions, finds_simd_and_fused_ones)
 {
 #ifndef __x86_64__
     GTEST_SKIP() << "asked of x86-64";
@@ -73,7 +74,7 @@ TEST(Instructions, has_wide_and_fused_ones_found)
     ASSERT_EQ(ran.status, 0) << ran.output;
     const Instructions found = instructions_of(object);
     EXPECT_EQ(found.fused.size(), 2u);
-    EXPECT_EQ(without_level(found.wide), Names{"add>:"});
+    EXPECT_EQ(without_level(found.simd), Names{"add>:"});
     std::filesystem::remove(object);
 }
 

@@ -49,7 +49,7 @@ TEST(Library, has_its_strings_found)
     std::filesystem::remove(object);
 }
 
-// What stands in brackets in the lines of `readelf -d` that carry `tag`.
+// What is in brackets in the lines of `readelf -d` that carry `tag`.
 Names entries(const std::string& section, const std::string& tag)
 {
     Names names;

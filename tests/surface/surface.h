@@ -10,7 +10,7 @@ namespace tintvert::test {
 using Names = std::set<std::string>;
 
 // A shell command's standard output and error together, and its exit status. The text that it gets as its
-// standard input holds no apostrophe.
+// standard input has no apostrophe.
 struct Ran {
     int status;
     std::string output;

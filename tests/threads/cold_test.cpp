@@ -8,9 +8,8 @@
 
 #include "decode/tables.h"
 #include "decode/v210_tables.h"
-#include "extents.h"
 #include "geometry.h"
-#include "support/random_call.h"
+#include "support/call_memory.h"
 #include "ycbcr8/scale_tables.h"
 
 namespace tintvert::test {
@@ -48,30 +47,25 @@ bool any_is_filled() { return gsfScaleTablesReady != 0 || fTablesSet != 0 || _v2
 class Job {
 public:
     Job(const catalog::Routine& routine, uint64_t seed)
-        : routine_(&routine), call_(catalog::plain_call(routine, {98, 8, 1, "v210"}))
+        : routine_(&routine),
+          call_(catalog::plain_call(routine, {98, 8, 1, "v210"})),
+          random_(seed),
+          memory_(random_, routine, call_)
     {
-        Random random(seed);
-        for (const catalog::Touch& touch : routine.extents(call_)) {
-            buffers_.emplace_back(random, catalog::extents::join(touch.read, touch.written));
-            Memory& memory = buffers_.back();
-            if (touch.buffer == catalog::Arg::buffer)
-                for (int64_t i = memory.range().begin; i < memory.range().end; ++i) memory.pointer()[i] &= 0x7F;
-            call_[touch.buffer] = memory.address();
-        }
+        for (CallMemory::Place& place : memory_.places())
+            if (place.argument == catalog::Arg::buffer)
+                for (int64_t i = place.accessed.begin; i < place.accessed.end; ++i) place.buffer.pointer()[i] &= 0x7F;
+        memory_.point(call_);
     }
     void run() { result_ = routine_->call(call_); }
 
-    bool operator==(const Job& other) const
-    {
-        return result_ == other.result_ &&
-               std::ranges::equal(buffers_, other.buffers_,
-                                  [](const Memory& one, const Memory& two) { return one.bytes() == two.bytes(); });
-    }
+    bool operator==(const Job& other) const { return result_ == other.result_ && memory_ == other.memory_; }
 
 private:
     const catalog::Routine* routine_;
     catalog::Arguments call_;
-    std::vector<Memory> buffers_;
+    Random random_;
+    CallMemory memory_;
     int64_t result_ = 0;
 };
 

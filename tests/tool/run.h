@@ -51,6 +51,11 @@ public:
     Process& operator=(const Process&) = delete;
 
     pid_t pid() const { return pid_; }
+    bool is_running() const
+    {
+        siginfo_t state = {};
+        return waitid(P_PID, static_cast<id_t>(pid_), &state, WEXITED | WNOHANG | WNOWAIT) == 0 && state.si_pid == 0;
+    }
     Result wait()
     {
         int status = 0;

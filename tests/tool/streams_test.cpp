@@ -1,4 +1,5 @@
 // Frames through stdin and stdout, in parallel, with progress on a terminal.
+#include <sched.h>
 #include <unistd.h>
 
 #include "tool/noise.h"
@@ -156,7 +157,8 @@ TEST_F(Streams, interrupted)
                     [&] { dup2(ends[0], STDIN_FILENO); });
     const std::string frame = noise(15, 64);
     ASSERT_EQ(write(ends[1], frame.data(), frame.size()), 64);
-    while (files_in("").empty()) usleep(1000);  // the unfinished file
+    while (files_in("").empty() && process.is_running()) sched_yield();  // until the unfinished file is there
+    ASSERT_TRUE(process.is_running());
     kill(process.pid(), SIGINT);
     EXPECT_EQ(process.wait().code, 130);
     EXPECT_EQ(files_in(""), std::set<std::string>());

@@ -19,7 +19,7 @@ Bytes unpacked(Bytes src, unsigned width, unsigned height, uint8_t old = 0xFF)
     return dst;
 }
 
-// A line that begins with these words and has kept 0xFF behind them.
+// A line that begins with these words and has kept 0xFF after them.
 Bytes line_of(const Bytes& words)
 {
     Bytes line = words;
@@ -71,7 +71,7 @@ TEST(PackedFrame, keeps_pair_past_odd_width)
     const Bytes one = line_of(v210_words({0x000FC3FF, 0xFFFFFC00}));
     EXPECT_EQ(unpacked(Bytes(30, 0xFF), 1, 1), joined({one, kept_line}));
 
-    // The next line starts behind the bytes of this one, not behind its pairs.
+    // The next line starts after the bytes of this one, not after its pairs.
     Bytes lines(24, 0xFF);
     std::memset(&lines[12], 0, 12);
     EXPECT_EQ(unpacked(lines, 5, 2), joined({five, line_of(v210_words({0, 0, 0, 0})), kept_line}));
@@ -123,8 +123,8 @@ TEST(PackedFrame, source_line_wraps_at_32_bits)
     EXPECT_EQ(Bytes(dst.pointer(), dst.pointer() + 4096), expected);
 }
 
-// 4 GiB of addresses over one MiB of memory, with a fence behind. Line 2^25 at 128 bytes a line would stand
-// on the fence and stands at the start.
+// 4 GiB of addresses over one MiB of memory, with a fence after it. Line 2^25 at 128 bytes a line would be
+// on the fence and is at the start.
 TEST(PackedFrameExhaustive, line_offsets_wrap_at_32_bits)
 {
     constexpr size_t mebibyte = 1u << 20, span = 1ul << 32;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <sys/mman.h>
+#include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <tintvert.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <climits>
 #include <csignal>
 #include <cstring>
-#include <thread>
 
 #include "reference/rfc4175.h"
 #include "support/fence.h"
@@ -136,7 +136,7 @@ TEST(Rfc4175Packet, keeps_fixed_length_224)
     }
 }
 
-// Line 1 has three different pgroups; the payload has the first of them over and over. Behind it the buffer
+// Line 1 has three different pgroups; the payload has the first of them over and over. After it the buffer
 // is as it was: after `width` / 2 pgroups, or 275 of them.
 TEST(Rfc4175Packet, keeps_place_in_line)
 {
@@ -235,6 +235,20 @@ TEST(Rfc4175Packet, payload_is_read_back_by_the_reader)
     }
 }
 
+// Whether a process of its own is still running after so many instructions, one at a time.
+bool runs_for(int instructions, pid_t child)
+{
+    int status = 0;
+    if (ptrace(PTRACE_SEIZE, child, nullptr, nullptr) != 0 || ptrace(PTRACE_INTERRUPT, child, nullptr, nullptr) != 0)
+        return false;
+    if (waitpid(child, &status, 0) != child || !WIFSTOPPED(status)) return false;
+    for (; instructions > 0; --instructions)
+        if (ptrace(PTRACE_SINGLESTEP, child, nullptr, nullptr) != 0 || waitpid(child, &status, 0) != child ||
+            !WIFSTOPPED(status) || WSTOPSIG(status) != SIGTRAP)
+            return false;
+    return true;
+}
+
 // The child works in shared memory. It stamps one header, fills the payload and goes on for ever: it is still
 // at it a while after the payload is complete, and has written nothing else.
 TEST(Rfc4175Packet, keeps_endless_odd_width)
@@ -265,12 +279,11 @@ TEST(Rfc4175Packet, keeps_endless_odd_width)
                                       0x03, 0x04, 0x55, 0x66, high, low,  0x00, 0x01, 0x00, 0x00},
                                      repeated({0x24, 0x09, 0x8D, 0x07, 0xAA}, 275)});
         std::memcpy(expected.data(), packet.data(), packet.size());
-        using namespace std::chrono_literals;
-        for (int wait = 0; wait < 1000 && std::memcmp(shared->frame, packet.data(), packet.size()) != 0; ++wait)
-            std::this_thread::sleep_for(10ms);
-        std::this_thread::sleep_for(150ms);
+        // The packet is complete; a call that returns does so within a few hundred instructions.
         int status = 0;
-        EXPECT_EQ(waitpid(child, &status, WNOHANG), 0) << "returned at width " << width;
+        while (std::memcmp(shared->frame, packet.data(), packet.size()) != 0 && waitpid(child, &status, WNOHANG) == 0)
+            sched_yield();
+        EXPECT_TRUE(runs_for(3000, child)) << "returned at width " << width;
         kill(child, SIGKILL);
         waitpid(child, &status, 0);
         EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
@@ -283,7 +296,7 @@ TEST(Rfc4175Packet, keeps_endless_odd_width)
 }
 
 // Line 2^25 at 128 bytes a line is line 0 again: its samples come from the header, which has the low byte 1
-// of its number and the sequence number 0. Behind 4 GiB stands a fence.
+// of its number and the sequence number 0. After 4 GiB there is a fence.
 TEST(Rfc4175PacketExhaustive, line_offsets_wrap_at_32_bits)
 {
     constexpr long span = 1l << 32;

@@ -1,4 +1,4 @@
-// The payload reader, the packed frame and the packet former against their slow second tellings, over random
+// The payload reader, the packed frame and the packet former against their reference implementation, over random
 // geometry and overlapping buffers.
 #include <gtest/gtest.h>
 #include <tintvert.h>
@@ -122,7 +122,7 @@ TEST(PackedFrameReference, overlapping)
             ASSERT_TRUE(packed_frames_agree(random, width, 3, at, at + offset));
         }
     }
-    // The frame in front of and behind the other, where only its ends meet.
+    // The frame before and after the other, where only its ends meet.
     for (int round = 0; round < 600; ++round) {
         const long at = random.between(0, 31);
         ASSERT_TRUE(packed_frames_agree(random, random.between(1, 300), random.between(1, 3), at,
@@ -130,7 +130,7 @@ TEST(PackedFrameReference, overlapping)
     }
 }
 
-// A line of the frame is a payload of the line's bytes: the two routines tell the same story.
+// A line of the frame is a payload of the line's bytes: the two routines agree.
 TEST(PackedFrameReference, a_line_is_a_payload)
 {
     Random random(433);
@@ -166,7 +166,7 @@ testing::AssertionResult packets_agree(Random& random, uint32_t width, uint32_t 
     return testing::AssertionFailure() << width << " by " << height << ": " << same.message();
 }
 
-// Narrow lines lie under the packet, up to eleven of them, and are read as earlier packets left them.
+// Narrow lines are under the packet, up to eleven of them, and are read as earlier packets left them.
 TEST(Rfc4175PacketReference, random_frames)
 {
     Random random(450);

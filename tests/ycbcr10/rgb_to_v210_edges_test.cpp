@@ -195,7 +195,7 @@ TEST(Rgb32V210Edges, strides_of_either_sign)
     EXPECT_EQ(dst, group(512, 283, 512) + slack + group(512, 173, 512) + slack + group(512, 64, 512) + slack);
 }
 
-// Four lines of 8 pixels, marked by their luma. The counters 0, 6, 12, 18, 24 and 30 stand at the pixels 0 and 6
+// Four lines of 8 pixels, marked by their luma. The counters 0, 6, 12, 18, 24 and 30 are at the pixels 0 and 6
 // of line 0, 4 of line 1, 2 of line 2, and 0 and 6 of line 3. The first of a line is taken from its start.
 TEST(Rgb32V210Edges, lines_of_8_pixels)
 {
@@ -246,7 +246,7 @@ TEST(Rgb32V210Edges, lines_of_1280_pixels)
 }
 
 // Below a width of 6 every group starts at its own line: at 5 the counters 0, 6, 12, 18 and 24 are in lines 0
-// to 4 and the next is behind the frame of 25; at 1 they are in every sixth line.
+// to 4 and the next is past the end of the frame of 25; at 1 they are in every sixth line.
 TEST(Rgb32V210Edges, lines_of_less_than_a_group)
 {
     const Memory of_white = group(512, 283, 512), none(16, 0xEE);
@@ -256,7 +256,7 @@ TEST(Rgb32V210Edges, lines_of_less_than_a_group)
     EXPECT_EQ(from_frame(bgra(20, white), 48, {16, 8}, 2, 3), of_white + none + none);
 }
 
-// The product has 32 bits, and the width as it stands picks the weights.
+// The product has 32 bits, and the width itself picks the weights.
 TEST(Rgb32V210Edges, size_of_the_frame_wraps)
 {
     EXPECT_EQ(from_frame(bgra(6, white), 17, {16, 24}, 0x100000006, 1), group(512, 318, 512) + gap);
@@ -272,7 +272,7 @@ TEST(Rgb32V210Edges, size_of_the_frame_wraps)
         tntvt_rgb32_v210(nullptr, 0, nullptr, 0, width, height);
 }
 
-// -6 x -2 are two groups; the second stands at the line that 6 / -6 gives.
+// -6 x -2 are two groups; the second is at the line that 6 / -6 gives.
 TEST(Rgb32V210Edges, two_negative_sizes_are_a_frame)
 {
     Memory src = bgra(6, grey) + bgra(6, white), dst(33, 0xEE);

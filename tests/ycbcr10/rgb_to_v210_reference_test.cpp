@@ -1,4 +1,4 @@
-// RGB to `v210` and the two routines of 8-bit bytes against their second telling: random lines and frames,
+// RGB to `v210` and the two routines of 8-bit bytes against their reference implementation: random lines and frames,
 // overlapping memory, every colour.
 #include <gtest/gtest.h>
 #include <tintvert.h>
@@ -17,7 +17,7 @@ unsigned int* words(uint8_t* bytes) { return reinterpret_cast<unsigned int*>(byt
 struct Line {
     const char* name;
     void (*routine)(uint8_t* src, uint8_t* dst, int width);
-    void (*told)(const uint8_t* src, uint8_t* dst, int width);
+    void (*expected)(const uint8_t* src, uint8_t* dst, int width);
 };
 
 const Line lines[] = {
@@ -32,11 +32,12 @@ const Line lines[] = {
     {"yuvs_to_v210", yuvs_to_v210, reference::yuvs_bytes},
 };
 
-testing::AssertionResult agree(const Line& line, const Line& told, Random& random, int64_t from, int64_t to, int width)
+testing::AssertionResult agree(const Line& line, const Line& expected, Random& random, int64_t from, int64_t to,
+                               int width)
 {
     Arena memory(random, 512, 4096);
     line.routine(memory.actual(from), memory.actual(to), width);
-    told.told(memory.expected(from), memory.expected(to), width);
+    expected.expected(memory.expected(from), memory.expected(to), width);
     const testing::AssertionResult result = memory.agrees(to);
     if (result) return result;
     return testing::AssertionFailure() << line.name << ", width " << width << ", src at " << from << ", dst at " << to
@@ -74,12 +75,12 @@ struct Geometry {
 };
 
 testing::AssertionResult frames_agree(Random& random, const Geometry& g, int64_t from, int64_t to, int64_t reach,
-                                      const Geometry& told)
+                                      const Geometry& expected)
 {
     Arena memory(random, reach, 3 * reach);
     tntvt_rgb32_v210(memory.actual(to), g.dstStride, memory.actual(from), g.srcStride, g.width, g.height);
-    reference::rgb32_to_v210(memory.expected(to), told.dstStride, memory.expected(from), told.srcStride, told.width,
-                             told.height);
+    reference::rgb32_to_v210(memory.expected(to), expected.dstStride, memory.expected(from), expected.srcStride,
+                             expected.width, expected.height);
     const testing::AssertionResult result = memory.agrees(to, g.dstStride);
     if (result) return result;
     return testing::AssertionFailure() << "width " << g.width << ", height " << g.height << ", strides " << g.dstStride
@@ -140,7 +141,7 @@ TEST(Rgb32V210Reference, rejects_a_wrong_form)
     EXPECT_FALSE(frames_agree(random, right, 10000, 0, 5000, {50, 64, 13, 5}));
 }
 
-// All 2^24 colours, as one run of pixels for each red. One pixel more in front of the run puts the colours
+// All 2^24 colours, as one run of pixels for each red. One pixel more before the run puts the colours
 // that were the centre of a chroma sample beside it and the others in its centre. 66048 pixels are whole
 // groups, and lines of 258 and of 1032 pixels.
 class EncodersExhaustive : public testing::Test {
@@ -148,8 +149,8 @@ protected:
     static constexpr size_t pixels = 66048;
 
     // Pixels of `step` bytes with red, green and blue at r, g and b; the rest of a pixel counts, too.
-    template <class Routine, class Told>
-    void compare(size_t step, size_t r, size_t g, size_t b, Routine routine, Told told)
+    template <class Routine, class Reference>
+    void compare(size_t step, size_t r, size_t g, size_t b, Routine routine, Reference reference)
     {
         std::vector<uint8_t> src((pixels + 1) * step);
         std::vector<uint32_t> dst(pixels / 6 * 4), expected = dst;
@@ -163,7 +164,7 @@ protected:
             }
             for (const size_t front : {size_t{0}, step}) {
                 routine(&src[front], dst.data());
-                told(&src[front], reinterpret_cast<uint8_t*>(expected.data()));
+                reference(&src[front], reinterpret_cast<uint8_t*>(expected.data()));
                 ASSERT_TRUE(dst == expected) << "red " << red << ", from byte " << front;
             }
         }

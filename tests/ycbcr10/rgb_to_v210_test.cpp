@@ -125,13 +125,13 @@ TEST(Rgb32V210, keeps_groups_across_lines)
     const size_t groups[] = {214, 213, 213, 214};
     for (size_t line = 0; line < lines; ++line) {
         const unsigned int* words = dst.data() + line * line_words;
-        EXPECT_GT(words[0] >> 10 & 1023, 64u) << line;  // the line's own first pixel stands first
+        EXPECT_GT(words[0] >> 10 & 1023, 64u) << line;  // the line's own first pixel is first
         EXPECT_NE(words[groups[line] * 4 - 1], 0xEEEEEEEE) << line;
         EXPECT_EQ(words[groups[line] * 4], 0xEEEEEEEE) << line;
     }
 }
 
-// Counters 0, 6 and 12 stand in lines 0, 1 and 3 of a `width` of 4; line 2 is skipped.
+// Counters 0, 6 and 12 are in lines 0, 1 and 3 of a `width` of 4; line 2 is skipped.
 TEST(Rgb32V210, skips_lines_below_a_width_of_6)
 {
     Words dst(16, 0xEEEEEEEE);

@@ -61,7 +61,7 @@ TEST(V210From2vuyEdges, default_lines)
     }
 }
 
-// The last group of line 0 takes 4 pixels of line 1, the one of line 1 what lies behind the frame.
+// The last group of line 0 takes 4 pixels of line 1, the one of line 1 what is past the end of the frame.
 TEST(V210From2vuyEdges, odd_width_reads_and_writes_a_whole_last_group)
 {
     const Memory src = Memory(16, 1) + Memory(16, 2) + Memory(8, 3);
@@ -117,7 +117,7 @@ TEST(V210From2vuyEdges, keeps_last_line_first_without_guard)
     EXPECT_EQ(Memory(first, first + 16), v210({1020, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4}));
 }
 
-// Line starts upwards are products of 64 bits: line 3 of 2^31 bytes each stands beyond 2^32.
+// Line starts upwards are products of 64 bits: line 3 of 2^31 bytes each is beyond 2^32.
 TEST(V210From2vuyEdges, line_starts_have_64_bits)
 {
     constexpr size_t stride = 0x80000000;
@@ -153,7 +153,7 @@ TEST(V210To2vuyEdges, lines_run_to_twice_their_length)
     EXPECT_EQ(convert(tntvt_v210_2vuy, Memory(10240, 0xFF), 7681, 1920, 1, 0), Memory(7680, 0xFF) + slack);
 }
 
-// Each line goes over the surplus of the one before; that of the last stays, behind the frame.
+// Each line goes over the surplus of the one before; that of the last stays, past the end of the frame.
 TEST(V210To2vuyEdges, surplus_is_the_next_groups_and_is_overwritten)
 {
     const Memory ones = v210({4, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4}), twos = v210({8, 8, 8, 8, 8, 8, 8, 8, 8, 8, 8, 8}),
@@ -186,8 +186,8 @@ TEST(V210To2vuyEdges, no_size_is_no_work)
     }
 }
 
-// Line starts downwards are sums of 32 bits: with lines of 2^31 bytes line 2 stands at line 0 again, and with
-// lines of -16 bytes line 1 stands at 4294967280.
+// Line starts downwards are sums of 32 bits: with lines of 2^31 bytes line 2 is at line 0 again, and with
+// lines of -16 bytes line 1 is at 4294967280.
 TEST(V210To2vuyEdges, line_starts_wrap_at_32_bits)
 {
     constexpr size_t stride = 0x80000000;
@@ -205,7 +205,7 @@ TEST(V210To2vuyEdges, line_starts_wrap_at_32_bits)
     }));
 }
 
-// Matching strides: the frame comes back for any width, and what was behind it does not.
+// Matching strides: the frame comes back for any width, and what was past its end does not.
 TEST(V210To2vuyEdges, gives_back_what_went_up_at_any_width)
 {
     Random random(1);

@@ -1,4 +1,4 @@
-// `v210` to and from `2vuy` against their second telling: random frames, overlapping memory, every sample.
+// `v210` to and from `2vuy` against their reference implementation: random frames, overlapping memory, every sample.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -11,7 +11,7 @@ namespace {
 struct Routine {
     const char* name;
     void (*routine)(uint8_t*, uint8_t*, unsigned int, unsigned int, unsigned int);
-    void (*told)(uint8_t*, const uint8_t*, uint32_t, uint32_t, uint32_t);
+    void (*expected)(uint8_t*, const uint8_t*, uint32_t, uint32_t, uint32_t);
 };
 
 const Routine routines[] = {
@@ -26,11 +26,11 @@ struct Geometry {
 };
 
 testing::AssertionResult agree(const Routine& routine, Random& random, int64_t from, int64_t to, const Geometry& g,
-                               const Geometry& told)
+                               const Geometry& expected)
 {
     Arena memory(random, 512, 16000);
     routine.routine(memory.actual(to), memory.actual(from), g.width, g.height, g.stride);
-    routine.told(memory.expected(to), memory.expected(from), told.width, told.height, told.stride);
+    routine.expected(memory.expected(to), memory.expected(from), expected.width, expected.height, expected.stride);
     const testing::AssertionResult result = memory.agrees(to);
     if (result) return result;
     return testing::AssertionFailure() << routine.name << ", width " << g.width << ", height " << g.height

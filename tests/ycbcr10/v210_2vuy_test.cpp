@@ -22,7 +22,7 @@ TEST(V210From2vuy, shifts_up_and_keeps_the_order)
     EXPECT_EQ(load<uint32_t>(&dst[12]), 40u | 44u << 10 | 1020u << 20);
 }
 
-// Lines of 8 pixels at a stride of one group: a line's second group lies over the next line's first, and the
+// Lines of 8 pixels at a stride of one group: a line's second group is over the next line's first, and the
 // line that is written later wins. That is the upper one.
 TEST(V210From2vuy, keeps_last_line_first_without_guard)
 {
@@ -67,7 +67,7 @@ TEST(V210To2vuy, drops_the_low_bits)
     EXPECT_EQ((Bytes{dst[0], dst[1], dst[2]}), (Bytes{0, 255, 128}));
 }
 
-// One line of 6 pixels makes two steps, 24 bytes; two lines end 12 bytes behind the frame's 24.
+// One line of 6 pixels makes two steps, 24 bytes; two lines end 12 bytes past the end of the frame's 24.
 TEST(V210To2vuy, keeps_double_length_lines)
 {
     Bytes src(48, 0xFF), dst(40, 0xEE);

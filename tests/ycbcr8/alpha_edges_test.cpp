@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "sparse.h"
+#include "support/sparse.h"
 
 namespace {
 
@@ -58,7 +58,7 @@ TEST(AlphaEdges, keeps_one_line_more)
             EXPECT_EQ(after(routine, 16, 4, 8, width, height), Bytes(16, 0xEE)) << width << ' ' << height;
 }
 
-// Slack lies behind the pixels: strides of 3 and 7.
+// Slack is after the pixels: strides of 3 and 7.
 TEST(AlphaEdges, narrowed_lines_start_their_strides)
 {
     EXPECT_EQ(after(tntvt_2yuv_to_alphay, 6, 3, 7, 2, 1), (Bytes{1, 3, 0xEE, 8, 10, 0xEE}));
@@ -128,11 +128,11 @@ TEST(AlphaEdges, added_from_the_last_line_to_the_first)
     tntvt_rgba_addalpha(src.data(), dst.data(), 6, 0, 9, 2, 2);
     EXPECT_EQ(dst, (Bytes{0, 1, 2, 9, 3, 4, 5, 9, 0xEE, 0xEE}));
     dst.assign(10, 0xEE);
-    tntvt_rgba_addalpha(src.data(), dst.data() + 1, 6, -1, 9, 2, 2);  // line 1 one byte in front of line 0
+    tntvt_rgba_addalpha(src.data(), dst.data() + 1, 6, -1, 9, 2, 2);  // line 1 one byte before line 0
     EXPECT_EQ(dst, (Bytes{6, 0, 1, 2, 9, 3, 4, 5, 9, 0xEE}));
 }
 
-// Strides are multiplied as they stand, in 64 bits.
+// Strides are multiplied unchanged, in 64 bits.
 TEST(AlphaEdges, lines_4_gib_apart)
 {
     const tintvert::test::Sparse memory;
@@ -172,7 +172,7 @@ int second(int mode, int prev, int t, int cur)
     return result;
 }
 
-TEST(AverageEdges, telling_values)
+TEST(AverageEdges, expected_values)
 {
     EXPECT_EQ(second(3, 100, 120, 104), 100);
     EXPECT_EQ(second(3, 100, 110, 104), 110);
@@ -242,7 +242,7 @@ TEST(AverageEdges, mode_1_truncates)
     EXPECT_EQ(line, (Bytes{1, 100, 2, 101, 3, 255, 4, 255, 5, 0, 6, 0}));
 }
 
-// `prev` goes on as the first luma of the next pair, as it stands in the line.
+// `prev` goes on as the first luma of the next pair, as it is in the line.
 TEST(AverageEdges, references_move_on)
 {
     Bytes line{0, 100, 0, 200, 0, 106, 0, 200, 0, 113, 0, 200, 0, 121, 0, 200};

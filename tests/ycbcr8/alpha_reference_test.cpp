@@ -170,7 +170,7 @@ TEST(AverageExhaustive, every_pair_of_samples_in_mode_1)
     }
 }
 
-TEST(AlphaReference, a_wrong_telling_is_rejected)
+TEST(AlphaReference, a_wrong_reference_is_rejected)
 {
     Random random{8};
     Arena arena{random, 64, 1000};

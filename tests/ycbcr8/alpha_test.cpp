@@ -79,7 +79,7 @@ TEST(RgbaAlpha, add_takes_the_source_first)
     EXPECT_EQ(dst, Bytes(18, 0xEE));
 }
 
-// 2^32 - 1 pixels end at the fence, with everything in front of it converted.
+// 2^32 - 1 pixels end at the fence, with everything before it converted.
 TEST(RgbaAlpha, keeps_negative_width_as_unsigned)
 {
     tintvert::test::FencedBuffer dst({0, 4096}, 4096, tintvert::test::Side::above, tintvert::test::Closed::wholly);
@@ -98,7 +98,7 @@ unsigned char second_luma(int mode, int prev, int t, int cur)
     return line[3];
 }
 
-TEST(Average2y, telling_values)
+TEST(Average2y, expected_values)
 {
     EXPECT_EQ(second_luma(3, 100, 120, 104), 100);
     EXPECT_EQ(second_luma(3, 100, 110, 104), 110);

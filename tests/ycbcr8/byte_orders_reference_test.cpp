@@ -28,7 +28,7 @@ const struct {
     {tntvt_yuv422_yuv444_8, reference::tntvt_yuv422_yuv444_8},
 };
 
-// The chroma of a pixel follows its luma, so one run holds all pairs of luma and chroma.
+// The chroma of a pixel follows its luma, so one run has all pairs of luma and chroma.
 TEST(ByteOrdersExhaustive, every_luma_with_every_chroma)
 {
     for (const auto& [routine, reference] : runs) {
@@ -111,7 +111,7 @@ TEST(ByteOrdersReference, frames_of_444_overlapping)
     }
 }
 
-TEST(ByteOrdersReference, a_wrong_telling_is_rejected)
+TEST(ByteOrdersReference, a_wrong_reference_is_rejected)
 {
     Random random{7};
     Arena arena{random, 64, 256};

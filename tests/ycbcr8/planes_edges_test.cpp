@@ -7,21 +7,14 @@
 #include <numeric>
 #include <vector>
 
-#include "sparse.h"
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_SANITIZED 1
-#endif
-#endif
+#include "support/sanitized.h"
+#include "support/sparse.h"
 
 namespace {
 
 using Bytes = std::vector<unsigned char>;
 
-// Bytes that count from 0, so that each tells its place.
+// Bytes that count from 0, so that each shows its place.
 Bytes places(size_t count)
 {
     Bytes result(count);
@@ -70,7 +63,7 @@ TEST(PlanesEdges, counts_of_luma_make_whole_groups)
     }
 }
 
-// What the three numbers hold changes nothing.
+// What the three numbers are changes nothing.
 TEST(PlanesEdges, keeps_planes_without_lines)
 {
     for (const unsigned int number : {0u, 1u, 4u, 0xFFFFFFFFu}) {
@@ -315,7 +308,7 @@ TEST(Yuy2Edges, an_odd_height_takes_a_line_more)
     EXPECT_EQ(cr, (Bytes{5, 0xEE}));
 }
 
-// Two groups for 3 pixels. The second pair stands at source byte 18, luma byte 5 and chroma byte 1: a pitch of
+// Two groups for 3 pixels. The second pair is at source byte 18, luma byte 5 and chroma byte 1: a pitch of
 // 2 for 3 pixels is one short, and half of that rounds down to -1. Its luma and chroma go over those of the
 // first pair.
 TEST(Yuy2Edges, keeps_drift_of_odd_width)

@@ -70,7 +70,7 @@ TEST(PlanesReference, from_420_apart_and_overlapping)
     }
 }
 
-// `width` is on its own here: planes lie where it puts them, lines are as long as `stride`, and where one
+// `width` is on its own here: planes are where it puts them, lines are as long as `stride`, and where one
 // plane runs into another the stores of a group follow each other as luma, byte 0, byte 2.
 TEST(PlanesReference, to_420)
 {
@@ -117,7 +117,7 @@ TEST(PlanesExhaustive, every_pair_of_chroma_samples_averaged)
     }
 }
 
-TEST(PlanesReference, a_wrong_telling_is_rejected)
+TEST(PlanesReference, a_wrong_reference_is_rejected)
 {
     Random random{7};
     const Frame420 pairs[][2] = {{tntvt_i420_2vuy, reference::tntvt_2vuy_i420},

@@ -74,7 +74,7 @@ TEST(I420, keeps_long_luma_lines_of_odd_width)
     EXPECT_EQ(dst, (Bytes{6, 0, 7, 1, 7, 2, 8, 3, 0xEE, 0xEE, 6, 4, 7, 5, 7, 6, 8, 7, 0xEE, 0xEE}));
 }
 
-// Every sample tells its line: luma lines 0 to 11, chroma lines from 100 (Cr) and 200 (Cb).
+// Every sample shows its line: luma lines 0 to 11, chroma lines from 100 (Cr) and 200 (Cb).
 TEST(Yv12, keeps_interlaced_line_order)
 {
     constexpr int width = 8, height = 12;

@@ -1,4 +1,4 @@
-// RGB to `2vuy` against its second telling: random runs, overlapping memory, every colour.
+// RGB to `2vuy` against its reference implementation: random runs, overlapping memory, every colour.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -55,7 +55,7 @@ TEST(RgbTo2vuyReference, random_frames)
         const long width = random.between(-2, 20), height = random.between(-3, 12);
         const long strides[] = {width * 4, width * 2, width * 4 + random.between(1, 40), random.between(-100, 100)};
         const long dstStride = strides[random.between(0, 3)], srcStride = strides[random.between(0, 3)];
-        // What lies above the low 32 bits has no part in the product.
+        // What is above the low 32 bits has no part in the product.
         const long wide = width + random.between(-1, 1) * 0x100000000,
                    high = height + random.between(-1, 1) * 0x100000000;
         const int64_t from = random.between(0, 15), to = random.between(0, 15);
@@ -67,7 +67,7 @@ TEST(RgbTo2vuyReference, random_frames)
     }
 }
 
-// A reference that rounds, or forgets its carry, is told apart by a single random line.
+// A reference that rounds, or forgets its carry, differs in a single random line.
 TEST(RgbTo2vuyReference, rejects_a_wrong_form)
 {
     Random random(23);
@@ -187,7 +187,7 @@ TEST_P(RgbTo2vuyExhaustive, scattered_from_odd)
     compare(colours, [](uint64_t i) { return ((i + 1) * 0x9E3779B1u + 12345) & (colours - 1); });
 }
 
-// Three of each, so that every colour fills a pair and stands on either side of one.
+// Three of each, so that every colour fills a pair and is on either side of one.
 TEST_P(RgbTo2vuyExhaustive, in_threes)
 {
     compare(3 * uint64_t{colours}, [](uint64_t i) { return i / 3; });

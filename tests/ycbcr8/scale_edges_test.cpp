@@ -21,7 +21,7 @@ constexpr unsigned char rows[][5] = {
     {240, 222, 227, 255, 255}, {241, 222, 228, 255, 255}, {255, 235, 241, 255, 255},
 };
 
-TEST(ScaleEdges, telling_rows_down)
+TEST(ScaleEdges, expected_rows_down)
 {
     for (const auto& [value, luma, chroma, luma_up, chroma_up] : rows)
         EXPECT_EQ(scaled(value, 0), (Bytes{chroma, luma, chroma, luma})) << +value;

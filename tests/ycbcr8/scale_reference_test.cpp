@@ -37,7 +37,7 @@ TEST(ScaleExhaustive, every_sample_in_every_place)
 }
 
 // The tables run the other way about going up, and a reference that has them straight is caught.
-TEST(ScaleReference, a_wrong_telling_is_rejected)
+TEST(ScaleReference, a_wrong_reference_is_rejected)
 {
     Random random{2};
     Arena arena{random, 64, 512};

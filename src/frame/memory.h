@@ -1,14 +1,13 @@
 // Loads and stores of words at any address, in the byte order of the layouts.
 #pragma once
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
-namespace tintvert {
+#include "frame/platform.h"
 
-static_assert(std::endian::native == std::endian::little, "words of the layouts are little-endian");
+namespace tintvert {
 
 template <class Word>
 inline Word load(const void* address)
@@ -30,8 +29,8 @@ constexpr uint64_t byte_reverse(uint64_t word) { return __builtin_bswap64(word);
 
 inline uint8_t* bytes(void* pointer) { return static_cast<uint8_t*>(pointer); }
 
-// Offsets are summed as integers: a routine may be told to stand far outside a buffer, where pointer
-// arithmetic has no meaning of its own.
+// Offsets are summed as integers: a stride may lead far outside a buffer, where pointer arithmetic
+// is undefined.
 template <class Pointer>
 inline Pointer* advance(Pointer* pointer, long offset)
 {

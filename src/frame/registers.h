@@ -1,10 +1,10 @@
 // Registers of 16 and 32 bytes to and from any address.
 #pragma once
 
+#include "frame/intrinsics.h"
 #include "frame/simd.h"
 
 #if defined(__x86_64__)
-#include "frame/intrinsics.h"
 
 namespace tintvert {
 

@@ -1,4 +1,4 @@
-#include "wide/agreement.h"
+#include "simd/agreement.h"
 
 #include <algorithm>
 #include <cstring>

@@ -2,7 +2,7 @@
 // which must not show at any width, stride or distance of the two frames.
 #include <gtest/gtest.h>
 
-#include "wide/agreement.h"
+#include "simd/agreement.h"
 
 namespace tintvert::test {
 namespace {

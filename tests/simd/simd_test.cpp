@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/fence.h"
-#include "wide/agreement.h"
+#include "simd/agreement.h"
 
 namespace tintvert::test {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "wide/agreement.h"
+#include "simd/agreement.h"
 
 namespace tintvert::test {
 namespace {

@@ -27,8 +27,8 @@ extern "C" {
  * pixels of `v210`, and 4, 8, 12, 12 and 16 for one to five. `src` and `dst` do not overlap. All return 0 and may
  * run on any number of threads.
  *
- * Each call takes the widest form that the processor has: plain, AVX2, or AVX-512 (F, BW, VL, DQ and VBMI).
- * All write the same bytes.
+ * Each call uses the best instruction set that the processor has: scalar code, AVX2, or AVX-512 (F, BW, VL, DQ and
+ * VBMI). All write the same bytes.
  *
  * uyvy: Cb, Y0, Cr, Y1.
  * 012v: v210, six pixels in four little-endian words.

@@ -13,9 +13,10 @@
 
 namespace tintvert {
 
-// A pixel of the walk is `per_pixel` of `Units`, which has `src_bytes`, `dst_bytes` and `moved`.
-template <class Units, long per_pixel = 1>
+// A pixel of the walk, `Form`, is `per_pixel` of `Units`, which has `src_bytes`, `dst_bytes` and `moved`.
+template <class Units, long per_pixel = 1, class Form = Units>
 struct BitMoves {
+    static_assert(pixel_is_moved<Form, Units>(), "`moved` and `pixel` of a form differ");
     static constexpr bool in_place = Units::src_bytes == Units::dst_bytes;
 #if defined(__x86_64__)
     static long avx2(uint8_t* dst, const uint8_t* src, long pixels, bool down)

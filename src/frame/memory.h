@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "frame/platform.h"
 
@@ -21,6 +22,23 @@ template <class Word>
 inline void store(void* address, Word word)
 {
     std::memcpy(address, &word, sizeof word);
+}
+
+// The same for bytes, also while compiling.
+template <class Word>
+constexpr Word load(const uint8_t* at)
+{
+    if (!std::is_constant_evaluated()) return load<Word>(static_cast<const void*>(at));
+    uint64_t word = 0;
+    for (size_t i = 0; i < sizeof(Word); ++i) word |= uint64_t{at[i]} << 8 * i;
+    return static_cast<Word>(word);
+}
+
+template <class Word>
+constexpr void store(uint8_t* at, Word word)
+{
+    if (!std::is_constant_evaluated()) return store(static_cast<void*>(at), word);
+    for (size_t i = 0; i < sizeof(Word); ++i) at[i] = static_cast<uint8_t>(uint64_t{word} >> 8 * i);
 }
 
 constexpr uint16_t byte_reverse(uint16_t word) { return static_cast<uint16_t>(word << 8 | word >> 8); }

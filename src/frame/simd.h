@@ -60,8 +60,9 @@ inline InstructionSet instruction_set() { return std::min(highest_instruction_se
 
 inline bool disjoint(const uint8_t* one, long one_bytes, const uint8_t* other, long other_bytes)
 {
-    const auto a = reinterpret_cast<uintptr_t>(one), b = reinterpret_cast<uintptr_t>(other);
-    return a + static_cast<uintptr_t>(one_bytes) <= b || b + static_cast<uintptr_t>(other_bytes) <= a;
+    const auto begin = reinterpret_cast<uintptr_t>(one), other_begin = reinterpret_cast<uintptr_t>(other);
+    return begin + static_cast<uintptr_t>(one_bytes) <= other_begin ||
+           other_begin + static_cast<uintptr_t>(other_bytes) <= begin;
 }
 
 // ... nor where they are the same run and each byte depends on the one that it replaces.

@@ -37,8 +37,8 @@ TNTVT_AVX512 inline Ints in_every_quarter(__m128i bytes) { return _mm512_broadca
 namespace tintvert {
 
 #define TNTVT_VEC_OF_TWO(name, of_256, of_512)                                             \
-    TNTVT_AVX2 inline __m256i name(__m256i a, __m256i b) { return _mm256_##of_256(a, b); } \
-    TNTVT_AVX512 inline __m512i name(__m512i a, __m512i b) { return _mm512_##of_512(a, b); }
+    TNTVT_AVX2 inline __m256i name(__m256i x, __m256i y) { return _mm256_##of_256(x, y); } \
+    TNTVT_AVX512 inline __m512i name(__m512i x, __m512i y) { return _mm512_##of_512(x, y); }
 
 TNTVT_VEC_OF_TWO(bits_and, and_si256, and_si512)
 TNTVT_VEC_OF_TWO(bits_xor, xor_si256, xor_si512)
@@ -48,7 +48,7 @@ TNTVT_VEC_OF_TWO(add_words_saturating, adds_epi16, adds_epi16)
 TNTVT_VEC_OF_TWO(subtract_words, sub_epi16, sub_epi16)
 TNTVT_VEC_OF_TWO(multiply_low, mullo_epi16, mullo_epi16)
 TNTVT_VEC_OF_TWO(multiply_high, mulhi_epu16, mulhi_epu16)         // unsigned words
-TNTVT_VEC_OF_TWO(multiply_rounded, mulhrs_epi16, mulhrs_epi16)    // signed words, (a * b + 0x4000) >> 15
+TNTVT_VEC_OF_TWO(multiply_rounded, mulhrs_epi16, mulhrs_epi16)    // signed words, (x * y + 0x4000) >> 15
 TNTVT_VEC_OF_TWO(multiply_and_add_pairs, madd_epi16, madd_epi16)  // signed words to ints
 TNTVT_VEC_OF_TWO(pack_to_bytes, packus_epi16, packus_epi16)       // in each quarter, saturating
 TNTVT_VEC_OF_TWO(shuffle_bytes, shuffle_epi8, shuffle_epi8)       // in each quarter
@@ -57,14 +57,14 @@ TNTVT_VEC_OF_TWO(shuffle_bytes, shuffle_epi8, shuffle_epi8)       // in each qua
 
 #define TNTVT_VEC_SHIFT(name, operation)        \
     template <int bits>                         \
-    TNTVT_AVX2 inline __m256i name(__m256i a)   \
+    TNTVT_AVX2 inline __m256i name(__m256i x)   \
     {                                           \
-        return _mm256_##operation(a, bits);     \
+        return _mm256_##operation(x, bits);     \
     }                                           \
     template <int bits>                         \
-    TNTVT_AVX512 inline __m512i name(__m512i a) \
+    TNTVT_AVX512 inline __m512i name(__m512i x) \
     {                                           \
-        return _mm512_##operation(a, bits);     \
+        return _mm512_##operation(x, bits);     \
     }
 
 TNTVT_VEC_SHIFT(shift_words_left, slli_epi16)
@@ -83,20 +83,20 @@ TNTVT_AVX512 inline __m512i alternate(__m512i even, __m512i odd)
 }
 
 // Int 1 for int 0, 0 for 1, 3 for 2 ...
-TNTVT_AVX2 inline __m256i exchange_ints(__m256i a) { return _mm256_shuffle_epi32(a, 0b10'11'00'01); }
-TNTVT_AVX512 inline __m512i exchange_ints(__m512i a) { return _mm512_shuffle_epi32(a, _MM_PERM_CDAB); }
+TNTVT_AVX2 inline __m256i exchange_ints(__m256i x) { return _mm256_shuffle_epi32(x, 0b10'11'00'01); }
+TNTVT_AVX512 inline __m512i exchange_ints(__m512i x) { return _mm512_shuffle_epi32(x, _MM_PERM_CDAB); }
 
-// Which words are 0, and which of these are equal in `a` and `b`.
-TNTVT_AVX2 inline __m256i zero_words(__m256i a) { return _mm256_cmpeq_epi16(a, _mm256_setzero_si256()); }
-TNTVT_AVX2 inline __m256i equal_words(__m256i among, __m256i a, __m256i b)
+// Which words are 0, and which of these are equal in `x` and `y`.
+TNTVT_AVX2 inline __m256i zero_words(__m256i x) { return _mm256_cmpeq_epi16(x, _mm256_setzero_si256()); }
+TNTVT_AVX2 inline __m256i equal_words(__m256i among, __m256i x, __m256i y)
 {
-    return _mm256_and_si256(among, _mm256_cmpeq_epi16(a, b));
+    return _mm256_and_si256(among, _mm256_cmpeq_epi16(x, y));
 }
 TNTVT_AVX2 inline bool any(__m256i words) { return _mm256_movemask_epi8(words) != 0; }
-TNTVT_AVX512 inline __mmask32 zero_words(__m512i a) { return _mm512_testn_epi16_mask(a, a); }
-TNTVT_AVX512 inline __mmask32 equal_words(__mmask32 among, __m512i a, __m512i b)
+TNTVT_AVX512 inline __mmask32 zero_words(__m512i x) { return _mm512_testn_epi16_mask(x, x); }
+TNTVT_AVX512 inline __mmask32 equal_words(__mmask32 among, __m512i x, __m512i y)
 {
-    return _mm512_mask_cmpeq_epi16_mask(among, a, b);
+    return _mm512_mask_cmpeq_epi16_mask(among, x, y);
 }
 TNTVT_AVX512 inline bool any(__mmask32 words) { return words != 0; }
 

@@ -24,12 +24,12 @@ struct Rgb16ToRgb32 {
     {
         return byte == 3 ? moved_byte<alpha_byte>(0) : moved_bits(5 * byte - 3, 0xF8);
     }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = static_cast<uint8_t>(load<uint16_t>(src) >> 7 & 0xF8);
         dst[1] = static_cast<uint8_t>(load<uint16_t>(src) >> 2 & 0xF8);
         dst[0] = static_cast<uint8_t>(load<uint16_t>(src) << 3);
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 

@@ -18,12 +18,12 @@ struct Rgb24ToRgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<Rgb24ToRgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, alpha_byte>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
         dst[1] = src[1];
         dst[2] = src[2];
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 
@@ -32,12 +32,12 @@ struct Rgb24ToBgr32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<Rgb24ToBgr32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0, alpha_byte>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];
         dst[1] = src[1];
         dst[0] = src[2];
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 
@@ -46,12 +46,12 @@ struct MacBgr24ToMacArgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<MacBgr24ToMacArgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<alpha_byte, 0, 1, 2>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[3] = src[2];
         dst[2] = src[1];
         dst[1] = src[0];
-        dst[0] = a;
+        dst[0] = alpha();
     }
 };
 

@@ -16,7 +16,7 @@ struct Rgb32ToRgb24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
     using Simd = BitMoves<Rgb32ToRgb24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
         dst[1] = src[1];
@@ -28,7 +28,7 @@ struct Rgb32ToBgr24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
     using Simd = BitMoves<Rgb32ToBgr24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];
         dst[1] = src[1];

@@ -44,7 +44,7 @@ void with_shift_of(uint32_t bits, Work work)
 }
 
 template <std::endian order>
-uint16_t load_channel(const uint8_t* src)
+constexpr uint16_t load_channel(const uint8_t* src)
 {
     const auto stored = load<uint16_t>(src);
     return order == std::endian::little ? stored : byte_reverse(stored);
@@ -66,7 +66,10 @@ struct Reduced {
     static constexpr bool tells_bits = is_constant<K>;
     K k;
 
-    uint8_t operator()(const uint8_t* src) const { return static_cast<uint8_t>(load_channel<order>(src) >> k); }
+    constexpr uint8_t operator()(const uint8_t* src) const
+    {
+        return static_cast<uint8_t>(load_channel<order>(src) >> k);
+    }
 
     static constexpr MovedByte moved(int) { return moved_bits(K::value, 0xFF, order == std::endian::little ? 1 : 2); }
 };
@@ -79,7 +82,7 @@ struct Widened {
     static constexpr bool tells_bits = is_constant<K>;
     K k;
 
-    uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
+    constexpr uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
 
     static constexpr MovedByte moved(int byte)
     {
@@ -93,7 +96,7 @@ struct Swapped {
     static constexpr long src_bytes = 2, dst_bytes = 2;
     static constexpr bool tells_bits = true;
 
-    uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
+    constexpr uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
 
     static constexpr MovedByte moved(int byte) { return moved_bits(8 * byte, 0xFF, 2); }
 };
@@ -125,11 +128,11 @@ struct Deep<Channel, channels, Order<from...>> {
         return result;
     }
 
-    void pixel(uint8_t* dst, const uint8_t* src) const { write(dst, take<from>(src)...); }
+    constexpr void pixel(uint8_t* dst, const uint8_t* src) const { write(dst, take<from>(src)...); }
 
 private:
     template <int index>
-    auto take(const uint8_t* src) const
+    constexpr auto take(const uint8_t* src) const
     {
         if constexpr (index == zero)
             return decltype(channel(src)){0};
@@ -138,7 +141,7 @@ private:
     }
 
     template <class... Result>
-    static void write(uint8_t* dst, Result... q)
+    static constexpr void write(uint8_t* dst, Result... q)
     {
         ((store(dst, q), dst += sizeof q), ...);
     }

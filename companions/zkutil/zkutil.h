@@ -41,7 +41,7 @@ ZKUTIL_API void ErrFmtOut(unsigned int, unsigned int, unsigned int, const char* 
  *
  * A code is four characters, case included. Both ways of making a number of them are known: the first
  * character in the lowest byte ("2vuy" is 0x79757632, as files and RIFF headers have it) and in the
- * highest ("2vuy" is 0x32767579, as a multi-character constant has it). So every code below stands for
+ * highest ("2vuy" is 0x32767579, as a multi-character constant has it). So every code below means
  * its mirror image too: "v210" for "012v", "BGRA" for "ARGB".
  *
  *   fccIsYCbCr8     packed 4:2:2, 8 bits a sample, 2 bytes a pixel

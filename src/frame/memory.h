@@ -24,8 +24,9 @@ inline void store(void* address, Word word)
     std::memcpy(address, &word, sizeof word);
 }
 
-// The same for bytes, also while compiling.
+// The same for integers, also while compiling.
 template <class Word>
+requires std::is_integral_v<Word>
 constexpr Word load(const uint8_t* at)
 {
     if (!std::is_constant_evaluated()) return load<Word>(static_cast<const void*>(at));
@@ -35,10 +36,11 @@ constexpr Word load(const uint8_t* at)
 }
 
 template <class Word>
+requires std::is_integral_v<Word>
 constexpr void store(uint8_t* at, Word word)
 {
     if (!std::is_constant_evaluated()) return store(static_cast<void*>(at), word);
-    for (size_t i = 0; i < sizeof(Word); ++i) at[i] = static_cast<uint8_t>(uint64_t{word} >> 8 * i);
+    for (size_t i = 0; i < sizeof(Word); ++i) at[i] = static_cast<uint8_t>(static_cast<uint64_t>(word) >> 8 * i);
 }
 
 constexpr uint16_t byte_reverse(uint16_t word) { return static_cast<uint16_t>(word << 8 | word >> 8); }

@@ -1,5 +1,5 @@
-// 24-bit pixels widened to 32 bits. Lines stand at the end of their strides; last line first, rightmost
-// pixel first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
+// 24-bit pixels widened to 32 bits. Lines are right-aligned in their strides; last line first, rightmost
+// pixel first, so that a frame can grow in place. The alpha is `a`, read for each pixel.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -11,7 +11,7 @@ using namespace tintvert;
 
 namespace {
 
-// One byte at a time, in the order that stands here.
+// One byte at a time, in the order written.
 // QUIRK (keeps_ascending_writes_in_place): in place at tight strides the first pixels of line 0 read
 // bytes that these stores have just replaced: d1 and d2 of pixel 1 and d2 of pixel 2.
 struct Rgb24ToRgb32 {
@@ -103,8 +103,8 @@ void tntvt_macbgr24_macargb32_inplace(void* dst, long dstStride, void* src, long
 }
 
 // QUIRK (keeps_crossed_pointers): the first pointer is read and the third written, and each goes
-// with the stride behind the other. Written line i ends at `dst` + i strides, so that line 0 lies in
-// front of `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
+// with the stride after the other. Written line i ends at `dst` + i strides, so that line 0 is before
+// `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
 //
 // The walker counts the lines r from `lines` down to 1, so i is `lines` - r and the read line
 // r + (`height` - 1 - `lines`).

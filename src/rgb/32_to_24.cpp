@@ -1,5 +1,5 @@
-// 32-bit pixels cut down to their first three bytes. Lines stand at the start of their strides; first
-// line first, leftmost pixel first, so that a frame can shrink where it stands.
+// 32-bit pixels cut down to their first three bytes. Lines are left-aligned in their strides; first
+// line first, leftmost pixel first, so that a frame can shrink in place.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -75,7 +75,7 @@ void tntvt_rgba32_bgr24_inplace(void* dst, long dstStride, void* src, long srcSt
 }
 
 // QUIRK (keeps_signed_height_in_addresses): the lines are counted by the magnitude and placed by the
-// signed number. At a `height` of -2 they go to lines -3 and -4, in front of `dst`.
+// signed number. At a `height` of -2 they go to lines -3 and -4, before `dst`.
 void tntvt_rgba32_rgb24_invert(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
     to_rgb24(mirrored({dst, dstStride, src, srcStride}, line_sum(height, -1)), width, height);

@@ -50,7 +50,7 @@ constexpr uint16_t load_channel(const uint8_t* src)
     return order == std::endian::little ? stored : byte_reverse(stored);
 }
 
-// A channel tells where its bits come from if its shift is known to the compiler.
+// Where the bits of a channel come from is known if its shift is known to the compiler.
 template <class K>
 constexpr bool is_constant = requires
 {
@@ -63,7 +63,7 @@ constexpr bool is_constant = requires
 template <std::endian order, class K>
 struct Reduced {
     static constexpr long src_bytes = 2, dst_bytes = 1;
-    static constexpr bool tells_bits = is_constant<K>;
+    static constexpr bool has_moves = is_constant<K>;
     K k;
 
     constexpr uint8_t operator()(const uint8_t* src) const
@@ -79,7 +79,7 @@ struct Reduced {
 template <class K>
 struct Widened {
     static constexpr long src_bytes = 1, dst_bytes = 2;
-    static constexpr bool tells_bits = is_constant<K>;
+    static constexpr bool has_moves = is_constant<K>;
     K k;
 
     constexpr uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
@@ -94,7 +94,7 @@ struct Widened {
 // 16 bits, big-endian, to 16 bits of the machine.
 struct Swapped {
     static constexpr long src_bytes = 2, dst_bytes = 2;
-    static constexpr bool tells_bits = true;
+    static constexpr bool has_moves = true;
 
     constexpr uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
 
@@ -117,7 +117,7 @@ struct Deep<Channel, channels, Order<from...>> {
     static constexpr long dst_bytes = long{sizeof...(from)} * Channel::dst_bytes;
     Channel channel;
 
-    using Simd = std::conditional_t<Channel::tells_bits, BitMoves<Deep>, void>;
+    using Simd = std::conditional_t<Channel::has_moves, BitMoves<Deep>, void>;
     static constexpr MovedByte moved(int byte)
     {
         constexpr int places[] = {from...};
@@ -147,7 +147,7 @@ private:
     }
 };
 
-// What the sign of `height` means. Lines stand at the end of their strides; last line first, rightmost
+// What the sign of `height` means. Lines are right-aligned in their strides; last line first, rightmost
 // pixel first.
 struct PositiveOnly {
     template <class Form>
@@ -167,7 +167,7 @@ struct ExactFlip {
 };
 
 // QUIRK (keeps_flip_one_line_off): a negative `height` sends source line r, counted from 1, to the
-// line that ends at `lines` - r strides. The last source line lands in front of `dst` and the last
+// line that ends at `lines` - r strides. The last source line is written before `dst` and the last
 // destination line is never written. The lines are counted in 32 bits.
 struct FlipOneLineOff {
     template <class Form>

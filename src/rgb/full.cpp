@@ -1,4 +1,4 @@
-// A frame from one buffer to another by pixel size, which each side's stride tells.
+// A frame from one buffer to another by pixel size, which each side's stride gives.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -29,7 +29,7 @@ struct Word {
     static constexpr void pixel(uint8_t* dst, const uint8_t* src) { store(dst, load<uint32_t>(src)); }
 };
 
-// The frame stands on its head for the walk: last line first, each line from its start.
+// The frame is upside down for the walk: last line first, each line from its start.
 template <class Form>
 void copy_lines(const Frame& frame, long width, long height)
 {

@@ -28,7 +28,7 @@ Pgroup load_pgroup(const uint8_t* p)
 typedef uint64_t Pair __attribute__((vector_size(16)));
 
 // Three pgroups by two 64-bit words with six samples each, from bit 63 down. These are moved apart into three and
-// three, from bits 29 and 61 down; in a `v210` word the first stands lowest, so the outer ones change places.
+// three, from bits 29 and 61 down; in a `v210` word the first is lowest, so the outer ones change places.
 void group_by_words(uint8_t* dst, const uint8_t* src)
 {
     constexpr uint64_t low = 0x000003FF'000003FF;

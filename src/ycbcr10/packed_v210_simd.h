@@ -44,7 +44,7 @@ TNTVT_AVX512 inline __m512i unpack_60_avx512(__m512i bytes)
 }
 
 struct UnpackGroups {
-    // The second half reads a byte beyond its 15, so the last step leaves a group behind it.
+    // The second half reads a byte beyond its 15, so the last step leaves a group over.
     TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long groups)
     {
         long done = 0;

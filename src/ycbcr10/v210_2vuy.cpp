@@ -57,7 +57,7 @@ void narrow_line(uint8_t* dst, const uint8_t* src, long groups, InstructionSet l
 
 // QUIRK (keeps_double_length_lines): output words are counted against pixels, two to a word, so a line
 // runs on to twice its length: a group for every three pixels. The next line overwrites the surplus and the last
-// line's lands behind the frame, where callers leave `width` * 2 bytes of room.
+// line's goes past the end of the frame, where callers leave `width` * 2 bytes of room.
 long doubled_groups(long width) { return groups_of(width, 3); }
 
 // Offsets of lines are running sums, kept to 32 bits.

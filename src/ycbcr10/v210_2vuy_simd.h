@@ -32,7 +32,7 @@ TNTVT_AVX512 inline __m512i narrow_64_avx512(__m512i words)
 
 struct WidenGroups {
     // Two groups a step. The bytes a, b, c of a word go to bits 2, 12 and 22: a and b by one sum of products, c from
-    // the top byte down. The second half reads four bytes beyond its 12, so the last step leaves a group behind it.
+    // the top byte down. The second half reads four bytes beyond its 12, so the last step leaves a group over.
     // Lines go from last to first, and so do the steps: a processor fetches ahead in one direction.
     TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long groups)
     {

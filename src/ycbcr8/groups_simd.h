@@ -45,7 +45,7 @@ TNTVT_AVX2 inline void store_groups_avx2(uint8_t* dst, __m256i chroma, __m256i l
     store_256(dst + 32, _mm256_unpackhi_epi8(c, y));
 }
 
-// Where the samples of 32 groups of `YUY2` stand in two registers: their luma, and their Cb before their Cr.
+// Where the samples of 32 groups of `YUY2` are in two registers: their luma, and their Cb before their Cr.
 struct Yuy2Places {
     alignas(64) uint8_t luma[64], chroma[64];
 };
@@ -76,7 +76,7 @@ struct Deinterleave {
 };
 
 struct DeinterleaveLuma {
-    // From the first luma byte on, so that the last step leaves a group behind it.
+    // From the first luma byte on, so that the last step leaves a group over.
     TNTVT_AVX2 static long avx2(uint8_t* y, const uint8_t* src, long groups, bool)
     {
         long done = 0;

@@ -15,7 +15,7 @@ Lines exact_flip(int64_t height) { return height > 0 ? Lines{height, 1, false} :
 
 Lines flip_one_line_off(int64_t height)
 {
-    const int64_t count = static_cast<uint32_t>(height < 0 ? -height : height);
+    const int64_t count = static_cast<int32_t>(height < 0 ? -height : height);
     return height > 0 ? Lines{count, 1, false} : Lines{count, count - 1, true};
 }
 

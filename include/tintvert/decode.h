@@ -78,20 +78,23 @@ TNTVT_API void _v210_to_rgb(void* src, void* dst, int width, int height, int dst
  *
  * At any other `scale` the tables decode it (tntvt_v210_rgb24, tntvt_yuv422_rgb24), with BT.601 whatever
  * the size; the resolved stride picks the form there, so that a reduced picture with default strides is
- * 32-bit from every entry. A `scale` of 0 divides by zero. */
-TNTVT_API void tntvt_yuv422_10_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                     long scale);
-TNTVT_API void tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
-                                     long scale);
-TNTVT_API void tntvt_yuv422_8_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+ * 32-bit from every entry. A `scale` of 0 divides by zero.
+ *
+ * They return what libycbcr returned, and 0 after the tables. Neither reports an error. */
+TNTVT_API int tntvt_yuv422_10_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                     long scale);
-TNTVT_API void tntvt_yuv422_8_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+TNTVT_API int tntvt_yuv422_10_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                     long scale);
+TNTVT_API int tntvt_yuv422_8_rgb24(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                   long scale);
+TNTVT_API int tntvt_yuv422_8_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
+                                   long scale);
 
 /* `i420` and `yv12` to `rgb32` by libycbcr, with the matrix for the frame's size. Destination lines are
- * `width` x 4 bytes without slack; `srcStride` is the distance of two luma lines and has no default. */
-TNTVT_API void tntvt_i420_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
-TNTVT_API void tntvt_yv12_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
+ * `width` x 4 bytes without slack; `srcStride` is the distance of two luma lines and has no default.
+ * They return what libycbcr returned, which reports no error. */
+TNTVT_API int tntvt_i420_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
+TNTVT_API int tntvt_yv12_rgb32(void* dst, void* src, unsigned int width, unsigned int height, unsigned int srcStride);
 
 /* `yuvijg` (Y, Cb, Cr at full range) to B, G, R, 0 with the JPEG coefficients, ITU-R BT.601 at full range, in
  * double precision, truncated. Nothing is clamped: colours outside the RGB cube wrap. Lines stand at the

@@ -114,7 +114,7 @@ template <class Source, class Form>
 void decode_frame(const Frame& frame, long width, long height, long scale, bool exchanged = false)
 {
     const InstructionSet level = instruction_set();
-    const long rows = height / scale, src_step = line_offset(frame.src_stride, scale);
+    const long rows = width < 1 ? 0 : height / scale, src_step = line_offset(frame.src_stride, scale);
     for (long r = 0; r < rows; ++r)
         decode_line_at<Source, Form>(scale, advance(bytes(frame.dst), line_offset(r, frame.dst_stride)),
                                      advance(bytes(frame.src), line_offset(exchanged ? r ^ 1 : r, src_step)), width,

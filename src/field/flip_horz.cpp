@@ -62,21 +62,35 @@ size_t mirror_line_avx2(uint8_t*, const uint8_t*, size_t) { return 0; }
 size_t mirror_line_in_place_avx2(uint8_t*, size_t) { return 0; }
 #endif
 
-void mirror_line(uint8_t* dst, const uint8_t* src, size_t width, bool wide)
+// The offset of a pixel in a frame, at most 2^32 - 1: the line that begins at `line` may go on at offset 0.
+uint32_t pixel_at(uint32_t line, uint32_t pixel) { return line + pixel * 4; }
+
+// Whether pixels 0 to `width` of that line follow each other.
+bool runs_on(uint32_t line, uint32_t width) { return line + (uint64_t{width} + 1) * 4 <= uint64_t{1} << 32; }
+
+void mirror_line(uint8_t* dst, const uint8_t* src, uint32_t line, uint32_t width, bool simd)
 {
-    const long bytes = static_cast<long>(width * 4);
-    size_t i = wide && disjoint(dst, bytes, src + 4, bytes) ? mirror_line_avx2(dst, src, width) : 0;
-    for (; i < width; ++i) store(dst + i * 4, load<uint32_t>(src + (width - i) * 4));
+    uint32_t i = 0;
+    if (simd && runs_on(line, width)) {
+        uint8_t* const to = advance(dst, line);
+        const uint8_t* const from = advance(src, line);
+        const long bytes = long{width} * 4;
+        if (disjoint(to, bytes, from + 4, bytes)) i = static_cast<uint32_t>(mirror_line_avx2(to, from, width));
+    }
+    for (; i < width; ++i)
+        store(advance(dst, pixel_at(line, i)), load<uint32_t>(advance(src, pixel_at(line, width - i))));
 }
 
-void mirror_line_in_place(uint8_t* line, size_t width, bool wide)
+void mirror_line_in_place(uint8_t* frame, uint32_t line, uint32_t width, bool simd)
 {
-    size_t i = wide ? mirror_line_in_place_avx2(line, width) : 0;
+    uint32_t i = 0;
+    if (simd && runs_on(line, width)) i = static_cast<uint32_t>(mirror_line_in_place_avx2(advance(frame, line), width));
     for (; i < width / 2; ++i) {
-        const auto left = load<uint32_t>(line + i * 4);
-        const auto right = load<uint32_t>(line + (width - i) * 4);
-        store(line + i * 4, right);
-        store(line + (width - i) * 4, left);
+        uint8_t* const left = advance(frame, pixel_at(line, i));
+        uint8_t* const right = advance(frame, pixel_at(line, width - i));
+        const auto from_left = load<uint32_t>(left);
+        store(left, load<uint32_t>(right));
+        store(right, from_left);
     }
 }
 
@@ -84,13 +98,13 @@ void mirror_line_in_place(uint8_t* line, size_t width, bool wide)
 
 void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int height, unsigned int stride)
 {
-    if (height < 1 || (dst != src && width < 1)) return;
     const auto pixels = static_cast<uint32_t>(width);
-    const bool wide = instruction_set() >= InstructionSet::avx2;
+    if (height < 1 || (dst == src ? pixels < 2 : width < 1)) return;
+    const bool simd = instruction_set() >= InstructionSet::avx2;
     for (uint32_t r = 0; r < static_cast<uint32_t>(height); ++r) {
         if (dst == src)
-            mirror_line_in_place(line_at(dst, r, stride), pixels, wide);
+            mirror_line_in_place(dst, r * stride, pixels, simd);
         else
-            mirror_line(line_at(dst, r, stride), line_at(src, r, stride), pixels, wide);
+            mirror_line(dst, src, r * stride, pixels, simd);
     }
 }

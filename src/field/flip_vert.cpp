@@ -83,20 +83,21 @@ struct Placed {
     Margins margins;
     bool keep_margins;
 
-    void clear_margins(uint8_t* line) const
+    // `line` is the offset of a line. What is added to it wraps at 32 bits as well.
+    void clear_margins(uint8_t* frame, uint32_t line) const
     {
         if (keep_margins) return;
-        clear(line, margins.left);
-        clear(advance(line, margins.left + src_stride), margins.right);
+        clear(advance(frame, line), margins.left);
+        clear(advance(frame, line + margins.left + src_stride), margins.right);
     }
 };
 
 void copy_upside_down(uint8_t* dst, uint8_t* src, uint32_t height, const Placed& placed)
 {
     for (uint32_t r = 0; r < height; ++r) {
-        uint8_t* line = line_at(dst, r, placed.dst_stride);
-        placed.clear_margins(line);
-        CopyMemoryFast(advance(line, placed.margins.left), line_at(src, height - 1 - r, placed.src_stride),
+        const uint32_t line = r * placed.dst_stride;
+        placed.clear_margins(dst, line);
+        CopyMemoryFast(advance(dst, line + placed.margins.left), line_at(src, height - 1 - r, placed.src_stride),
                        placed.src_stride);
     }
 }
@@ -109,7 +110,7 @@ void turn_upside_down(uint8_t* frame, uint32_t height, const Placed& placed)
     for (uint32_t r = 0; r < height / 2; ++r) {
         uint8_t* top = line_at(frame, r, placed.dst_stride);
         uint8_t* bottom = line_at(frame, height - 1 - r, placed.dst_stride);
-        placed.clear_margins(top);
+        placed.clear_margins(frame, r * placed.dst_stride);
         try {
             CopyMemoryFast(scratch, top, placed.dst_stride);
             CopyMemoryFast(top, bottom, placed.src_stride);

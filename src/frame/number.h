@@ -11,6 +11,9 @@ constexpr int32_t truncate(double value) { return static_cast<int32_t>(value); }
 // ... and a byte by keeping the low eight bits of that: 256.0 becomes 0.
 constexpr uint8_t low_byte(double value) { return static_cast<uint8_t>(truncate(value)); }
 
+// What does not fit in an `int` wraps.
+constexpr int32_t wrapped(long value) { return static_cast<int32_t>(value); }
+
 // Products of two counts wrap at 32 bits.
 constexpr int32_t wrapping_product(long x, long y)
 {

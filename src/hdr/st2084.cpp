@@ -49,8 +49,7 @@ int map_bytes(const Frame& frame, const uint32_t* table)
     const Bytes bytes(table);
     return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
         long i = 0;
-        if (same_or_disjoint(dst, src, count))
-            i = map_pairs_simd(limit, dst, src, nullptr, count, {bytes.of, bytes.of});
+        if (same_or_disjoint(dst, src, count)) i = map_pairs_simd(limit, dst, src, count, {bytes.of, bytes.of});
         for (; i < count; ++i) dst[i] = mapped(table, src[i]);
     });
 }
@@ -111,7 +110,7 @@ int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int ds
                              const long run = m / 4 * 4 - 1;
                              long i = 0;
                              if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_pairs_simd(limit, to + 1, from + 1, to + 1, run, {bytes.of, nullptr});
+                                 i = map_even_bytes_simd(limit, to + 1, from + 1, run, bytes.of);
                              for (; i < run; i += 2) to[i + 1] = mapped(table, from[i + 1]);
                          });
 }
@@ -129,7 +128,7 @@ int tntvt_st2084_to_yuv2(unsigned char* dst, unsigned char* src, unsigned int ds
                              const long run = m / 4 * 4;
                              long i = 0;
                              if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_pairs_simd(limit, to + 1, from + 1, from + 1, run, {bytes.of, nullptr});
+                                 i = map_pairs_simd(limit, to + 1, from + 1, run, {bytes.of, nullptr});
                              for (; i < run; i += 4) {
                                  store(to + i + 1, load<uint32_t>(from + i + 1));
                                  to[i + 1] = mapped(table, from[i + 1]);

@@ -168,12 +168,14 @@ struct ExactFlip {
 
 // QUIRK (keeps_flip_one_line_off): a negative `height` sends source line r, counted from 1, to the
 // line that ends at `lines` - r strides. The last source line is written before `dst` and the last
-// destination line is never written. The lines are counted in 32 bits.
+// destination line is never written.
+// QUIRK (keeps_signed_32_bit_count): the lines are the low 32 bits of the magnitude, as a signed number: 2^32 + 1 lines
+// are one, and 2^31 to 2^32 - 1 lines are below 1 and so no work.
 struct FlipOneLineOff {
     template <class Form>
     static void walk(const Frame& frame, long width, long height, Form form)
     {
-        const long lines = static_cast<uint32_t>(magnitude(height));
+        const long lines = static_cast<int32_t>(magnitude(height));
         walk_backward(height > 0 ? frame : mirrored(frame, lines), width, lines, form);
     }
 };

@@ -15,6 +15,8 @@ namespace {
 
 long samples_walked(long width) { return rounds_of_samples(width) * 8; }
 
+long lines_walked(long width, long height) { return width < 1 ? 0 : magnitude(height); }
+
 struct Low12 {
     static uint32_t sample(uint16_t word) { return word; }
 };
@@ -42,8 +44,7 @@ void pack(void* dst, long dst_stride, void* src, long src_stride, long width, lo
 {
     BitCursor* bits = obtain_bit_cursor();
     const long samples = samples_walked(width);
-    const long lines = samples == 0 ? 0 : magnitude(height);
-    for (long line = 0; line < lines; ++line)
+    for (long line = 0; line < lines_walked(width, height); ++line)
         pack_line<Form>(bits, advance(bytes(dst), line_offset(line, dst_stride)), dst_stride,
                         advance(bytes(src), line_offset(line, src_stride)), samples);
     std::free(bits);
@@ -66,7 +67,7 @@ void tntvt_rgb48_rgb12(void* dst, long dstStride, void* src, long srcStride, lon
 void tntvt_rgb48_12_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
     const long samples = samples_walked(width);
-    for (long line = 0; line < magnitude(height); ++line) {
+    for (long line = 0; line < lines_walked(width, height); ++line) {
         volatile uint8_t* to = advance(bytes(dst), line_offset(line, dstStride));
         const uint8_t* from = advance(bytes(src), line_offset(line, srcStride));
         for (long n = 0; n < samples; ++n) *to = static_cast<uint8_t>(load<uint16_t>(from + 2 * n) >> 4);

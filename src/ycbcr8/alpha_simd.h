@@ -1,4 +1,5 @@
-// Alpha in and out of 32-bit pixels. Each form returns how many pixels it has done; what is left is for the plain one.
+// Alpha in and out of 32-bit pixels. Each version returns how many pixels it has done; what is left is for the scalar
+// code.
 #pragma once
 
 #include "frame/registers.h"
@@ -22,20 +23,8 @@ TNTVT_AVX2 inline long spread_alpha_avx2(uint8_t* dst, const uint8_t* src, long 
     return done;
 }
 
-// The first pixels byte by byte: the bytes in front of the first alpha are not the routine's.
-TNTVT_AVX2 inline long set_alpha_avx2(uint8_t* line, uint8_t alpha, long pixels)
-{
-    if (pixels < 16) return 0;
-    const __m256i value = _mm256_set1_epi32(static_cast<int>(uint32_t{alpha} << 24));
-    long done = 0;
-    for (; done < 8; ++done) line[done * 4 + 3] = alpha;
-    for (; pixels - done >= 8; done += 8) {
-        const __m256i colours = _mm256_and_si256(load_256(line + done * 4), _mm256_set1_epi32(0x00FFFFFF));
-        store_256(line + done * 4, _mm256_or_si256(colours, value));
-    }
-    return done;
-}
-
+// The alpha bytes alone: the colours are not stored, not even as they were, since they may be another thread's.
+// Registers of 32 bytes have no such store.
 TNTVT_AVX512 inline long set_alpha_avx512(uint8_t* line, uint8_t alpha, long pixels)
 {
     const __m512i value = _mm512_set1_epi8(static_cast<char>(alpha));
@@ -62,8 +51,7 @@ TNTVT_AVX2 inline long add_alpha_avx2(uint8_t* dst, const uint8_t* src, uint8_t 
 
 inline long set_alpha_simd(InstructionSet limit, uint8_t* line, uint8_t alpha, long pixels)
 {
-    if (limit >= InstructionSet::avx512) return set_alpha_avx512(line, alpha, pixels);
-    return limit >= InstructionSet::avx2 ? set_alpha_avx2(line, alpha, pixels) : 0;
+    return limit >= InstructionSet::avx512 ? set_alpha_avx512(line, alpha, pixels) : 0;
 }
 
 inline long add_alpha_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, uint8_t alpha, long pixels)

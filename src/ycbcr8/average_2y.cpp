@@ -37,15 +37,14 @@ bool is_isolated(int prev, int t, int cur, int most)
 }
 
 // QUIRK (keeps_round_past_the_end): the test follows the round, so that the last one has `cur` at or
-// past `bytes`: up to index `bytes` + 3 for `cur` and `bytes` + 1 for `t`. A `t` that stays is stored as it
-// is, which leaves the loop without a branch.
+// past `bytes`: up to index `bytes` + 3 for `cur` and `bytes` + 1 for `t`. Only a `t` that is replaced is stored.
 template <Replacement replacement>
 void pull_back(uint8_t* buf, long pairs, int most)
 {
     const auto round = [buf, most](long k) {
         const int prev = buf[4 * k + 1], t = buf[4 * k + 3], cur = buf[4 * k + 5];
-        const int pulled = replaced<replacement>(prev, t, cur);
-        buf[4 * k + 3] = static_cast<uint8_t>(is_isolated(prev, t, cur, most) ? pulled : t);
+        if (!is_isolated(prev, t, cur, most)) return;
+        buf[4 * k + 3] = static_cast<uint8_t>(replaced<replacement>(prev, t, cur));
     };
     round(0);
     for (long k = pull_back_simd(instruction_set(), buf, pairs, replacement, most); k < pairs; ++k) round(k);

@@ -1,6 +1,9 @@
-// Second lumas of `2yuv` pairs pulled back, eight pairs a step. The forms begin at pair 1 and return the pair at which
-// the plain one goes on.
+// Second lumas of `2yuv` pairs pulled back. The versions begin at pair 1 and return the pair at which the scalar code
+// goes on. Bytes that are not replaced are not stored, not even as they were: they may be another thread's, or in
+// memory that may only be read. A step leaves a pair or more after it, so nothing past the last `t` is read.
 #pragma once
+
+#include <bit>
 
 #include "frame/registers.h"
 
@@ -28,21 +31,21 @@ TNTVT_AVX2 inline __m256i replacement_avx2(Replacement replacement, __m256i prev
     return mean_avx2(prev, replacement == Replacement::half_way ? t : cur);
 }
 
-// A step stores bytes 1 to 32 of its pairs and leaves two pairs behind it. So nothing before the first `t` of the
-// buffer or behind the last one is touched.
-TNTVT_AVX2 inline long average_pairs_avx2(uint8_t* buf, long pairs)
+// Isolated errors are rare, so most steps store nothing.
+TNTVT_AVX2 inline void store_chosen_avx2(uint8_t* at, __m256i chosen, __m256i bytes)
 {
-    long pair = 1;
-    for (; pairs - pair > 8; pair += 8) {
-        uint8_t* const at = buf + 4 * pair + 1;
-        const __m256i t = load_256(at), prev = _mm256_slli_epi32(t, 16);
-        store_256(at, _mm256_blendv_epi8(t, mean_avx2(t, prev), _mm256_set1_epi32(0x00FF0000)));
+    auto left = static_cast<uint32_t>(_mm256_movemask_epi8(chosen));
+    if (left == 0) return;
+    alignas(32) uint8_t each[32];
+    store_256(each, bytes);
+    for (; left != 0; left &= left - 1) {
+        const int i = std::countr_zero(left);
+        at[i] = each[i];
     }
-    return pair;
 }
 
-// Byte 2 of a word is the second luma `t`; the first lumas before and behind it are moved there. `most` is the
-// brightest reference that counts.
+// Eight pairs a step. Byte 2 of a word is the second luma `t`; the first lumas before and after it are moved there.
+// `most` is the brightest reference that counts.
 TNTVT_AVX2 inline long pull_back_avx2(uint8_t* buf, long pairs, Replacement replacement, int most)
 {
     const __m256i brightest = _mm256_set1_epi8(static_cast<char>(most));
@@ -57,7 +60,7 @@ TNTVT_AVX2 inline long pull_back_avx2(uint8_t* buf, long pairs, Replacement repl
         const __m256i counts = _mm256_cmpeq_epi8(_mm256_min_epu8(prev, brightest), prev);
         const __m256i isolated =
             _mm256_and_si256(_mm256_and_si256(agree, off), _mm256_and_si256(counts, _mm256_set1_epi32(0x00FF0000)));
-        store_256(at, _mm256_blendv_epi8(t, replacement_avx2(replacement, prev, t, cur), isolated));
+        store_chosen_avx2(at, isolated, replacement_avx2(replacement, prev, t, cur));
     }
     return pair;
 }
@@ -67,7 +70,25 @@ TNTVT_AVX512 inline __m512i distance_avx512(__m512i one, __m512i other)
     return _mm512_or_si512(_mm512_subs_epu8(one, other), _mm512_subs_epu8(other, one));
 }
 
-// Sixteen pairs a step, and only what is isolated is stored.
+TNTVT_AVX512 inline __m512i mean_avx512(__m512i one, __m512i other)
+{
+    const __m512i odd = _mm512_and_si512(_mm512_xor_si512(one, other), _mm512_set1_epi8(1));
+    return _mm512_sub_epi8(_mm512_avg_epu8(one, other), odd);
+}
+
+// Sixteen pairs a step. Registers of 32 bytes have no store of single bytes.
+TNTVT_AVX512 inline long average_pairs_avx512(uint8_t* buf, long pairs)
+{
+    long pair = 1;
+    for (; pairs - pair > 16; pair += 16) {
+        uint8_t* const at = buf + 4 * pair + 1;
+        const __m512i t = _mm512_loadu_si512(at);
+        _mm512_mask_storeu_epi8(at, 0x4444444444444444, mean_avx512(t, _mm512_slli_epi32(t, 16)));
+    }
+    return pair;
+}
+
+// Sixteen pairs a step.
 TNTVT_AVX512 inline long pull_back_avx512(uint8_t* buf, long pairs, Replacement replacement, int most)
 {
     const __m512i brightest = _mm512_set1_epi8(static_cast<char>(most));
@@ -79,9 +100,7 @@ TNTVT_AVX512 inline long pull_back_avx512(uint8_t* buf, long pairs, Replacement 
         const __mmask64 counts = _mm512_mask_cmple_epu8_mask(0x4444444444444444, prev, brightest);
         const __mmask64 agree = _mm512_mask_cmple_epu8_mask(counts, distance_avx512(prev, cur), _mm512_set1_epi8(7));
         const __mmask64 isolated = _mm512_mask_cmpge_epu8_mask(agree, distance_avx512(prev, t), _mm512_set1_epi8(11));
-        const __m512i other = replacement == Replacement::half_way ? t : cur;
-        const __m512i odd = _mm512_and_si512(_mm512_xor_si512(prev, other), _mm512_set1_epi8(1));
-        const __m512i mean = _mm512_sub_epi8(_mm512_avg_epu8(prev, other), odd);
+        const __m512i mean = mean_avx512(prev, replacement == Replacement::half_way ? t : cur);
         _mm512_mask_storeu_epi8(at, isolated, replacement == Replacement::reference ? prev : mean);
     }
     return pair;
@@ -89,7 +108,7 @@ TNTVT_AVX512 inline long pull_back_avx512(uint8_t* buf, long pairs, Replacement 
 
 inline long average_pairs_simd(InstructionSet limit, uint8_t* buf, long pairs)
 {
-    return limit >= InstructionSet::avx2 ? average_pairs_avx2(buf, pairs) : 1;
+    return limit >= InstructionSet::avx512 ? average_pairs_avx512(buf, pairs) : 1;
 }
 
 inline long pull_back_simd(InstructionSet limit, uint8_t* buf, long pairs, Replacement replacement, int most)

@@ -46,6 +46,7 @@ int tntvt_rgba_to_alpha(void* dst, long, void* src, long srcStride, long width, 
 
 int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long width, long height)
 {
+    if (width < 1) return 0;
     const InstructionSet limit = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     for (long r = 0; r < height; ++r) {
@@ -59,6 +60,7 @@ int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long widt
 // memory ends.
 int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dstStride, unsigned int alpha, int width, int height)
 {
+    if (width == 0) return 0;
     const InstructionSet limit = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     const long pixels = static_cast<unsigned int>(width);

@@ -14,8 +14,7 @@ namespace {
 void scale_groups(uint8_t* buffer, size_t bytes, const uint8_t* chroma, const uint8_t* luma)
 {
     const size_t whole = (bytes + 3) / 4 * 4;
-    const long done =
-        map_pairs_simd(instruction_set(), buffer, buffer, nullptr, static_cast<long>(whole), {chroma, luma});
+    const long done = map_pairs_simd(instruction_set(), buffer, buffer, static_cast<long>(whole), {chroma, luma});
     for (size_t i = static_cast<size_t>(done); i < bytes; i += 4) {
         buffer[i] = chroma[buffer[i]];
         buffer[i + 1] = luma[buffer[i + 1]];

@@ -2,6 +2,7 @@
 #include <tintvert/ycbcr8.h>
 
 #include "frame/memory.h"
+#include "frame/number.h"
 #include "ycbcr8/groups_simd.h"
 
 using namespace tintvert;
@@ -29,20 +30,23 @@ void convert_pair(InstructionSet limit, uint8_t* y, long y_pitch, uint8_t* cb, u
 // QUIRK (keeps_drift_of_odd_width): every pointer steps from the end of the groups by what `width`
 // leaves of its pitch. An odd `width` has half a group more than that, so pair by pair the source drifts by
 // 2 bytes and luma by 1, and chroma by 1 if `dstPitch` is odd as well. The shift is arithmetic, for pitches
-// below `width`.
+// below `width`. All of this is `int` and wraps at 32 bits: a `srcPitch` of 0x40000000 puts the second line of a pair
+// 2^31 bytes before the first.
 void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigned char* cr, int width, int height,
                 int srcPitch, int dstPitch)
 {
     if (height < 1 || width < 1) return;
     const InstructionSet limit = instruction_set();
     const long groups = (width - 1) / 2 + 1;
-    const long src_slack = 2l * srcPitch - width;
-    const long dst_slack = long{dstPitch} - width;
+    const int src_line = wrapped(2l * srcPitch), dst_slack = wrapped(long{dstPitch} - width);
+    const int src_step = wrapped(4 * groups + 2 * (long{src_line} - width));
+    const int y_step = wrapped(2 * groups + dst_slack + dstPitch);
+    const int chroma_step = wrapped(groups + (dst_slack >> 1));
     for (long line = 0; line < height; line += 2) {
-        convert_pair(limit, y, dstPitch, cb, cr, src, 2l * srcPitch, groups);
-        src = advance(src, 4 * groups + src_slack * 2);
-        y = advance(y, 2 * groups + dst_slack + dstPitch);
-        cb = advance(cb, groups + (dst_slack >> 1));
-        cr = advance(cr, groups + (dst_slack >> 1));
+        convert_pair(limit, y, dstPitch, cb, cr, src, src_line, groups);
+        src = advance(src, src_step);
+        y = advance(y, y_step);
+        cb = advance(cb, chroma_step);
+        cr = advance(cr, chroma_step);
     }
 }

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "support/fence.h"
 #include "simd/agreement.h"
+#include "support/fence.h"
 
 namespace tintvert::test {
 

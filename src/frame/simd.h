@@ -65,12 +65,6 @@ inline bool disjoint(const uint8_t* one, long one_bytes, const uint8_t* other, l
            other_begin + static_cast<uintptr_t>(other_bytes) <= begin;
 }
 
-// ... nor where they are the same run and each byte depends on the one that it replaces.
-inline bool same_or_disjoint(const uint8_t* one, const uint8_t* other, long bytes)
-{
-    return one == other || disjoint(one, bytes, other, bytes);
-}
-
 struct Run {
     const uint8_t* at;
     long bytes;

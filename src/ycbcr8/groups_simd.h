@@ -183,8 +183,8 @@ inline long deinterleave_luma_simd(InstructionSet level, uint8_t* y, const uint8
     return run_simd<DeinterleaveLuma>(level, {{y, groups * 2}}, {{src, groups * 4}}, y, src, groups, false);
 }
 
-inline long part_pair_simd(InstructionSet level, const PlanarRuns<uint8_t>& to, uint8_t* y_below, const uint8_t* src,
-                           const uint8_t* below, long groups)
+inline long deinterleave_yuy2_simd(InstructionSet level, const PlanarRuns<uint8_t>& to, uint8_t* y_below,
+                                   const uint8_t* src, const uint8_t* below, long groups)
 {
     return run_simd<DeinterleaveYuy2>(level,
                                       {{to.y, groups * 2}, {y_below, groups * 2}, {to.cb, groups}, {to.cr, groups}},

@@ -97,6 +97,19 @@ struct OfPair {
 
 #if defined(__x86_64__)
 
+// The upper bytes of words, but for the even words, or the odd ones, which are those of `constant`.
+template <bool even>
+TNTVT_AVX2 inline __m256i upper_bytes_but(__m256i constant, __m256i words)
+{
+    return _mm256_blend_epi16(_mm256_srli_epi16(words, 8), constant, even ? 0b01010101 : 0b10101010);
+}
+
+template <bool even>
+TNTVT_AVX512 inline __m512i upper_bytes_but(__m512i constant, __m512i words)
+{
+    return _mm512_mask_srli_epi16(constant, even ? 0xAAAAAAAA : 0x55555555, words, 8);
+}
+
 // The upper bytes of the words of four or eight pairs.
 TNTVT_AVX2 inline void store_high_bytes(uint8_t* dst, __m256i words)
 {

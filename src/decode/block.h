@@ -17,8 +17,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/intrinsics.h"
-#include "frame/simd.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

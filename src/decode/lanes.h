@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "decode/tables.h"
-#include "frame/intrinsics.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

@@ -7,7 +7,7 @@
 #include <cstddef>
 
 #include "field/lines.h"
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 using namespace tintvert;
 

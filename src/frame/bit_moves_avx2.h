@@ -1,10 +1,9 @@
 // Moves of bits in 256 bits. Each half has a window of 16 or 32 bytes of the source for 16 bytes of the result.
 #pragma once
 
-#include "frame/intrinsics.h"
 #include "frame/moved_byte.h"
-#include "frame/simd.h"
 #include "frame/state.h"
+#include "frame/vec.h"
 
 #if defined(__x86_64__)
 namespace tintvert {

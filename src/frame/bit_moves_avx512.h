@@ -1,10 +1,9 @@
 // Moves of bits in 512 bits. A step takes up to 64 bytes and makes up to 64; masks cut the last one to the line.
 #pragma once
 
-#include "frame/intrinsics.h"
 #include "frame/moved_byte.h"
-#include "frame/simd.h"
 #include "frame/state.h"
+#include "frame/vec.h"
 
 #if defined(__x86_64__)
 namespace tintvert {

@@ -4,7 +4,7 @@
 // null, as they are.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

@@ -1,10 +1,51 @@
-// Registers of 256 and 512 bits by the same names, for steps that are written once (see each_width.h). Words have 16
-// bits, ints 32. Doubles add and multiply by operators.
+// The intrinsics of x86-64, and registers of 256 and 512 bits by the same names, for steps that are written once (see
+// each_width.h). Words have 16 bits, ints 32. Doubles add and multiply by operators.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/simd.h"
 
 #if defined(__x86_64__)
+
+// g++ 12 takes the deliberately undefined operands inside many of the 512-bit intrinsics for mistakes.
+#if defined(__clang__)
+#include <immintrin.h>
+#else
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#include <immintrin.h>
+#pragma GCC diagnostic pop
+#endif
+
+namespace tintvert {
+
+TNTVT_AVX2 inline __m128i load_128(const uint8_t* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
+
+TNTVT_AVX2 inline __m256i load_256(const uint8_t* at)
+{
+    return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(at));
+}
+
+// Sixteen bytes from either address, one half each.
+TNTVT_AVX2 inline __m256i load_halves(const uint8_t* low, const uint8_t* high)
+{
+    return _mm256_inserti128_si256(_mm256_castsi128_si256(load_128(low)), load_128(high), 1);
+}
+
+TNTVT_AVX2 inline void store_128(uint8_t* at, __m128i value)
+{
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(at), value);
+}
+
+TNTVT_AVX2 inline void store_256(uint8_t* at, __m256i value)
+{
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(at), value);
+}
+
+// The lowest `count` of 64 bytes, for the last step of a line.
+inline uint64_t first_bytes(long count) { return count < 64 ? (uint64_t{1} << count) - 1 : ~uint64_t{0}; }
+
+}  // namespace tintvert
 
 namespace tintvert::width_256 {
 
@@ -92,13 +133,13 @@ TNTVT_AVX2 inline __m256i equal_words(__m256i among, __m256i x, __m256i y)
 {
     return _mm256_and_si256(among, _mm256_cmpeq_epi16(x, y));
 }
-TNTVT_AVX2 inline bool any(__m256i words) { return _mm256_movemask_epi8(words) != 0; }
+TNTVT_AVX2 inline bool any_word(__m256i words) { return _mm256_movemask_epi8(words) != 0; }
 TNTVT_AVX512 inline __mmask32 zero_words(__m512i x) { return _mm512_testn_epi16_mask(x, x); }
 TNTVT_AVX512 inline __mmask32 equal_words(__mmask32 among, __m512i x, __m512i y)
 {
     return _mm512_mask_cmpeq_epi16_mask(among, x, y);
 }
-TNTVT_AVX512 inline bool any(__mmask32 words) { return words != 0; }
+TNTVT_AVX512 inline bool any_word(__mmask32 words) { return words != 0; }
 
 }  // namespace tintvert
 

@@ -4,7 +4,7 @@
 //   word 1   34 .. 43, 54 .. 63
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

@@ -1,7 +1,7 @@
 // Alpha in and out of 32-bit pixels.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

@@ -5,7 +5,7 @@
 
 #include <bit>
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

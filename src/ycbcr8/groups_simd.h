@@ -1,7 +1,7 @@
 // Samples of 4:2:2 groups, four bytes each, to planes and back.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 

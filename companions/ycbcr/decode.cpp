@@ -37,7 +37,7 @@ template <class LineOf>
 int decode(const Picture& picture, LineOf form_of_line)
 {
     const Weights& w = weights_of(picture.matrix);
-    const InstructionSet level = TINTVERT_SIMD ? best_level() : InstructionSet::scalar;
+    const InstructionSet level = tintvert::instruction_set();
     for (long y = 0; y < picture.lines; ++y) {
         const long place = (picture.flags & CYCBCR_BOTTOM_UP) != 0 ? picture.lines - 1 - y : y;
         uint8_t* dst = advance(picture.dst, place * picture.dst_stride);

@@ -1,9 +1,8 @@
-// The pixels that the 8-bit table decoders write, one at a time or four from a register of B, G, R, 255.
+// The pixels that the 8-bit table decoders write.
 #pragma once
 
 #include <cstdint>
 
-#include "decode/lanes.h"
 #include "decode/tables.h"
 #include "frame/memory.h"
 
@@ -11,6 +10,7 @@ namespace tintvert {
 
 struct Rgb24 {
     static constexpr long pixel_bytes = 3, groups_left = 0;
+    static constexpr bool second_luma = true;
     static void put(uint8_t* dst, Bgr pixel)
     {
         dst[0] = pixel.blue;
@@ -21,6 +21,7 @@ struct Rgb24 {
 
 struct Rgb32 {
     static constexpr long pixel_bytes = 4, groups_left = 0;
+    static constexpr bool second_luma = true;
     static void put(uint8_t* dst, Bgr pixel)
     {
         Rgb24::put(dst, pixel);
@@ -28,10 +29,11 @@ struct Rgb32 {
     }
 };
 
-// The second pixel of a pair shows the first one's luma. The second luma of a line's last pair is not even
-// read, so wide steps leave that pair's group.
+// The second pixel of a pair shows the first one's luma. The second luma is not read, which steps of whole groups
+// would do: kernels leave the last group of a line.
 struct Rgb16 {
     static constexpr long pixel_bytes = 2, groups_left = 1;
+    static constexpr bool second_luma = false;
     static void put(uint8_t* dst, Bgr pixel) { store(dst, rgb16_word(pixel)); }
 };
 

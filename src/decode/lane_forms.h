@@ -1,4 +1,4 @@
-// Two pairs of pixels at a time by the 8-bit terms, in every processor's registers.
+// Two pairs of pixels at a time by the 8-bit terms, in the registers that every x86-64 processor has.
 #pragma once
 
 #include "decode/forms.h"
@@ -21,6 +21,8 @@ constexpr LaneTables<256, 4> lane_tables()
 }
 
 inline constexpr LaneTables<256, 4> lane_terms = lane_tables();
+
+#if defined(__x86_64__)
 
 inline __m128i four_pixels(const Codes& one, const Codes& other)
 {
@@ -57,5 +59,7 @@ inline void put_two_pairs(Rgb16, uint8_t* dst, const Codes& one, const Codes& ot
     const __m128i twice = _mm_shufflelo_epi16(_mm_shufflehi_epi16(words, 0), 0);
     _mm_storel_epi64(reinterpret_cast<__m128i*>(dst), _mm_shuffle_epi32(twice, 0b1000));
 }
+
+#endif
 
 }  // namespace tintvert

@@ -1,12 +1,13 @@
 // The terms of the table decoders as lanes of pixels: two pixels a 128-bit register, by lookups, adds and shifts.
 //
-// An entry stands in the order of the pixel that it goes into. Alpha is a term of Cb: shifted, it is 255.
+// An entry is in the order of the pixel that it goes into. Alpha is a term of Cb: shifted, it is 255.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
-#include "frame/intrinsics.h"
+#include "decode/tables.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 
@@ -20,10 +21,7 @@ struct LaneTables {
     std::array<Lanes, codes> luma, cb, cr;
 };
 
-// Of a pair of pixels.
-struct Codes {
-    uint32_t cb, y0, cr, y1;
-};
+#if defined(__x86_64__)
 
 inline __m128i lanes(const Lanes& entry) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&entry)); }
 
@@ -56,5 +54,7 @@ inline __m128i first_pixels(const Tables& tables, const Codes& one, const Codes&
         _mm_add_epi16(lanes(tables.cb[one.cb], tables.cb[other.cb]), lanes(tables.cr[one.cr], tables.cr[other.cr]));
     return shifted_sum<Tables::shift>(lanes(tables.luma[one.y0], tables.luma[other.y0]), chroma);
 }
+
+#endif
 
 }  // namespace tintvert

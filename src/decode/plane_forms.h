@@ -5,6 +5,8 @@
 
 #include "decode/planes.h"
 
+#if defined(__x86_64__)
+
 namespace tintvert {
 
 template <int shift>
@@ -60,7 +62,7 @@ TNTVT_AVX512 inline void put_block(Rgb32, uint8_t* dst, WordPair luma, __m512i b
     for (int i = 0; i < registers; ++i) store_64(dst + 64 * i, pixels.at[i]);
 }
 
-// Where the bytes of the 64-byte piece `piece` of a block stand: blue and green in two registers, red in a third.
+// Where the bytes of the 64-byte piece `piece` of a block are: blue and green in two registers, red in a third.
 struct Rgb24Piece {
     alignas(64) std::array<uint8_t, 64> blue_green, red;
     uint64_t red_bytes;
@@ -108,7 +110,7 @@ TNTVT_AVX512 inline void put_blocks(Form form, uint8_t* dst, const Block& one, c
                          chroma.blue.second, chroma.green.second, chroma.red.second);
 }
 
-// Where the bytes of sixteen pairs of one word, written twice, stand: low bytes in one register, high bytes in another,
+// Where the bytes of sixteen pairs of one word, written twice, are: low bytes in one register, high bytes in another,
 // each as the pairs of the one block and of the other by turns of eight.
 constexpr std::array<uint8_t, 64> places_of_rgb16(size_t registers, size_t piece)
 {
@@ -138,8 +140,8 @@ TNTVT_AVX512 inline void put_blocks(Rgb16, uint8_t* dst, const Block& one, const
         store_64(dst + 64 * i, _mm512_permutex2var_epi8(low, entries(rgb16_places<registers>[i].data()), seven));
 }
 
-// Two blocks of `Source` a step: their lumas, their chroma, their pixels. `pairs` are whole units of `Source`. Returns
-// the pairs done, all of them or, where they fill no step, none: the last step ends with them and makes some anew.
+// Two blocks of `Source` a step: their lumas, their chroma, their pixels. `pairs` are whole groups of `Source`. Returns
+// the pairs made, all of them or, where they fill no step, none: the last step ends with them and makes some again.
 template <class Form, class Source>
 TNTVT_AVX512 long pairs_avx512(uint8_t* dst, const uint8_t* src, long pairs)
 {
@@ -154,30 +156,6 @@ TNTVT_AVX512 long pairs_avx512(uint8_t* dst, const uint8_t* src, long pairs)
     return pairs;
 }
 
-// Where the codes of a block stand in two registers of samples: `sample_place` says it of sample n.
-struct Places {
-    alignas(64) std::array<uint8_t, 64> luma, chroma;
-};
-
-template <class Source>
-constexpr Places places_in()
-{
-    Places result{};
-    for (size_t quarter = 0; quarter < 4; ++quarter)
-        for (size_t place = 0; place < 8; ++place) {
-            const size_t at = quarter * 16 + place, sample = pair_at(quarter, place) * 4;
-            result.chroma[at] = Source::sample_place(sample);
-            result.luma[at] = Source::sample_place(sample + 1);
-            result.chroma[at + 8] = Source::sample_place(sample + 2);
-            result.luma[at + 8] = Source::sample_place(sample + 3);
-        }
-    return result;
-}
-
-TNTVT_AVX512 inline Block pick(const Places& places, __m512i low, __m512i high)
-{
-    return {_mm512_permutex2var_epi8(low, entries(places.luma.data()), high),
-            _mm512_permutex2var_epi8(low, entries(places.chroma.data()), high)};
-}
-
 }  // namespace tintvert
+
+#endif

@@ -5,9 +5,8 @@
 
 #include <array>
 
+#include "decode/block.h"
 #include "decode/forms.h"
-#include "frame/intrinsics.h"
-#include "frame/simd.h"
 
 namespace tintvert {
 
@@ -38,27 +37,11 @@ constexpr PlaneTables plane_tables()
 }
 inline constexpr PlaneTables plane_terms = plane_tables();
 
-// 32 pairs. Each quarter holds eight pairs: in the low half their first lumas, or their Cb, in the high half
-// their second lumas, or their Cr. So one unpacking parts the words of a plane, and the pixels come out in order.
-struct Block {
-    __m512i luma, chroma;
-};
-
-// The pair that stands at a place of the quarters: out of them come registers of eight pairs, two from each.
-constexpr size_t pair_at(size_t quarter, size_t place) { return place / 2 * 8 + quarter * 2 + place % 2; }
-
-// Where a pixel stands in such a block.
-constexpr size_t place_of(size_t pixel)
-{
-    const size_t pair = pixel / 2;
-    return pair % 8 / 2 * 16 + pixel % 2 * 8 + pair / 8 * 2 + pair % 2;
-}
+#if defined(__x86_64__)
 
 struct WordPair {
     __m512i first, second;  // of the one block and the other, or of even and odd pixels
 };
-
-TNTVT_AVX512 inline __m512i entries(const uint8_t* at) { return _mm512_loadu_si512(at); }
 
 TNTVT_AVX512 inline WordPair words(__m512i low, __m512i high)
 {
@@ -95,5 +78,7 @@ TNTVT_AVX512 inline Chroma chroma_of(const Block& one, const Block& other)
             add(look_up(plane_terms.green_of_cb, cb), look_up(plane_terms.green_of_cr, cr)),
             look_up(plane_terms.red, cr)};
 }
+
+#endif
 
 }  // namespace tintvert

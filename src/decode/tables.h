@@ -32,6 +32,11 @@ extern uint8_t fTablesSet;       // bit 0: all of the above are complete
 
 void need_tables();  // fills them unless the flag is up
 
+// The samples of a pair of pixels.
+struct Codes {
+    uint32_t cb, y0, cr, y1;
+};
+
 struct Bgr {
     uint8_t blue, green, red;
 };
@@ -39,7 +44,7 @@ struct Bgr {
 // A negative sum goes to entry 0 by the mask, with no branch.
 inline uint8_t clamp_sum(int32_t sum) { return clip10to8[(~(sum >> 16) & sum) >> 4]; }
 
-inline Bgr decode(uint8_t cb, uint8_t y, uint8_t cr)
+inline Bgr decode(uint32_t cb, uint32_t y, uint32_t cr)
 {
     const int32_t luma = Atab[y];
     const ChromaTerms b = BEtab[cb];

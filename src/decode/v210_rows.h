@@ -9,8 +9,6 @@
 
 #include "decode/planes.h"
 #include "decode/v210_tables.h"
-#include "frame/intrinsics.h"
-#include "frame/simd.h"
 
 namespace tintvert {
 
@@ -69,7 +67,9 @@ constexpr bool rows_hold_the_terms()
 }
 static_assert(rows_hold_the_terms());
 
-// Of 32 codes. A lookup takes the low five bits of each word, whatever stands above them.
+#if defined(__x86_64__)
+
+// Of 32 codes. A lookup takes the low five bits of each word, whatever is above them.
 struct Rows {
     __m512i row, place;
 };
@@ -87,5 +87,7 @@ TNTVT_AVX512 inline __m512i terms(const RowTable& table, const Rows& at)
         _mm512_cmpgt_epu16_mask(look_up(table.step_fraction, at.place), look_up(table.head_room, at.row));
     return _mm512_mask_sub_epi16(steps, one_more, steps, _mm512_set1_epi16(-1));
 }
+
+#endif
 
 }  // namespace tintvert

@@ -24,7 +24,7 @@ v210FourWords split(const uint8_t* group)
     return {at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7), at(8), at(9), at(10), at(11)};
 }
 
-// Two pixels of B, G, R, 255 or of 255, R, G, B, the same word turned round.
+// Two pixels of B, G, R, 255 or of 255, R, G, B, the same word byte-reversed.
 void put_pair(uint8_t* dst, uint16_t cb, uint16_t y0, uint16_t cr, uint16_t y1, bool bgra)
 {
     const V210Terms b = v210_BEtab[cb], d = v210_DCtab[cr];
@@ -63,34 +63,7 @@ constexpr LaneTables<1024, 6> lane_tables_10()
 }
 constexpr LaneTables<1024, 6> lane_terms_10 = lane_tables_10();
 
-template <bool bgra>
-__m128i ordered_pair(const uint8_t* group, uint32_t n)
-{
-    const Codes codes = {v210_sample(group, n), v210_sample(group, n + 1), v210_sample(group, n + 2),
-                         v210_sample(group, n + 3)};
-    const __m128i pair = pair_of_pixels(lane_terms_10, codes);
-    return bgra ? pair : _mm_shufflehi_epi16(_mm_shufflelo_epi16(pair, 0b00011011), 0b00011011);
-}
-
-// Two groups a step.
-template <bool bgra>
-long groups_by_lanes(uint8_t* dst, const uint8_t* src, long groups)
-{
-    const auto four_pixels = [](uint8_t* at, const uint8_t* one, uint32_t n, const uint8_t* other, uint32_t m) {
-        const __m128i pixels = _mm_packus_epi16(ordered_pair<bgra>(one, n), ordered_pair<bgra>(other, m));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(at), pixels);
-    };
-    long done = 0;
-    for (; groups - done >= 2; done += 2, src += 2 * v210_group_bytes, dst += 48) {
-        const uint8_t* const next = src + v210_group_bytes;
-        four_pixels(dst, src, 0, src, 4);
-        four_pixels(dst + 16, src, 8, next, 0);
-        four_pixels(dst + 32, next, 4, next, 8);
-    }
-    return done;
-}
-
-// Where sample `first` of 24 pairs stands in two registers, as words of the two bytes that it spans, and how far
+// Where sample `first` of 24 pairs is in two registers, as words of the two bytes that it spans, and how far
 // up in its word.
 struct SamplePlaces {
     alignas(64) std::array<uint8_t, 64> bytes;
@@ -113,6 +86,24 @@ constexpr SamplePlaces sample_places(size_t first)
 }
 constexpr SamplePlaces places_of_samples[] = {sample_places(0), sample_places(1), sample_places(2), sample_places(3)};
 
+#if defined(__x86_64__)
+
+template <bool bgra>
+__m128i ordered_pair(const uint8_t* group, uint32_t n)
+{
+    const Codes codes = {v210_sample(group, n), v210_sample(group, n + 1), v210_sample(group, n + 2),
+                         v210_sample(group, n + 3)};
+    const __m128i pair = pair_of_pixels(lane_terms_10, codes);
+    return bgra ? pair : _mm_shufflehi_epi16(_mm_shufflelo_epi16(pair, 0b00011011), 0b00011011);
+}
+
+template <bool bgra>
+void put_four_pixels(uint8_t* dst, const uint8_t* one, uint32_t n, const uint8_t* other, uint32_t m)
+{
+    const __m128i pixels = _mm_packus_epi16(ordered_pair<bgra>(one, n), ordered_pair<bgra>(other, m));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(dst), pixels);
+}
+
 TNTVT_AVX512 inline Rows rows(const SamplePlaces& places, __m512i low, __m512i high)
 {
     const __m512i spans = _mm512_permutex2var_epi8(low, _mm512_loadu_si512(&places.bytes), high);
@@ -120,38 +111,57 @@ TNTVT_AVX512 inline Rows rows(const SamplePlaces& places, __m512i low, __m512i h
             _mm512_srlv_epi16(spans, _mm512_loadu_si512(&places.place_shift))};
 }
 
-// Eight groups a step.
+#endif
+
 template <bool bgra>
-TNTVT_AVX512 long groups_avx512(uint8_t* dst, const uint8_t* src, long groups)
-{
-    long done = 0;
-    for (; groups - done >= 8; done += 8, src += 128, dst += 192) {
-        const __m512i low = _mm512_loadu_si512(src), high = _mm512_loadu_si512(src + 64);
-        const Rows cb = rows(places_of_samples[0], low, high), cr = rows(places_of_samples[2], low, high);
-        const WordPair luma = {terms(row_terms.luma, rows(places_of_samples[1], low, high)),
-                               terms(row_terms.luma, rows(places_of_samples[3], low, high))};
-        const __m512i taken = _mm512_add_epi16(terms(row_terms.green_of_cb, cb), terms(row_terms.green_of_cr, cr));
-        const __m512i blue = clipped_bytes<6>(luma, terms(row_terms.blue, cb));
-        const __m512i green = clipped_bytes<6>(luma, _mm512_sub_epi16(_mm512_setzero_si512(), taken));
-        const __m512i red = clipped_bytes<6>(luma, terms(row_terms.red, cr));
-        const __m512i alpha = _mm512_set1_epi8(-1);
-        const Registers pixels = bgra ? weave(blue, green, red, alpha) : weave(alpha, red, green, blue);
-        for (int i = 0; i < 3; ++i) store_64(dst + 64 * i, pixels.at[i]);
+struct ConvertGroups {
+#if defined(__x86_64__)
+    // Two groups a step.
+    static long sse2(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        long done = 0;
+        for (; groups - done >= 2; done += 2, src += 2 * v210_group_bytes, dst += 48) {
+            const uint8_t* const next = src + v210_group_bytes;
+            put_four_pixels<bgra>(dst, src, 0, src, 4);
+            put_four_pixels<bgra>(dst + 16, src, 8, next, 0);
+            put_four_pixels<bgra>(dst + 32, next, 4, next, 8);
+        }
+        return done;
     }
-    return done;
-}
+
+    // Eight groups a step.
+    TNTVT_AVX512 static long eights_avx512(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        long done = 0;
+        for (; groups - done >= 8; done += 8, src += 128, dst += 192) {
+            const __m512i low = _mm512_loadu_si512(src), high = _mm512_loadu_si512(src + 64);
+            const Rows cb = rows(places_of_samples[0], low, high), cr = rows(places_of_samples[2], low, high);
+            const WordPair luma = {terms(row_terms.luma, rows(places_of_samples[1], low, high)),
+                                   terms(row_terms.luma, rows(places_of_samples[3], low, high))};
+            const __m512i taken = _mm512_add_epi16(terms(row_terms.green_of_cb, cb), terms(row_terms.green_of_cr, cr));
+            const __m512i blue = clipped_bytes<6>(luma, terms(row_terms.blue, cb));
+            const __m512i green = clipped_bytes<6>(luma, _mm512_sub_epi16(_mm512_setzero_si512(), taken));
+            const __m512i red = clipped_bytes<6>(luma, terms(row_terms.red, cr));
+            const __m512i alpha = _mm512_set1_epi8(-1);
+            const Registers pixels = bgra ? weave(blue, green, red, alpha) : weave(alpha, red, green, blue);
+            for (int i = 0; i < 3; ++i) store_64(dst + 64 * i, pixels.at[i]);
+        }
+        return done;
+    }
+
+    static long avx512(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        const long done = eights_avx512(dst, src, groups);
+        return done + sse2(dst + done * 24, src + done * v210_group_bytes, groups - done);
+    }
+#endif
+};
 
 template <bool bgra>
-long simd_groups(uint8_t* dst, const uint8_t* src, long groups, InstructionSet widest)
+void convert_groups(uint8_t* dst, const uint8_t* src, long groups, InstructionSet level)
 {
-    if (widest == InstructionSet::scalar || !disjoint(dst, groups * 24, src, groups * v210_group_bytes)) return 0;
-    const long done = widest == InstructionSet::avx512 ? groups_avx512<bgra>(dst, src, groups) : 0;
-    return done + groups_by_lanes<bgra>(dst + done * 24, src + done * v210_group_bytes, groups - done);
-}
-
-void convert_groups(uint8_t* dst, const uint8_t* src, long groups, bool bgra, InstructionSet widest)
-{
-    long done = bgra ? simd_groups<true>(dst, src, groups, widest) : simd_groups<false>(dst, src, groups, widest);
+    long done = run_simd<ConvertGroups<bgra>>(level, {{dst, groups * 24}}, {{src, groups * v210_group_bytes}}, dst, src,
+                                              groups);
     for (; done < groups; ++done) convert_group(dst + done * 24, src + done * v210_group_bytes, bgra);
 }
 
@@ -174,13 +184,13 @@ unsigned int* _v210_get_next_4words(unsigned int* src, v210FourWords* out)
 void _v210_to_rgb(void* src, void* dst, int width, int height, int dstStride, int bgraOrder)
 {
     need_v210_tables();
-    const InstructionSet widest = instruction_set();
+    const InstructionSet level = instruction_set();
+    const auto convert = bgraOrder != 0 ? convert_groups<true> : convert_groups<false>;
     const long total = wrapping_product(height, width), common = std::lcm(long{width}, v210_group_pixels);
     const uint8_t* group = bytes(src);
     for (long i = 0; i < total; i += common) {
         const long groups = (std::min(common, total - i) + v210_group_pixels - 1) / v210_group_pixels;
-        convert_groups(advance(bytes(dst), wrapping_product(i / width, dstStride)), group, groups, bgraOrder != 0,
-                       widest);
+        convert(advance(bytes(dst), wrapping_product(i / width, dstStride)), group, groups, level);
         group += groups * v210_group_bytes;
     }
 }

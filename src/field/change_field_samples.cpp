@@ -15,7 +15,7 @@ struct Blend {
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = static_cast<uint8_t>((*dst + *src) >> 1); }
 };
 
-// Both words are halved whole, so the upper three bytes stand one bit low with their own low bit intact;
+// Both words are halved whole, so the upper three bytes are one bit low with their own low bit intact;
 // the masks cut them out there, and a sum of two carries its mean into the byte's own place.
 // QUIRK (keeps_low_byte_of_halves): the byte at the lowest address has no bits below it and is the
 // sum of two halved bytes, one less than the mean of two odd ones.
@@ -32,29 +32,30 @@ static_assert(average(0x01010101, 0x01010101) == 0x01010100);
 static_assert(average(0xFFFFFFFF, 0xFFFFFFFF) == 0xFFFFFFFE);
 static_assert(average(0x02020202, 0x00000000) == 0x01010101);
 
-void average_line_plain(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels)
+void average_pixel(uint8_t* dst, const uint8_t* one, const uint8_t* other)
 {
-    for (size_t i = 0; i < pixels; ++i)
-        store(dst + i * 4, average(load<uint32_t>(one + i * 4), load<uint32_t>(other + i * 4)));
+    store(dst, average(load<uint32_t>(one), load<uint32_t>(other)));
 }
 
-TNTVT_AVX2 void average_line_avx2(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels)
+struct AveragePixels {
+#if defined(__x86_64__)
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* one, const uint8_t* other, long pixels)
+    {
+        TNTVT_PIXELS_APART
+        for (long x = 0; x < pixels; ++x) average_pixel(dst + x * 4, one + x * 4, other + x * 4);
+        return pixels;
+    }
+#endif
+};
+
+void average_line(uint8_t* dst, const uint8_t* one, const uint8_t* other, long pixels, InstructionSet level)
 {
-    TNTVT_PIXELS_APART
-    for (size_t i = 0; i < pixels; ++i)
-        store(dst + i * 4, average(load<uint32_t>(one + i * 4), load<uint32_t>(other + i * 4)));
+    const long bytes = pixels * 4;
+    long x = run_simd<AveragePixels>(level, {{dst, bytes}}, {{one, bytes}, {other, bytes}}, dst, one, other, pixels);
+    for (; x < pixels; ++x) average_pixel(dst + x * 4, one + x * 4, other + x * 4);
 }
 
-void average_line(uint8_t* dst, const uint8_t* one, const uint8_t* other, size_t pixels, bool wide)
-{
-    const long bytes = static_cast<long>(pixels * 4);
-    if (wide && disjoint(dst, bytes, one, bytes) && disjoint(dst, bytes, other, bytes))
-        average_line_avx2(dst, one, other, pixels);
-    else
-        average_line_plain(dst, one, other, pixels);
-}
-
-// QUIRK (keeps_entry_copy): row 0 gets the source's row 1 unless that is where row 1 of `dst` stands,
+// QUIRK (keeps_entry_copy): row 0 gets the source's row 1 unless that is where row 1 of `dst` is,
 // so two frames and one frame in place end with different first rows. It comes before the test on `src`.
 void copy_second_row_to_first(const Change& change)
 {
@@ -79,12 +80,12 @@ int interpolate_first(const Change& change)
 {
     if (change.dst == nullptr || change.src == nullptr) copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
-    const bool wide = instruction_set() >= InstructionSet::avx2;
+    const InstructionSet level = instruction_set();
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.even, src.even, change.src_stride);
         const bool last = k + 1 == change.pairs();
-        average_line(dst.odd, src.even, last ? src.even : advance(src.even, src.twice), change.src_stride / 4, wide);
+        average_line(dst.odd, src.even, last ? src.even : advance(src.even, src.twice), change.src_stride / 4, level);
     }
     return 0;
 }
@@ -93,12 +94,12 @@ int interpolate_second(const Change& change)
 {
     copy_second_row_to_first(change);
     if (change.src == nullptr) return -2;
-    const bool wide = instruction_set() >= InstructionSet::avx2;
+    const InstructionSet level = instruction_set();
     LinePair dst(change.dst, change.dst_stride), src(change.src, change.src_stride);
     for (uint32_t k = 0; k < change.pairs(); ++k, dst.next(), src.next()) {
         copy_line_unless_same(dst.odd, src.odd, change.src_stride);
         if (k + 1 == change.pairs()) break;
-        average_line(advance(dst.even, dst.twice), src.odd, advance(src.odd, src.twice), change.src_stride / 4, wide);
+        average_line(advance(dst.even, dst.twice), src.odd, advance(src.odd, src.twice), change.src_stride / 4, level);
     }
     return 0;
 }

@@ -22,7 +22,7 @@ struct Lines {
 // 255 x 255 x 6 x 5500 is 2145825000, which 31 bits hold.
 constexpr int32_t largest_softness = 5500;
 
-// How far the line stands out on the same side of both neighbours, the channels weighted 1, 6 and 3.
+// How far the line differs to the same side of both neighbours, the channels weighted 1, 6 and 3.
 struct Comb {
     static int32_t measure(const uint8_t* a, const uint8_t* b, const uint8_t* c)
     {
@@ -84,7 +84,7 @@ void keep_line(uint8_t* dst, const uint8_t* src, size_t width)
 }
 
 // QUIRK (keeps_next_line_for_first_two): lines 0 and 1 have the next line on both sides, line 1 too,
-// although line 0 stands above it. The last line has the line above on both sides.
+// although line 0 is above it. The last line has the line above on both sides.
 // QUIRK (keeps_changed_line_above): in place the line above is the repaired one.
 Lines neighbours(uint8_t* here, uint32_t y, uint32_t height, uint32_t stride)
 {

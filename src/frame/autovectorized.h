@@ -1,5 +1,5 @@
-// Simd steps that are the plain pixels themselves, compiled for a wider processor: for forms whose pixels the
-// compiler puts side by side. No pixel depends on another one where wide steps run.
+// A kernel that is the scalar pixels themselves, compiled for AVX2: for forms whose pixels the compiler can put side by
+// side. No pixel depends on another one where kernels run.
 #pragma once
 
 #include <cstdint>
@@ -16,17 +16,15 @@ namespace tintvert {
 
 template <class Form>
 struct Autovectorized {
+    static constexpr bool in_place = Form::src_bytes == Form::dst_bytes;
+#if defined(__x86_64__)
     TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long pixels, bool)
     {
         TNTVT_PIXELS_APART
         for (long x = 0; x < pixels; ++x) Form::pixel(dst + x * Form::dst_bytes, src + x * Form::src_bytes);
         return pixels;
     }
-
-    static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool down)
-    {
-        return avx2(dst, src, pixels, down);
-    }
+#endif
 };
 
 }  // namespace tintvert

@@ -9,7 +9,7 @@
 namespace tintvert {
 
 struct BitCursor {
-    uint8_t* lineStart;  // first byte of the stretch; set and never read
+    uint8_t* lineStart;  // first byte of the run; set and never read
     uint8_t* cursor;     // byte now being read or filled
     uint8_t* limit;      // one past the last byte that may be read or stored
     uint32_t bitsLeft;   // bits left in the byte at `cursor`: 8 for a fresh byte

@@ -1,5 +1,5 @@
-// Simd steps for forms that only move bits: each byte of the result is eight neighbouring bits of the source,
-// or a constant. Such a form says so byte by byte, in `moved(byte)`, and names its steps:
+// The kernel of forms that only move bits: each byte of the result is eight neighbouring bits of the source, or a
+// constant. Such a form says so byte by byte, in `moved(byte)`, and names its kernel:
 //
 //   using Simd = BitMoves<Form>;
 //
@@ -8,17 +8,16 @@
 
 #include "frame/moved_byte.h"
 
-#if defined(__x86_64__)
 #include "frame/bit_moves_avx2.h"
 #include "frame/bit_moves_avx512.h"
-#endif
 
 namespace tintvert {
 
-// A pixel of the walk is `per_pixel` of `Units`, which has `src_bytes`, `dst_bytes` and `moved`. Both functions make
-// the leading pixels of a line and return how many.
-template <class Units, long per_pixel = 1>
+// A pixel of the walk, `Form`, is `per_pixel` of `Units`, which has `src_bytes`, `dst_bytes` and `moved`.
+template <class Units, long per_pixel = 1, class Form = Units>
 struct BitMoves {
+    static_assert(pixel_is_moved<Form, Units>(), "`moved` and `pixel` of a form differ");
+    static constexpr bool in_place = Units::src_bytes == Units::dst_bytes;
 #if defined(__x86_64__)
     static long avx2(uint8_t* dst, const uint8_t* src, long pixels, bool down)
     {

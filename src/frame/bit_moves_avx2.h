@@ -1,12 +1,11 @@
 // Moves of bits in 256 bits. Each half has a window of 16 or 32 bytes of the source for 16 bytes of the result.
 #pragma once
 
-#include <immintrin.h>
-
 #include "frame/moved_byte.h"
-#include "frame/simd.h"
 #include "frame/state.h"
+#include "frame/vec.h"
 
+#if defined(__x86_64__)
 namespace tintvert {
 
 template <class Units>
@@ -153,3 +152,4 @@ struct Avx2BitMoves {
 };
 
 }  // namespace tintvert
+#endif

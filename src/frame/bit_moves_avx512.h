@@ -1,12 +1,11 @@
 // Moves of bits in 512 bits. A step takes up to 64 bytes and makes up to 64; masks cut the last one to the line.
 #pragma once
 
-#include <immintrin.h>
-
 #include "frame/moved_byte.h"
-#include "frame/simd.h"
 #include "frame/state.h"
+#include "frame/vec.h"
 
+#if defined(__x86_64__)
 namespace tintvert {
 
 template <class Units>
@@ -29,7 +28,7 @@ struct VbmiBitMoves {
         struct Held {
             int bytes[16] = {}, count = 0;
 
-            // Where a byte and the next one stand, which are added if they do not stand there yet.
+            // The slot of a byte that the next one follows; both are added if they are not there yet.
             constexpr int slot_of(int byte, int next)
             {
                 for (int slot = 0; slot < count; ++slot)
@@ -92,7 +91,7 @@ struct VbmiBitMoves {
 
     TNTVT_AVX512 static __m512i constant_avx512(const void* at) { return _mm512_load_si512(at); }
 
-    // Masks of ones stand where g++ 12 warns of the forms without a mask.
+    // Masks of ones: g++ 12 warns of the intrinsics without a mask.
     static constexpr uint64_t all = ~uint64_t{0};
 
     TNTVT_AVX512 static __m512i moved_avx512(__m512i from, __m512i rest)
@@ -132,3 +131,4 @@ struct VbmiBitMoves {
 };
 
 }  // namespace tintvert
+#endif

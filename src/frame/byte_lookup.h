@@ -1,10 +1,10 @@
-// Bytes through tables of 256, where source and destination are disjoint or the same.
+// Bytes through tables of 256.
 //
 // Bytes 0, 2, 4 ... of a run go through the table `first` and bytes 1, 3, 5 ... through `second`, or, if that is
-// null, as they are. Each version returns how many bytes it has done; what is left is for the scalar code.
+// null, as they are.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 
@@ -53,25 +53,6 @@ TNTVT_AVX2 inline __m256i second_bytes_avx2(__m256i one, __m256i other)
     return _mm256_packus_epi16(_mm256_srli_epi16(one, 8), _mm256_srli_epi16(other, 8));
 }
 
-TNTVT_AVX2 inline long map_pairs_avx2(uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
-{
-    if (bytes < 64) return 0;
-    const __m256i low = _mm256_set1_epi16(0xFF);
-    const Parts first_parts = parts_avx2(tables.first);
-    const Parts second_parts = parts_avx2(tables.second != nullptr ? tables.second : tables.first);
-    long done = 0;
-    for (; bytes - done >= 64; done += 64) {
-        const __m256i one = load_256(src + done), other = load_256(src + done + 32);
-        const __m256i firsts = _mm256_packus_epi16(_mm256_and_si256(one, low), _mm256_and_si256(other, low));
-        const __m256i first = look_up_avx2(first_parts, firsts);
-        const __m256i second = tables.second != nullptr ? look_up_avx2(second_parts, second_bytes_avx2(one, other))
-                                                        : second_bytes_avx2(one, other);
-        store_256(dst + done, _mm256_unpacklo_epi8(first, second));
-        store_256(dst + done + 32, _mm256_unpackhi_epi8(first, second));
-    }
-    return done;
-}
-
 struct Quarters {
     __m512i of[4];
 };
@@ -94,57 +75,75 @@ TNTVT_AVX512 inline __m512i map_64_avx512(const Quarters& first, const Quarters&
     return _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, look_up_avx512(first, bytes), look_up_avx512(second, bytes));
 }
 
-TNTVT_AVX512 inline long map_pairs_avx512(uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
-{
-    const Quarters first = quarters_avx512(tables.first);
-    long done = 0;
-    if (tables.second == nullptr) {
-        for (; done < bytes; done += 64) {
-            const __mmask64 there = first_bytes(bytes - done);
-            const __m512i from = _mm512_maskz_loadu_epi8(there, src + done), mapped = look_up_avx512(first, from);
-            _mm512_mask_storeu_epi8(dst + done, there, _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, mapped, from));
+struct MapPairs {
+    static constexpr bool in_place = true;
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
+    {
+        if (bytes < 64) return 0;
+        const __m256i low = _mm256_set1_epi16(0xFF);
+        const Parts first_parts = parts_avx2(tables.first);
+        const Parts second_parts = parts_avx2(tables.second != nullptr ? tables.second : tables.first);
+        long done = 0;
+        for (; bytes - done >= 64; done += 64) {
+            const __m256i one = load_256(src + done), other = load_256(src + done + 32);
+            const __m256i firsts = _mm256_packus_epi16(_mm256_and_si256(one, low), _mm256_and_si256(other, low));
+            const __m256i first = look_up_avx2(first_parts, firsts);
+            const __m256i second = tables.second != nullptr ? look_up_avx2(second_parts, second_bytes_avx2(one, other))
+                                                            : second_bytes_avx2(one, other);
+            store_256(dst + done, _mm256_unpacklo_epi8(first, second));
+            store_256(dst + done + 32, _mm256_unpackhi_epi8(first, second));
+        }
+        return done;
+    }
+
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
+    {
+        const Quarters first = quarters_avx512(tables.first);
+        long done = 0;
+        if (tables.second == nullptr) {
+            for (; done < bytes; done += 64) {
+                const __mmask64 there = first_bytes(bytes - done);
+                const __m512i from = _mm512_maskz_loadu_epi8(there, src + done), mapped = look_up_avx512(first, from);
+                _mm512_mask_storeu_epi8(dst + done, there, _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, mapped, from));
+            }
+            return bytes;
+        }
+        const Quarters second = quarters_avx512(tables.second);
+        for (; bytes - done >= 64; done += 64)
+            _mm512_storeu_si512(dst + done, map_64_avx512(first, second, _mm512_loadu_si512(src + done)));
+        const __mmask64 there = first_bytes(bytes - done);
+        const __m512i last = _mm512_maskz_loadu_epi8(there, src + done);
+        _mm512_mask_storeu_epi8(dst + done, there, map_64_avx512(first, second, last));
+        return bytes;
+    }
+};
+
+struct MapEvenBytes {
+    static constexpr bool in_place = true;
+    // Bytes 0, 2, 4 ... alone: those between are not stored, not even as they were, since they may be another thread's.
+    // Registers of 32 bytes have no such store.
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long bytes, const uint8_t* table)
+    {
+        const Quarters quarters = quarters_avx512(table);
+        for (long done = 0; done < bytes; done += 64) {
+            const __mmask64 even = first_bytes(bytes - done) & 0x5555555555555555;
+            const __m512i mapped = look_up_avx512(quarters, _mm512_maskz_loadu_epi8(even, src + done));
+            _mm512_mask_storeu_epi8(dst + done, even, mapped);
         }
         return bytes;
     }
-    const Quarters second = quarters_avx512(tables.second);
-    for (; bytes - done >= 64; done += 64)
-        _mm512_storeu_si512(dst + done, map_64_avx512(first, second, _mm512_loadu_si512(src + done)));
-    const __mmask64 there = first_bytes(bytes - done);
-    const __m512i last = _mm512_maskz_loadu_epi8(there, src + done);
-    _mm512_mask_storeu_epi8(dst + done, there, map_64_avx512(first, second, last));
-    return bytes;
-}
-
-inline long map_pairs_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
-{
-    if (limit >= InstructionSet::avx512) return map_pairs_avx512(dst, src, bytes, tables);
-    return limit >= InstructionSet::avx2 ? map_pairs_avx2(dst, src, bytes, tables) : 0;
-}
-
-// Bytes 0, 2, 4 ... alone: those between are not stored, not even as they were, since they may be another thread's.
-// Registers of 32 bytes have no such store.
-TNTVT_AVX512 inline long map_even_bytes_avx512(uint8_t* dst, const uint8_t* src, long bytes, const uint8_t* table)
-{
-    const Quarters quarters = quarters_avx512(table);
-    for (long done = 0; done < bytes; done += 64) {
-        const __mmask64 even = first_bytes(bytes - done) & 0x5555555555555555;
-        const __m512i mapped = look_up_avx512(quarters, _mm512_maskz_loadu_epi8(even, src + done));
-        _mm512_mask_storeu_epi8(dst + done, even, mapped);
-    }
-    return bytes;
-}
-
-inline long map_even_bytes_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long bytes,
-                                const uint8_t* table)
-{
-    return limit >= InstructionSet::avx512 ? map_even_bytes_avx512(dst, src, bytes, table) : 0;
-}
+};
 
 #else
 
-inline long map_pairs_simd(InstructionSet, uint8_t*, const uint8_t*, long, const PairTables&) { return 0; }
-inline long map_even_bytes_simd(InstructionSet, uint8_t*, const uint8_t*, long, const uint8_t*) { return 0; }
+struct MapPairs {};
+struct MapEvenBytes {};
 
 #endif
+
+inline long map_pairs_simd(InstructionSet level, uint8_t* dst, const uint8_t* src, long bytes, const PairTables& tables)
+{
+    return run_simd<MapPairs>(level, {{dst, bytes}}, {{src, bytes}}, dst, src, bytes, tables);
+}
 
 }  // namespace tintvert

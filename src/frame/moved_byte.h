@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstdint>
 
+#include "frame/state.h"
+
 namespace tintvert {
 
 // What a byte is that takes no bits: `fixed`, the alpha `a`, or what it was.
@@ -13,14 +15,14 @@ enum class Rest : uint8_t { fixed, alpha, kept };
 struct MovedByte {
     int bit = 0;
     uint8_t mask = 0;
-    int word = 1;  // bytes in a word of the source that stand the other way about; 1 for little-endian
+    int word = 1;  // bytes of a big-endian word of the source; 1 for little-endian
     Rest rest = Rest::fixed;
     uint8_t fixed = 0;
 
     constexpr bool takes_bits() const { return mask != 0; }
     constexpr bool whole() const { return !takes_bits() || (mask == 0xFF && bit % 8 == 0); }
 
-    // The bytes that it takes bits of, one or two, and where byte n stands in memory.
+    // The bytes that it takes bits of, one or two, and where byte n is in memory.
     constexpr int first() const { return (bit + std::countr_zero(mask)) >> 3; }
     constexpr int last() const { return (bit + 7 - std::countl_zero(mask)) >> 3; }
     constexpr int place(int n) const { return n ^ (word - 1); }
@@ -81,6 +83,39 @@ constexpr int end_of_reads()
             if (byte.place(n) >= end) end = byte.place(n) + 1;
     }
     return end;
+}
+
+// What the `count` bytes of a result are that `moved` says, over what they were.
+template <class Units>
+constexpr void move_bits(uint8_t* dst, const uint8_t* src, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const MovedByte byte = moved_in_run<Units>(i);
+        if (byte.rest == Rest::kept) continue;
+        int value = byte.rest == Rest::alpha ? alpha() : byte.fixed;
+        for (int k = 0; k < 8; ++k)
+            if ((byte.mask >> k & 1) != 0)
+                value |= (src[byte.place((byte.bit + k) >> 3)] >> ((byte.bit + k) & 7) & 1) << k;
+        dst[i] = static_cast<uint8_t>(value);
+    }
+}
+
+// Whether `Form::pixel` and the `moved` of its units say the same, of no bit of a source, of each one and of all.
+template <class Form, class Units>
+constexpr bool pixel_is_moved()
+{
+    for (int bit = -1; bit <= 8 * Form::src_bytes; ++bit) {
+        uint8_t src[Form::src_bytes + 8] = {}, expected[Form::dst_bytes] = {}, dst[Form::dst_bytes] = {};
+        for (long i = 0; i < Form::src_bytes; ++i) {
+            const bool all = bit == 8 * Form::src_bytes, here = bit >= 0 && bit / 8 == i;
+            src[i] = static_cast<uint8_t>(all ? 0xFF : here ? 1 << bit % 8 : 0);
+        }
+        move_bits<Units>(expected, src, Form::dst_bytes);
+        Form{}.pixel(dst, src);
+        for (long i = 0; i < Form::dst_bytes; ++i)
+            if (dst[i] != expected[i]) return false;
+    }
+    return true;
 }
 
 template <class Units>

@@ -33,7 +33,7 @@ int for_each_line(const Frame& frame, uint32_t least_bytes, Line line)
 
 uint8_t mapped(const uint32_t* table, uint8_t code) { return static_cast<uint8_t>(table[code]); }
 
-// A table as bytes, for the SIMD versions, as its entries stand when the call begins.
+// A table as bytes, for the SIMD versions, as its entries are when the call begins.
 struct Bytes {
     uint8_t of[256];
 
@@ -45,11 +45,10 @@ struct Bytes {
 
 int map_bytes(const Frame& frame, const uint32_t* table)
 {
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const Bytes bytes(table);
     return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
-        long i = 0;
-        if (same_or_disjoint(dst, src, count)) i = map_pairs_simd(limit, dst, src, count, {bytes.of, bytes.of});
+        long i = map_pairs_simd(level, dst, src, count, {bytes.of, bytes.of});
         for (; i < count; ++i) dst[i] = mapped(table, src[i]);
     });
 }
@@ -57,7 +56,7 @@ int map_bytes(const Frame& frame, const uint32_t* table)
 // A word one byte past a `v210` word holds that word's bits 8 to 31 and eight bits of the next.
 // QUIRK (keeps_unmasked_entries): an entry is shifted whole, so one above 1023 spills into the bits
 // above its field.
-// QUIRK (keeps_10_bit_index_into_8_bit_table): an index above 255 reads on into the tables behind.
+// QUIRK (keeps_10_bit_index_into_8_bit_table): an index above 255 reads on into the tables after it.
 uint32_t even_word(const uint32_t* table, uint32_t w) { return (w & 0x3FF003FF) | table[w >> 12 & 0x3FF] << 12; }
 
 uint32_t odd_word(const uint32_t* table, uint32_t w)
@@ -69,12 +68,13 @@ uint32_t odd_word(const uint32_t* table, uint32_t w)
 int map_v210(const Frame& frame, const uint32_t* table)
 {
     EntryPlanes planes;
-    const bool wide = instruction_set() == InstructionSet::avx512 && take_entries_avx512(planes, table);
+    const InstructionSet level = instruction_set();
+    const bool fit = run_simd<TakeEntries>(level, {{planes.low, sizeof planes}}, {}, planes, table) > 0;
     return for_each_line(frame, 1, [&](uint8_t* dst, const uint8_t* src, uint32_t count) {
         ++dst;
         ++src;
         const long bytes = (long{count} + 15) / 16 * 16;
-        long o = wide && same_or_disjoint(dst, src, bytes) ? map_v210_avx512(dst, src, bytes, planes) : 0;
+        long o = fit ? run_simd<MapV210>(level, {{dst, bytes}}, {{src, bytes}}, dst, src, bytes, planes) : 0;
         for (; o < bytes; o += 16) {
             store(dst + o, even_word(table, load<uint32_t>(src + o)));
             store(dst + o + 4, odd_word(table, load<uint32_t>(src + o + 4)));
@@ -101,34 +101,30 @@ int tntvt_st2084_to_rgb(unsigned char* dst, unsigned char* src, unsigned int dst
 int tntvt_yuv2_to_st2084(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const uint32_t* const table = ardwRGB_to_SMPTE2048_8Bit;
     const Bytes bytes(table);
-    return for_each_line({dst, src, dstStride, srcStride, height}, 4,
-                         [&](uint8_t* to, const uint8_t* from, uint32_t m) {
-                             // From the first luma byte to the last.
-                             const long run = m / 4 * 4 - 1;
-                             long i = 0;
-                             if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_even_bytes_simd(limit, to + 1, from + 1, run, bytes.of);
-                             for (; i < run; i += 2) to[i + 1] = mapped(table, from[i + 1]);
-                         });
+    return for_each_line(
+        {dst, src, dstStride, srcStride, height}, 4, [&](uint8_t* to, const uint8_t* from, uint32_t m) {
+            // From the first luma byte to the last.
+            const long run = m / 4 * 4 - 1;
+            long i = run_simd<MapEvenBytes>(level, {{to + 1, run}}, {{from + 1, run}}, to + 1, from + 1, run, bytes.of);
+            for (; i < run; i += 2) to[i + 1] = mapped(table, from[i + 1]);
+        });
 }
 
 // QUIRK (keeps_copy_of_bytes_1_to_4): unlike its forward twin, each group first brings over the source
-// bytes 1 to 4, so the byte behind the last group is written and byte 0 of a line is not.
+// bytes 1 to 4, so the byte after the last group is written and byte 0 of a line is not.
 int tntvt_st2084_to_yuv2(unsigned char* dst, unsigned char* src, unsigned int dstStride, unsigned int srcStride,
                          int height)
 {
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const uint32_t* const table = ardwSMPTE2048_to_RGB_8Bit;
     const Bytes bytes(table);
     return for_each_line({dst, src, dstStride, srcStride, height}, 4,
                          [&](uint8_t* to, const uint8_t* from, uint32_t m) {
                              const long run = m / 4 * 4;
-                             long i = 0;
-                             if (same_or_disjoint(to + 1, from + 1, run))
-                                 i = map_pairs_simd(limit, to + 1, from + 1, run, {bytes.of, nullptr});
+                             long i = map_pairs_simd(level, to + 1, from + 1, run, {bytes.of, nullptr});
                              for (; i < run; i += 4) {
                                  store(to + i + 1, load<uint32_t>(from + i + 1));
                                  to[i + 1] = mapped(table, from[i + 1]);

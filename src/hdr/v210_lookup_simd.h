@@ -1,13 +1,10 @@
-// The three looked-up samples of every two words of `v210`, 48 at once, where source and destination are disjoint or
-// the same. Bits from the bottom of the two words:
+// The three looked-up samples of every two words of `v210`, 48 at once. Bits from the bottom of the two words:
 //
 //   word 0   12 .. 21
 //   word 1   34 .. 43, 54 .. 63
 #pragma once
 
-#include "frame/registers.h"
-
-#if defined(__x86_64__)
+#include "frame/vec.h"
 
 namespace tintvert {
 
@@ -16,18 +13,7 @@ struct EntryPlanes {
     alignas(64) uint8_t low[1024], high[1024];
 };
 
-// Whether they fit.
-TNTVT_AVX512 inline bool take_entries_avx512(EntryPlanes& planes, const uint32_t* table)
-{
-    __m512i all = _mm512_setzero_si512();
-    for (int i = 0; i < 1024; i += 16) {
-        const __m512i entries = _mm512_loadu_si512(table + i);
-        all = _mm512_or_si512(all, entries);
-        store_128(planes.low + i, _mm512_cvtepi32_epi8(entries));
-        store_128(planes.high + i, _mm512_cvtepi32_epi8(_mm512_srli_epi32(entries, 8)));
-    }
-    return _mm512_test_epi32_mask(all, _mm512_set1_epi32(-0x10000)) == 0;
-}
+#if defined(__x86_64__)
 
 // Bits 0 to 7 of the indices of 64 samples as bytes, and bits 7, 8 and 9 as masks.
 struct Indices {
@@ -74,31 +60,43 @@ TNTVT_AVX512 inline __m512i with_entries_avx512(__m512i words, __m512i entries)
     return _mm512_or_si512(_mm512_or_si512(kept, first), _mm512_or_si512(second, third));
 }
 
-// Returns how many bytes it has done; what is left is for the scalar version.
-TNTVT_AVX512 inline long map_v210_avx512(uint8_t* dst, const uint8_t* src, long bytes, const EntryPlanes& planes)
-{
-    long done = 0;
-    for (; bytes - done >= 128; done += 128) {
-        const __m512i one = _mm512_loadu_si512(src + done), other = _mm512_loadu_si512(src + done + 64);
-        const Indices at = indices_avx512(one, other);
-        const __m512i low = look_up_avx512(planes.low, at), high = look_up_avx512(planes.high, at);
-        const __m512i even = _mm512_unpacklo_epi8(low, high), odd = _mm512_unpackhi_epi8(low, high);
-        _mm512_storeu_si512(dst + done, with_entries_avx512(one, _mm512_unpacklo_epi64(even, odd)));
-        _mm512_storeu_si512(dst + done + 64, with_entries_avx512(other, _mm512_unpackhi_epi64(even, odd)));
+// One unit if the entries fit.
+struct TakeEntries {
+    TNTVT_AVX512 static long avx512(EntryPlanes& planes, const uint32_t* table)
+    {
+        __m512i all = _mm512_setzero_si512();
+        for (int i = 0; i < 1024; i += 16) {
+            const __m512i entries = _mm512_loadu_si512(table + i);
+            all = _mm512_or_si512(all, entries);
+            store_128(planes.low + i, _mm512_cvtepi32_epi8(entries));
+            store_128(planes.high + i, _mm512_cvtepi32_epi8(_mm512_srli_epi32(entries, 8)));
+        }
+        return _mm512_test_epi32_mask(all, _mm512_set1_epi32(-0x10000)) == 0;
     }
-    return done;
-}
+};
 
-}  // namespace tintvert
+struct MapV210 {
+    static constexpr bool in_place = true;
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long bytes, const EntryPlanes& planes)
+    {
+        long done = 0;
+        for (; bytes - done >= 128; done += 128) {
+            const __m512i one = _mm512_loadu_si512(src + done), other = _mm512_loadu_si512(src + done + 64);
+            const Indices at = indices_avx512(one, other);
+            const __m512i low = look_up_avx512(planes.low, at), high = look_up_avx512(planes.high, at);
+            const __m512i even = _mm512_unpacklo_epi8(low, high), odd = _mm512_unpackhi_epi8(low, high);
+            _mm512_storeu_si512(dst + done, with_entries_avx512(one, _mm512_unpacklo_epi64(even, odd)));
+            _mm512_storeu_si512(dst + done + 64, with_entries_avx512(other, _mm512_unpackhi_epi64(even, odd)));
+        }
+        return done;
+    }
+};
 
 #else
 
-namespace tintvert {
-
-struct EntryPlanes {};
-inline bool take_entries_avx512(EntryPlanes&, const uint32_t*) { return false; }
-inline long map_v210_avx512(uint8_t*, const uint8_t*, long, const EntryPlanes&) { return 0; }
-
-}  // namespace tintvert
+struct TakeEntries {};
+struct MapV210 {};
 
 #endif
+
+}  // namespace tintvert

@@ -1,5 +1,5 @@
-// `rgb16` widened to 32 bits. Lines stand at the end of their strides; last line first, rightmost pixel
-// first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
+// `rgb16` widened to 32 bits. Lines are right-aligned in their strides; last line first, rightmost pixel
+// first, so that a frame can grow in place. The alpha is `a`, read for each pixel.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -14,7 +14,7 @@ namespace {
 //        none      d2        d1        d0
 //
 // The word is read again for each byte, highest byte first: pixel 0 overwrites its own word in place,
-// and the part of it that is still needed stands until then.
+// and the part of it that is still needed stays until then.
 // QUIRK (keeps_low_bits_of_rgb16_clear): five bits move to the top of a byte and are not repeated
 // below, so that 31 becomes 248.
 struct Rgb16ToRgb32 {
@@ -24,12 +24,12 @@ struct Rgb16ToRgb32 {
     {
         return byte == 3 ? moved_byte<alpha_byte>(0) : moved_bits(5 * byte - 3, 0xF8);
     }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = static_cast<uint8_t>(load<uint16_t>(src) >> 7 & 0xF8);
         dst[1] = static_cast<uint8_t>(load<uint16_t>(src) >> 2 & 0xF8);
         dst[0] = static_cast<uint8_t>(load<uint16_t>(src) << 3);
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 

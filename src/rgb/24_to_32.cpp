@@ -1,5 +1,5 @@
-// 24-bit pixels widened to 32 bits. Lines stand at the end of their strides; last line first, rightmost
-// pixel first, so that a frame can grow where it stands. The alpha is `a`, read for each pixel.
+// 24-bit pixels widened to 32 bits. Lines are right-aligned in their strides; last line first, rightmost
+// pixel first, so that a frame can grow in place. The alpha is `a`, read for each pixel.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -11,19 +11,19 @@ using namespace tintvert;
 
 namespace {
 
-// One byte at a time, in the order that stands here.
+// One byte at a time, in the order written.
 // QUIRK (keeps_ascending_writes_in_place): in place at tight strides the first pixels of line 0 read
 // bytes that these stores have just replaced: d1 and d2 of pixel 1 and d2 of pixel 2.
 struct Rgb24ToRgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<Rgb24ToRgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, alpha_byte>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
         dst[1] = src[1];
         dst[2] = src[2];
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 
@@ -32,12 +32,12 @@ struct Rgb24ToBgr32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<Rgb24ToBgr32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0, alpha_byte>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];
         dst[1] = src[1];
         dst[0] = src[2];
-        dst[3] = a;
+        dst[3] = alpha();
     }
 };
 
@@ -46,12 +46,12 @@ struct MacBgr24ToMacArgb32 {
     static constexpr long src_bytes = 3, dst_bytes = 4;
     using Simd = BitMoves<MacBgr24ToMacArgb32>;
     static constexpr MovedByte moved(int byte) { return moved_byte<alpha_byte, 0, 1, 2>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[3] = src[2];
         dst[2] = src[1];
         dst[1] = src[0];
-        dst[0] = a;
+        dst[0] = alpha();
     }
 };
 
@@ -103,8 +103,8 @@ void tntvt_macbgr24_macargb32_inplace(void* dst, long dstStride, void* src, long
 }
 
 // QUIRK (keeps_crossed_pointers): the first pointer is read and the third written, and each goes
-// with the stride behind the other. Written line i ends at `dst` + i strides, so that line 0 lies in
-// front of `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
+// with the stride after the other. Written line i ends at `dst` + i strides, so that line 0 is before
+// `dst`; read line i ends at `src` + (`height` - 1 - i) strides, by the signed number.
 //
 // The walker counts the lines r from `lines` down to 1, so i is `lines` - r and the read line
 // r + (`height` - 1 - `lines`).

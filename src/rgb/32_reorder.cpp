@@ -1,4 +1,4 @@
-// Frames of 32-bit pixels in another order. They stand at the start of their strides and are walked
+// Frames of 32-bit pixels in another order. They are left-aligned in their strides and are walked
 // forward.
 #include <tintvert/rgb.h>
 

@@ -1,5 +1,5 @@
-// 32-bit pixels cut down to their first three bytes. Lines stand at the start of their strides; first
-// line first, leftmost pixel first, so that a frame can shrink where it stands.
+// 32-bit pixels cut down to their first three bytes. Lines are left-aligned in their strides; first
+// line first, leftmost pixel first, so that a frame can shrink in place.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -16,7 +16,7 @@ struct Rgb32ToRgb24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
     using Simd = BitMoves<Rgb32ToRgb24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
         dst[1] = src[1];
@@ -28,7 +28,7 @@ struct Rgb32ToBgr24 {
     static constexpr long src_bytes = 4, dst_bytes = 3;
     using Simd = BitMoves<Rgb32ToBgr24>;
     static constexpr MovedByte moved(int byte) { return moved_byte<2, 1, 0>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[2] = src[0];
         dst[1] = src[1];
@@ -75,7 +75,7 @@ void tntvt_rgba32_bgr24_inplace(void* dst, long dstStride, void* src, long srcSt
 }
 
 // QUIRK (keeps_signed_height_in_addresses): the lines are counted by the magnitude and placed by the
-// signed number. At a `height` of -2 they go to lines -3 and -4, in front of `dst`.
+// signed number. At a `height` of -2 they go to lines -3 and -4, before `dst`.
 void tntvt_rgba32_rgb24_invert(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
     to_rgb24(mirrored({dst, dstStride, src, srcStride}, line_sum(height, -1)), width, height);

@@ -44,13 +44,13 @@ void with_shift_of(uint32_t bits, Work work)
 }
 
 template <std::endian order>
-uint16_t load_channel(const uint8_t* src)
+constexpr uint16_t load_channel(const uint8_t* src)
 {
     const auto stored = load<uint16_t>(src);
     return order == std::endian::little ? stored : byte_reverse(stored);
 }
 
-// A channel tells where its bits come from if its shift is known to the compiler.
+// Where the bits of a channel come from is known if its shift is known to the compiler.
 template <class K>
 constexpr bool is_constant = requires
 {
@@ -63,10 +63,13 @@ constexpr bool is_constant = requires
 template <std::endian order, class K>
 struct Reduced {
     static constexpr long src_bytes = 2, dst_bytes = 1;
-    static constexpr bool tells_bits = is_constant<K>;
+    static constexpr bool has_moves = is_constant<K>;
     K k;
 
-    uint8_t operator()(const uint8_t* src) const { return static_cast<uint8_t>(load_channel<order>(src) >> k); }
+    constexpr uint8_t operator()(const uint8_t* src) const
+    {
+        return static_cast<uint8_t>(load_channel<order>(src) >> k);
+    }
 
     static constexpr MovedByte moved(int) { return moved_bits(K::value, 0xFF, order == std::endian::little ? 1 : 2); }
 };
@@ -76,10 +79,10 @@ struct Reduced {
 template <class K>
 struct Widened {
     static constexpr long src_bytes = 1, dst_bytes = 2;
-    static constexpr bool tells_bits = is_constant<K>;
+    static constexpr bool has_moves = is_constant<K>;
     K k;
 
-    uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
+    constexpr uint16_t operator()(const uint8_t* src) const { return static_cast<uint16_t>(uint32_t{*src} << k); }
 
     static constexpr MovedByte moved(int byte)
     {
@@ -91,9 +94,9 @@ struct Widened {
 // 16 bits, big-endian, to 16 bits of the machine.
 struct Swapped {
     static constexpr long src_bytes = 2, dst_bytes = 2;
-    static constexpr bool tells_bits = true;
+    static constexpr bool has_moves = true;
 
-    uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
+    constexpr uint16_t operator()(const uint8_t* src) const { return load_channel<std::endian::big>(src); }
 
     static constexpr MovedByte moved(int byte) { return moved_bits(8 * byte, 0xFF, 2); }
 };
@@ -114,7 +117,7 @@ struct Deep<Channel, channels, Order<from...>> {
     static constexpr long dst_bytes = long{sizeof...(from)} * Channel::dst_bytes;
     Channel channel;
 
-    using Simd = std::conditional_t<Channel::tells_bits, BitMoves<Deep>, void>;
+    using Simd = std::conditional_t<Channel::has_moves, BitMoves<Deep>, void>;
     static constexpr MovedByte moved(int byte)
     {
         constexpr int places[] = {from...};
@@ -125,11 +128,11 @@ struct Deep<Channel, channels, Order<from...>> {
         return result;
     }
 
-    void pixel(uint8_t* dst, const uint8_t* src) const { write(dst, take<from>(src)...); }
+    constexpr void pixel(uint8_t* dst, const uint8_t* src) const { write(dst, take<from>(src)...); }
 
 private:
     template <int index>
-    auto take(const uint8_t* src) const
+    constexpr auto take(const uint8_t* src) const
     {
         if constexpr (index == zero)
             return decltype(channel(src)){0};
@@ -138,13 +141,13 @@ private:
     }
 
     template <class... Result>
-    static void write(uint8_t* dst, Result... q)
+    static constexpr void write(uint8_t* dst, Result... q)
     {
         ((store(dst, q), dst += sizeof q), ...);
     }
 };
 
-// What the sign of `height` means. Lines stand at the end of their strides; last line first, rightmost
+// What the sign of `height` means. Lines are right-aligned in their strides; last line first, rightmost
 // pixel first.
 struct PositiveOnly {
     template <class Form>
@@ -164,7 +167,7 @@ struct ExactFlip {
 };
 
 // QUIRK (keeps_flip_one_line_off): a negative `height` sends source line r, counted from 1, to the
-// line that ends at `lines` - r strides. The last source line lands in front of `dst` and the last
+// line that ends at `lines` - r strides. The last source line is written before `dst` and the last
 // destination line is never written.
 // QUIRK (keeps_signed_32_bit_count): the lines are the low 32 bits of the magnitude, as a signed number: 2^32 + 1 lines
 // are one, and 2^31 to 2^32 - 1 lines are below 1 and so no work.

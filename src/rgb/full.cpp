@@ -1,4 +1,4 @@
-// A frame from one buffer to another by pixel size, which each side's stride tells.
+// A frame from one buffer to another by pixel size, which each side's stride gives.
 #include <tintvert/rgb.h>
 
 #include "frame/bit_moves.h"
@@ -16,7 +16,7 @@ struct ThreeBytes {
     static constexpr long src_bytes = src_size, dst_bytes = dst_size;
     using Simd = BitMoves<ThreeBytes>;
     static constexpr MovedByte moved(int byte) { return moved_byte<0, 1, 2, kept_byte>(byte); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[0];
         dst[1] = src[1];
@@ -26,10 +26,10 @@ struct ThreeBytes {
 
 struct Word {
     static constexpr long src_bytes = 4, dst_bytes = 4;
-    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, load<uint32_t>(src)); }
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src) { store(dst, load<uint32_t>(src)); }
 };
 
-// The frame stands on its head for the walk: last line first, each line from its start.
+// The frame is upside down for the walk: last line first, each line from its start.
 template <class Form>
 void copy_lines(const Frame& frame, long width, long height)
 {

@@ -82,7 +82,7 @@ struct Rgba64 {
     {
         return byte < 6 ? masked_byte<Order>(3 - byte / 2, byte % 2) : fixed_byte(0xFF);
     }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         const auto word = load<uint32_t>(src);
         const uint64_t low = Order::V3(word) | uint32_t{Order::V2(word)} << 16, high = Order::V1(word) | 0xFFFF0000u;
@@ -95,7 +95,7 @@ struct Rgb48 {
     static constexpr long src_bytes = 4, dst_bytes = 6, bottom = 0;
     using Simd = BitMoves<Rgb48>;
     static constexpr MovedByte moved(int byte) { return masked_byte<Order>(1 + byte / 2, byte % 2); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         const uint32_t word = Order::in_order(load<uint32_t>(src));  // six bytes a pixel go one at a time anyhow
         store(dst, LittleEndian::V1(word));
@@ -112,7 +112,10 @@ struct Rgba32 {
     {
         return byte < 3 ? moved_bits(4 + 10 * byte, 0xFF, Order::word_bytes) : fixed_byte(0xFF);
     }
-    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, Order::tops(load<uint32_t>(src)) | 0xFF000000); }
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
+    {
+        store(dst, Order::tops(load<uint32_t>(src)) | 0xFF000000);
+    }
 };
 
 // A walk down from source line 0, or up from source line `height` + `bottom`.

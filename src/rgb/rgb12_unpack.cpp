@@ -18,7 +18,7 @@ namespace {
 //   word 1   S5 low 4  S4        S3     S2 high 4
 //           31 ..... 20 19 ..... 8 7 ......... 0
 //   word 2       S7         S6       S5 high 8
-void take_eight(uint32_t* samples, const uint8_t* src)
+constexpr void take_eight(uint32_t* samples, const uint8_t* src)
 {
     const uint32_t word0 = load<uint32_t>(src), word1 = load<uint32_t>(src + 4), word2 = load<uint32_t>(src + 8);
     samples[0] = word0 & 0xFFF;
@@ -34,20 +34,20 @@ void take_eight(uint32_t* samples, const uint8_t* src)
 // Eight pixels: red, green, blue of pixel p are samples 3p, 3p + 1, 3p + 2.
 struct EightPixels {
     uint32_t samples[24];
-    explicit EightPixels(const uint8_t* src)
+    explicit constexpr EightPixels(const uint8_t* src)
     {
         for (int i = 0; i < 3; ++i) take_eight(samples + 8 * i, src + 12 * i);
     }
-    uint32_t red(int p) const { return samples[3 * p]; }
-    uint32_t green(int p) const { return samples[3 * p + 1]; }
-    uint32_t blue(int p) const { return samples[3 * p + 2]; }
+    constexpr uint32_t red(int p) const { return samples[3 * p]; }
+    constexpr uint32_t green(int p) const { return samples[3 * p + 1]; }
+    constexpr uint32_t blue(int p) const { return samples[3 * p + 2]; }
 };
 
 // 12 bits on top of 16, the low four bits zero.
-uint16_t widened(uint32_t sample) { return static_cast<uint16_t>(sample << 4); }
+constexpr uint16_t widened(uint32_t sample) { return static_cast<uint16_t>(sample << 4); }
 
 // The upper 8 of 12 bits.
-uint8_t narrowed(uint32_t sample) { return static_cast<uint8_t>(sample >> 4); }
+constexpr uint8_t narrowed(uint32_t sample) { return static_cast<uint8_t>(sample >> 4); }
 
 // For the steps the samples are one stream of bits: sample n begins at bit 12n.
 constexpr MovedByte widened_byte(int n, int byte) { return moved_bits(12 * n + 8 * byte - 4, byte == 0 ? 0xF0 : 0xFF); }
@@ -68,7 +68,7 @@ struct ToBgr48 {
     static constexpr long src_bytes = 12, dst_bytes = 16;
     using Simd = BitMoves<ToBgr48>;
     static constexpr MovedByte moved(int byte) { return widened_byte(byte / 2, byte % 2); }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         uint32_t samples[8];
         take_eight(samples, src);
@@ -78,8 +78,8 @@ struct ToBgr48 {
 
 struct ToRgb48 {
     static constexpr long src_bytes = 36, dst_bytes = 48;
-    using Simd = BitMoves<PairOfRgb48, 4>;
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    using Simd = BitMoves<PairOfRgb48, 4, ToRgb48>;
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         const EightPixels round(src);
         for (int p = 0; p < 8; ++p, dst += 6) {
@@ -100,7 +100,7 @@ struct ToRgba32 {
         if (channel == 3) return fixed_byte(255);
         return narrowed_byte(p == 2 && channel == 0 ? 0 : 3 * p + 2 - channel);
     }
-    static void pixel(uint8_t* dst, const uint8_t* src)
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src)
     {
         const EightPixels round(src);
         for (int p = 0; p < 8; ++p, dst += 4) {

@@ -63,7 +63,7 @@ const uint8_t* decode_line(uint8_t* dst, const uint8_t* src, const uint8_t* pale
 
 // The first coded line is the last line of the image.
 // QUIRK (keeps_lines_below_the_frame): line indices come from the signed `height`, so a negative one
-// writes in front of `dst`, from line `height` - 1 down.
+// writes before `dst`, from line `height` - 1 down.
 void tntvt_rle8_rgba32(void* dst, long dstStride, void* src, long, long, long height, void* palette)
 {
     const long lines = magnitude(height);

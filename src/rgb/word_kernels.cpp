@@ -1,7 +1,7 @@
 // The word kernels: one run of 32-bit pixels in another order, first pixel first.
 //
 // The letters of a name are the bytes of the word from the most significant down, and they are names
-// only: what a kernel does is what stands here.
+// only: what a kernel does is what the code says.
 #include <tintvert/rgb.h>
 
 #include "frame/walk.h"

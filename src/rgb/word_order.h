@@ -26,7 +26,7 @@ struct EachWord {
     static constexpr long src_bytes = 4, dst_bytes = 4;
     using Simd = BitMoves<EachWord>;
     static constexpr MovedByte moved(int byte) { return moved_bits(8 * (order(0x03020100) >> 8 * byte & 0xFF)); }
-    static void pixel(uint8_t* dst, const uint8_t* src) { store(dst, order(load<uint32_t>(src))); }
+    static constexpr void pixel(uint8_t* dst, const uint8_t* src) { store(dst, order(load<uint32_t>(src))); }
 };
 
 }  // namespace tintvert

@@ -1,8 +1,7 @@
-// Three pgroups, 15 bytes, to a `v210` group, 16 bytes, where the two runs share no byte. Each form returns how
-// many groups it has done; what is left is for the scalar version.
+// Three pgroups, 15 bytes, to a `v210` group, 16 bytes.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 
@@ -26,17 +25,6 @@ TNTVT_AVX2 inline __m256i unpack_avx2(__m256i stream)
     return _mm256_or_si256(joined, raised);
 }
 
-// The second half reads a byte beyond its 15, so the last step leaves a group behind it.
-TNTVT_AVX2 inline long unpack_groups_avx2(uint8_t* dst, const uint8_t* src, long groups)
-{
-    long done = 0;
-    for (; groups - done > 2; done += 2) {
-        const uint8_t* const from = src + done * 15;
-        store_256(dst + done * 16, unpack_avx2(load_halves(from, from + 15)));
-    }
-    return done;
-}
-
 // Four groups, 60 bytes, as 64. Eight bytes of the stream, the first of them on top, hold the six samples of two
 // words, from bit 63 down in the first eight of a group and from bit 59 down in the last eight. Each byte of a word
 // is a run of eight of these bits, or a piece of one sample's with a piece of the next one's.
@@ -55,27 +43,34 @@ TNTVT_AVX512 inline __m512i unpack_60_avx512(__m512i bytes)
                                      0xF8);
 }
 
-// Four groups a step, 64 bytes loaded as long as the line has them.
-TNTVT_AVX512 inline long unpack_groups_avx512(uint8_t* dst, const uint8_t* src, long groups)
-{
-    long done = 0;
-    for (; groups - done > 4; done += 4)
-        _mm512_storeu_si512(dst + done * 16, unpack_60_avx512(_mm512_loadu_si512(src + done * 15)));
-    const long left = groups - done;
-    const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 15), src + done * 15);
-    _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), unpack_60_avx512(bytes));
-    return groups;
-}
+struct UnpackGroups {
+    // The second half reads a byte beyond its 15, so the last step leaves a group over.
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        long done = 0;
+        for (; groups - done > 2; done += 2) {
+            const uint8_t* const from = src + done * 15;
+            store_256(dst + done * 16, unpack_avx2(load_halves(from, from + 15)));
+        }
+        return done;
+    }
 
-inline long unpack_groups_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
-{
-    if (limit >= InstructionSet::avx512) return unpack_groups_avx512(dst, src, groups);
-    return limit >= InstructionSet::avx2 ? unpack_groups_avx2(dst, src, groups) : 0;
-}
+    // Four groups a step, 64 bytes loaded as long as the line has them.
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        long done = 0;
+        for (; groups - done > 4; done += 4)
+            _mm512_storeu_si512(dst + done * 16, unpack_60_avx512(_mm512_loadu_si512(src + done * 15)));
+        const long left = groups - done;
+        const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 15), src + done * 15);
+        _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), unpack_60_avx512(bytes));
+        return groups;
+    }
+};
 
 #else
 
-inline long unpack_groups_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
+struct UnpackGroups {};
 
 #endif
 

@@ -6,7 +6,7 @@
 //   word 2       Cb4          Y3           Cr2
 //   word 3       Y5           Cr4          Y4
 //
-// In the order Cb0, Y0, Cr0, Y1, Cb2, Y2, Cr2, Y3, Cb4, Y4, Cr4, Y5 sample n stands in word n / 3 from bit
+// In the order Cb0, Y0, Cr0, Y1, Cb2, Y2, Cr2, Y3, Cb4, Y4, Cr4, Y5 sample n is in word n / 3 from bit
 // 10 * (n % 3) on. It is the order of `2vuy`. Twelve samples fill a group, so the count may run on from group
 // to group. A pair of pixels is four samples: pairs 0, 1 and 2 of a group are its pgroups 0, 1 and 2.
 #pragma once

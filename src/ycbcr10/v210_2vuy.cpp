@@ -40,26 +40,24 @@ void narrow_group(uint8_t* dst, const uint8_t* src)
     std::memcpy(dst, byte, sizeof byte);
 }
 
-void widen_line(uint8_t* dst, const uint8_t* src, long width, InstructionSet limit)
+void widen_line(uint8_t* dst, const uint8_t* src, long width, InstructionSet level)
 {
     const long groups = groups_of(width, v210_group_pixels);
-    long done = 0;
-    if (disjoint(dst, groups * v210_group_bytes, src, groups * narrow_group_bytes))
-        done = widen_simd(limit, dst, src, groups);
+    long done = run_simd<WidenGroups>(level, {{dst, groups * v210_group_bytes}}, {{src, groups * narrow_group_bytes}},
+                                      dst, src, groups);
     for (; done < groups; ++done) widen_group(dst + done * v210_group_bytes, src + done * narrow_group_bytes);
 }
 
-void narrow_line(uint8_t* dst, const uint8_t* src, long groups, InstructionSet limit)
+void narrow_line(uint8_t* dst, const uint8_t* src, long groups, InstructionSet level)
 {
-    long done = 0;
-    if (disjoint(dst, groups * narrow_group_bytes, src, groups * v210_group_bytes))
-        done = narrow_simd(limit, dst, src, groups);
+    long done = run_simd<NarrowGroups>(level, {{dst, groups * narrow_group_bytes}}, {{src, groups * v210_group_bytes}},
+                                       dst, src, groups);
     for (; done < groups; ++done) narrow_group(dst + done * narrow_group_bytes, src + done * v210_group_bytes);
 }
 
 // QUIRK (keeps_double_length_lines): output words are counted against pixels, two to a word, so a line
 // runs on to twice its length: a group for every three pixels. The next line overwrites the surplus and the last
-// line's lands behind the frame, where callers leave `width` * 2 bytes of room.
+// line's goes past the end of the frame, where callers leave `width` * 2 bytes of room.
 long doubled_groups(long width) { return groups_of(width, 3); }
 
 // Offsets of lines are running sums, kept to 32 bits.
@@ -86,11 +84,11 @@ void tntvt_2vuy_v210(unsigned char* dst, unsigned char* src, unsigned int width,
 {
     if (dstStride == 0) dstStride = line_of_64_bytes(width);
     if (width == 0) return;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     uint32_t y = height;
     do {
         --y;
-        widen_line(advance(dst, line_offset(y, dstStride)), advance(src, line_offset(y, width * 2L)), width, limit);
+        widen_line(advance(dst, line_offset(y, dstStride)), advance(src, line_offset(y, width * 2L)), width, level);
     } while (y != 0);
 }
 
@@ -99,14 +97,14 @@ void tntvt_v210_2vuy(unsigned char* dst, unsigned char* src, unsigned int width,
 {
     if (srcStride == 0) srcStride = unrounded_line(width);
     if (width == 0) return;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const long groups = doubled_groups(width);
-    const bool once = limit > InstructionSet::scalar && surplus_is_overwritten(dst, src, width, height, srcStride);
+    const bool once = level > InstructionSet::scalar && surplus_is_overwritten(dst, src, width, height, srcStride);
     const long groups_above = once ? groups_of(width, v210_group_pixels) : groups;
     uint32_t dst_offset = 0, src_offset = 0;
     for (uint32_t y = 0; y != height; ++y) {
         const long line_groups = y + 1 == height ? groups : groups_above;
-        narrow_line(advance(dst, dst_offset), advance(src, src_offset), line_groups, limit);
+        narrow_line(advance(dst, dst_offset), advance(src, src_offset), line_groups, level);
         dst_offset += width * 2;
         src_offset += srcStride;
     }

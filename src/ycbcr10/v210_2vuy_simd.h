@@ -1,52 +1,11 @@
-// Groups of `2vuy`, 12 bytes, to groups of `v210`, 16 bytes, and back, where the two runs share no byte.
-// Each returns how many groups it has done; what is left is for the scalar version.
+// Groups of `2vuy`, 12 bytes, to groups of `v210`, 16 bytes, and back.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 
 namespace tintvert {
 
 #if defined(__x86_64__)
-
-// Two groups a step. The bytes a, b, c of a word go to bits 2, 12 and 22: a and b by one sum of products, c from
-// the top byte down. The second half reads four bytes beyond its 12, so the last step leaves a group behind it. Lines
-// go from last to first, and so do the steps: a processor fetches ahead in one direction.
-TNTVT_AVX2 inline long widen_avx2(uint8_t* dst, const uint8_t* src, long groups)
-{
-    const __m256i a_and_b =
-        _mm256_broadcastsi128_si256(_mm_setr_epi8(0, -1, 1, -1, 3, -1, 4, -1, 6, -1, 7, -1, 9, -1, 10, -1));
-    const __m256i c_on_top =
-        _mm256_broadcastsi128_si256(_mm_setr_epi8(-1, -1, -1, 2, -1, -1, -1, 5, -1, -1, -1, 8, -1, -1, -1, 11));
-    const long steps = (groups - 1) / 2;
-    for (long step = steps - 1; step >= 0; --step) {
-        const uint8_t* const from = src + step * 24;
-        const __m256i bytes = load_halves(from, from + 12);
-        const __m256i low =
-            _mm256_madd_epi16(_mm256_shuffle_epi8(bytes, a_and_b), _mm256_set1_epi32(1 << 12 << 16 | 1 << 2));
-        const __m256i top = _mm256_srli_epi32(_mm256_shuffle_epi8(bytes, c_on_top), 2);
-        store_256(dst + step * 32, _mm256_or_si256(low, top));
-    }
-    return steps * 2;
-}
-
-// Two groups a step. The products move the lowest and the highest sample of a word by 2 and 6 to bytes 0 and 2,
-// the shift moves the one between to byte 1.
-TNTVT_AVX2 inline long narrow_avx2(uint8_t* dst, const uint8_t* src, long groups)
-{
-    const __m256i three_of_four =
-        _mm256_broadcastsi128_si256(_mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
-    const __m256i halves_together = _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7);
-    long done = 0;
-    for (; groups - done >= 2; done += 2) {
-        const __m256i words = load_256(src + done * 16);
-        const __m256i outer = _mm256_mulhi_epu16(words, _mm256_set1_epi32(1 << 10 << 16 | 1 << 14));
-        const __m256i bytes = _mm256_blendv_epi8(outer, _mm256_srli_epi32(words, 4), _mm256_set1_epi32(0x0000FF00));
-        const __m256i run = _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(bytes, three_of_four), halves_together);
-        store_128(dst + done * 12, _mm256_castsi256_si128(run));
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + done * 12 + 16), _mm256_extracti128_si256(run, 1));
-    }
-    return done;
-}
 
 // Four groups, 48 bytes, as 64.
 TNTVT_AVX512 inline __m512i widen_48_avx512(__m512i bytes)
@@ -61,20 +20,6 @@ TNTVT_AVX512 inline __m512i widen_48_avx512(__m512i bytes)
     return _mm512_or_si512(low, _mm512_srli_epi32(top, 2));
 }
 
-// Four groups a step, from the last one down; 64 bytes are loaded where the line has them.
-TNTVT_AVX512 inline long widen_avx512(uint8_t* dst, const uint8_t* src, long groups)
-{
-    const long steps = (groups - 2) / 4;
-    for (long done = steps * 4; done < groups; done += 4) {
-        const long left = groups - done;
-        const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 12), src + done * 12);
-        _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), widen_48_avx512(bytes));
-    }
-    for (long step = steps - 1; step >= 0; --step)
-        _mm512_storeu_si512(dst + step * 64, widen_48_avx512(_mm512_loadu_si512(src + step * 48)));
-    return groups;
-}
-
 // The upper eight bits of the six samples of two words, from bits 2, 12, 22, 34, 44 and 54 on, then 48 bytes
 // together.
 TNTVT_AVX512 inline __m512i narrow_64_avx512(__m512i words)
@@ -85,34 +30,80 @@ TNTVT_AVX512 inline __m512i narrow_64_avx512(__m512i words)
     return _mm512_permutexvar_epi8(six_of_eight, bytes);
 }
 
-TNTVT_AVX512 inline long narrow_avx512(uint8_t* dst, const uint8_t* src, long groups)
-{
-    long done = 0;
-    for (; groups - done > 3; done += 4)
-        _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(48),
-                                narrow_64_avx512(_mm512_loadu_si512(src + done * 16)));
-    const long left = groups - done;
-    const __m512i words = _mm512_maskz_loadu_epi8(first_bytes(left * 16), src + done * 16);
-    _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(left * 12), narrow_64_avx512(words));
-    return groups;
-}
+struct WidenGroups {
+    // Two groups a step. The bytes a, b, c of a word go to bits 2, 12 and 22: a and b by one sum of products, c from
+    // the top byte down. The second half reads four bytes beyond its 12, so the last step leaves a group over.
+    // Lines go from last to first, and so do the steps: a processor fetches ahead in one direction.
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        const __m256i a_and_b =
+            _mm256_broadcastsi128_si256(_mm_setr_epi8(0, -1, 1, -1, 3, -1, 4, -1, 6, -1, 7, -1, 9, -1, 10, -1));
+        const __m256i c_on_top =
+            _mm256_broadcastsi128_si256(_mm_setr_epi8(-1, -1, -1, 2, -1, -1, -1, 5, -1, -1, -1, 8, -1, -1, -1, 11));
+        const long steps = (groups - 1) / 2;
+        for (long step = steps - 1; step >= 0; --step) {
+            const uint8_t* const from = src + step * 24;
+            const __m256i bytes = load_halves(from, from + 12);
+            const __m256i low =
+                _mm256_madd_epi16(_mm256_shuffle_epi8(bytes, a_and_b), _mm256_set1_epi32(1 << 12 << 16 | 1 << 2));
+            const __m256i top = _mm256_srli_epi32(_mm256_shuffle_epi8(bytes, c_on_top), 2);
+            store_256(dst + step * 32, _mm256_or_si256(low, top));
+        }
+        return steps * 2;
+    }
 
-inline long widen_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
-{
-    if (limit >= InstructionSet::avx512) return widen_avx512(dst, src, groups);
-    return limit >= InstructionSet::avx2 ? widen_avx2(dst, src, groups) : 0;
-}
+    // Four groups a step, from the last one down; 64 bytes are loaded where the line has them.
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        const long steps = (groups - 2) / 4;
+        for (long done = steps * 4; done < groups; done += 4) {
+            const long left = groups - done;
+            const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(left * 12), src + done * 12);
+            _mm512_mask_storeu_epi8(dst + done * 16, first_bytes(left * 16), widen_48_avx512(bytes));
+        }
+        for (long step = steps - 1; step >= 0; --step)
+            _mm512_storeu_si512(dst + step * 64, widen_48_avx512(_mm512_loadu_si512(src + step * 48)));
+        return groups;
+    }
+};
 
-inline long narrow_simd(InstructionSet limit, uint8_t* dst, const uint8_t* src, long groups)
-{
-    if (limit >= InstructionSet::avx512) return narrow_avx512(dst, src, groups);
-    return limit >= InstructionSet::avx2 ? narrow_avx2(dst, src, groups) : 0;
-}
+struct NarrowGroups {
+    // Two groups a step. The products move the lowest and the highest sample of a word by 2 and 6 to bytes 0 and 2,
+    // the shift moves the one between to byte 1.
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        const __m256i three_of_four =
+            _mm256_broadcastsi128_si256(_mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
+        const __m256i halves_together = _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7);
+        long done = 0;
+        for (; groups - done >= 2; done += 2) {
+            const __m256i words = load_256(src + done * 16);
+            const __m256i outer = _mm256_mulhi_epu16(words, _mm256_set1_epi32(1 << 10 << 16 | 1 << 14));
+            const __m256i bytes = _mm256_blendv_epi8(outer, _mm256_srli_epi32(words, 4), _mm256_set1_epi32(0x0000FF00));
+            const __m256i run = _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(bytes, three_of_four), halves_together);
+            store_128(dst + done * 12, _mm256_castsi256_si128(run));
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(dst + done * 12 + 16), _mm256_extracti128_si256(run, 1));
+        }
+        return done;
+    }
+
+    TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long groups)
+    {
+        long done = 0;
+        for (; groups - done > 3; done += 4)
+            _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(48),
+                                    narrow_64_avx512(_mm512_loadu_si512(src + done * 16)));
+        const long left = groups - done;
+        const __m512i words = _mm512_maskz_loadu_epi8(first_bytes(left * 16), src + done * 16);
+        _mm512_mask_storeu_epi8(dst + done * 12, first_bytes(left * 12), narrow_64_avx512(words));
+        return groups;
+    }
+};
 
 #else
 
-inline long widen_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
-inline long narrow_simd(InstructionSet, uint8_t*, const uint8_t*, long) { return 0; }
+struct WidenGroups {};
+struct NarrowGroups {};
 
 #endif
 

@@ -8,10 +8,9 @@ using namespace tintvert;
 
 namespace {
 
-void part_even_line(InstructionSet limit, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src,
-                    long groups)
+void put_even_line(InstructionSet level, uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, long groups)
 {
-    for (long g = part_groups_simd(limit, {luma, byte0, byte2}, src, groups); g < groups; ++g) {
+    for (long g = deinterleave_simd(level, {luma, byte0, byte2}, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
         byte0[g] = src[4 * g];
@@ -19,9 +18,9 @@ void part_even_line(InstructionSet limit, uint8_t* luma, uint8_t* byte0, uint8_t
     }
 }
 
-void part_odd_line(InstructionSet limit, uint8_t* luma, const uint8_t* src, long groups)
+void put_odd_line(InstructionSet level, uint8_t* luma, const uint8_t* src, long groups)
 {
-    for (long g = part_luma_simd(limit, luma, src, groups); g < groups; ++g) {
+    for (long g = deinterleave_luma_simd(level, luma, src, groups); g < groups; ++g) {
         luma[2 * g] = src[4 * g + 1];
         luma[2 * g + 1] = src[4 * g + 3];
     }
@@ -32,16 +31,16 @@ void part_odd_line(InstructionSet limit, uint8_t* luma, const uint8_t* src, long
 void from_2vuy(uint8_t* luma, uint8_t* byte0, uint8_t* byte2, const uint8_t* src, uint32_t stride, uint32_t height)
 {
     if (stride == 0) return;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const long groups = (long{stride} + 3) / 4;
     for (uint32_t r = 0; r < height; ++r, luma += 2 * groups) {
         const uint8_t* line = advance(src, r * stride);
         if (r % 2 == 0) {
-            part_even_line(limit, luma, byte0, byte2, line, groups);
+            put_even_line(level, luma, byte0, byte2, line, groups);
             byte0 += groups;
             byte2 += groups;
         } else {
-            part_odd_line(limit, luma, line, groups);
+            put_odd_line(level, luma, line, groups);
         }
     }
 }

@@ -9,9 +9,9 @@ using namespace tintvert;
 namespace {
 
 // A group is one word: its four samples are read before any byte of it is written.
-void join_line(InstructionSet limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
+void put_line(InstructionSet level, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
 {
-    for (long g = join_groups_simd(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
+    for (long g = interleave_simd(level, dst, {y, cb, cr}, groups); g < groups; ++g) {
         const uint8_t b0 = cb[g], b1 = y[2 * g], b2 = cr[g], b3 = y[2 * g + 1];
         dst[4 * g] = b0;
         dst[4 * g + 1] = b1;
@@ -48,13 +48,13 @@ void to_2vuy(uint8_t* dst, uint32_t stride, const uint8_t* plane, const uint8_t*
              uint32_t height)
 {
     if (width == 0) return;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const long groups = (long{width} + 1) / 2;
     const uint8_t* luma = plane;
     for (uint32_t r = 0; r < height; ++r) {
         luma = Order::luma(plane, luma, width, r);
         const uint32_t chroma = Order::chroma(width, r);
-        join_line(limit, advance(dst, r * stride), luma, advance(cb, chroma), advance(cr, chroma), groups);
+        put_line(level, advance(dst, r * stride), luma, advance(cb, chroma), advance(cr, chroma), groups);
         luma += 2 * groups;
     }
 }

@@ -12,16 +12,7 @@ namespace {
 // frame grows from its end.
 struct AlphayTo2yuv {
     static constexpr long src_bytes = 2, dst_bytes = 4;
-    struct Simd {
-        static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool down)
-        {
-            return join_luma_avx2(dst, src, pairs, down);
-        }
-        static long avx512(uint8_t* dst, const uint8_t* src, long pairs, bool down)
-        {
-            return join_luma_avx2(dst, src, pairs, down);
-        }
-    };
+    using Simd = InterleaveLuma;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         const uint32_t both = load<uint16_t>(src);
@@ -31,13 +22,7 @@ struct AlphayTo2yuv {
 
 struct Alphay {
     static constexpr long src_bytes = 4, dst_bytes = 2;
-    struct Simd {
-        static long avx2(uint8_t* dst, const uint8_t* src, long pairs, bool) { return part_luma_avx2(dst, src, pairs); }
-        static long avx512(uint8_t* dst, const uint8_t* src, long pairs, bool)
-        {
-            return part_luma_avx2(dst, src, pairs);
-        }
-    };
+    using Simd = DeinterleaveLuma;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {
         dst[0] = src[1];

@@ -13,14 +13,16 @@ namespace {
 //   byte    0    1    2    3     4    5    6    7
 //           c   prev  c    t     c   cur   c    t ...
 //
-// The first luma of each pair is the reference: `prev` and `cur` stand around the second luma `t`.
+// The first luma of each pair is the reference: `prev` and `cur` are on either side of the second luma `t`.
 
 // Mode 1 takes no look at the neighbours.
 void average_pairs(uint8_t* buf, long pairs)
 {
     const auto round = [buf](long k) { buf[4 * k + 3] = static_cast<uint8_t>((buf[4 * k + 3] + buf[4 * k + 1]) >> 1); };
     round(0);
-    for (long k = average_pairs_simd(instruction_set(), buf, pairs); k < pairs; ++k) round(k);
+    const long rest = pairs - 1;
+    long k = 1 + run_simd<AveragePairs>(instruction_set(), {{buf + 4, rest * 4}}, {}, buf + 4, rest);
+    for (; k < pairs; ++k) round(k);
 }
 
 template <Replacement replacement>
@@ -47,7 +49,9 @@ void pull_back(uint8_t* buf, long pairs, int most)
         buf[4 * k + 3] = static_cast<uint8_t>(replaced<replacement>(prev, t, cur));
     };
     round(0);
-    for (long k = pull_back_simd(instruction_set(), buf, pairs, replacement, most); k < pairs; ++k) round(k);
+    const long rest = pairs - 1;
+    long k = 1 + run_simd<PullBack>(instruction_set(), {{buf + 4, rest * 4}}, {}, buf + 4, rest, replacement, most);
+    for (; k < pairs; ++k) round(k);
 }
 
 constexpr int dark_only = 127, any = 255;

@@ -1,8 +1,7 @@
-// Sixteen full-range pixels a step to video range. Returns how many pixels it has done; what is left is for the plain
-// form.
+// Sixteen full-range pixels a step to video range.
 #pragma once
 
-#include "frame/registers.h"
+#include "frame/vec.h"
 #include "ycbcr8/video_range.h"
 
 namespace tintvert {
@@ -23,33 +22,30 @@ static_assert(factors_are_exact());
 
 #if defined(__x86_64__)
 
-TNTVT_AVX2 inline long to_video_range_avx2(uint8_t* dst, const uint8_t* src, long pixels, uint8_t sign)
-{
-    const __m256i turned = _mm256_set1_epi16(static_cast<short>(sign));
-    const __m256i of_luma = _mm256_set1_epi16(static_cast<short>(luma_factor));
-    const __m256i of_chroma = _mm256_set1_epi16(static_cast<short>(chroma_factor));
-    long done = 0;
-    for (; pixels - done >= 16; done += 16) {
-        const __m256i words = load_256(src + done * 2);
-        const __m256i y = _mm256_and_si256(words, _mm256_set1_epi16(0xFF));
-        const __m256i c = _mm256_xor_si256(_mm256_srli_epi16(words, 8), turned);
-        const __m256i luma = _mm256_mulhi_epu16(y, of_luma);
-        const __m256i chroma = _mm256_mulhi_epu16(_mm256_subs_epu16(c, _mm256_set1_epi16(1)), of_chroma);
-        const __m256i both = _mm256_or_si256(_mm256_slli_epi16(luma, 8), chroma);
-        store_256(dst + done * 2, _mm256_add_epi8(both, _mm256_set1_epi8(16)));
+struct ToVideoRange {
+    static constexpr bool in_place = true;
+    TNTVT_AVX2 static long avx2(uint8_t* dst, const uint8_t* src, long pixels, uint8_t sign)
+    {
+        const __m256i turned = _mm256_set1_epi16(static_cast<short>(sign));
+        const __m256i of_luma = _mm256_set1_epi16(static_cast<short>(luma_factor));
+        const __m256i of_chroma = _mm256_set1_epi16(static_cast<short>(chroma_factor));
+        long done = 0;
+        for (; pixels - done >= 16; done += 16) {
+            const __m256i words = load_256(src + done * 2);
+            const __m256i y = _mm256_and_si256(words, _mm256_set1_epi16(0xFF));
+            const __m256i c = _mm256_xor_si256(_mm256_srli_epi16(words, 8), turned);
+            const __m256i luma = _mm256_mulhi_epu16(y, of_luma);
+            const __m256i chroma = _mm256_mulhi_epu16(_mm256_subs_epu16(c, _mm256_set1_epi16(1)), of_chroma);
+            const __m256i both = _mm256_or_si256(_mm256_slli_epi16(luma, 8), chroma);
+            store_256(dst + done * 2, _mm256_add_epi8(both, _mm256_set1_epi8(16)));
+        }
+        return done;
     }
-    return done;
-}
-
-inline long to_video_range_simd(uint8_t* dst, const uint8_t* src, long pixels, uint8_t sign)
-{
-    if (pixels < 16 || instruction_set() < InstructionSet::avx2 || !same_or_disjoint(dst, src, pixels * 2)) return 0;
-    return to_video_range_avx2(dst, src, pixels, sign);
-}
+};
 
 #else
 
-inline long to_video_range_simd(uint8_t*, const uint8_t*, long, uint8_t) { return 0; }
+struct ToVideoRange {};
 
 #endif
 

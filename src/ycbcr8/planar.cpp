@@ -1,4 +1,4 @@
-// 4:2:2 planes to `2vuy` and back, and two fields of planes woven into one frame.
+// 4:2:2 planes to `2vuy` and back, and two fields of planes interleaved into one frame.
 #include <tintvert/ycbcr8.h>
 
 #include "ycbcr8/groups_simd.h"
@@ -7,10 +7,9 @@ using namespace tintvert;
 
 namespace {
 
-void join_planes(InstructionSet limit, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr,
-                 long groups)
+void interleave(InstructionSet level, uint8_t* dst, const uint8_t* y, const uint8_t* cb, const uint8_t* cr, long groups)
 {
-    for (long g = join_groups_simd(limit, dst, {y, cb, cr}, groups); g < groups; ++g) {
+    for (long g = interleave_simd(level, dst, {y, cb, cr}, groups); g < groups; ++g) {
         dst[4 * g] = cb[g];
         dst[4 * g + 1] = y[2 * g];
         dst[4 * g + 2] = cr[g];
@@ -18,9 +17,9 @@ void join_planes(InstructionSet limit, uint8_t* dst, const uint8_t* y, const uin
     }
 }
 
-void part_planes(uint8_t* y, uint8_t* cb, uint8_t* cr, const uint8_t* src, long groups)
+void deinterleave(uint8_t* y, uint8_t* cb, uint8_t* cr, const uint8_t* src, long groups)
 {
-    for (long g = part_groups_simd(instruction_set(), {y, cb, cr}, src, groups); g < groups; ++g) {
+    for (long g = deinterleave_simd(instruction_set(), {y, cb, cr}, src, groups); g < groups; ++g) {
         cb[g] = src[4 * g];
         y[2 * g] = src[4 * g + 1];
         cr[g] = src[4 * g + 2];
@@ -32,9 +31,9 @@ struct Field {
     const uint8_t *y, *cb, *cr;
 
     // One line, and on to the next; returns where the line after it goes.
-    uint8_t* put_line(InstructionSet limit, uint8_t* dst, long groups)
+    uint8_t* put_line(InstructionSet level, uint8_t* dst, long groups)
     {
-        join_planes(limit, dst, y, cb, cr, groups);
+        interleave(level, dst, y, cb, cr, groups);
         y += 2 * groups;
         cb += groups;
         cr += groups;
@@ -49,13 +48,13 @@ struct Field {
 void tntvt_planar_2vuy(unsigned char* dst, unsigned char* y, unsigned char* cb, unsigned char* cr, unsigned int,
                        unsigned int, unsigned int, unsigned int count)
 {
-    join_planes(instruction_set(), dst, y, cb, cr, count / 2);
+    interleave(instruction_set(), dst, y, cb, cr, count / 2);
 }
 
 void tntvt_2vuy_planar(unsigned char* y, unsigned char* cb, unsigned char* cr, unsigned int, unsigned int, unsigned int,
                        unsigned char* src, unsigned int count)
 {
-    part_planes(y, cb, cr, src, count / 2);
+    deinterleave(y, cb, cr, src, count / 2);
 }
 
 // QUIRK (keeps_fault_of_no_groups): `groups` divides before anything looks at it, and 0 faults.
@@ -64,10 +63,10 @@ void tntvt_planarfields_2vuy(unsigned char* dst, unsigned char* y1, unsigned cha
                              unsigned int, unsigned int groups, unsigned int total)
 {
     const unsigned int pairs = (total >> 1) / groups;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     Field first{y1, cb1, cr1}, second{y2, cb2, cr2};
     for (unsigned int pair = 0; pair < pairs; ++pair) {
-        dst = first.put_line(limit, dst, groups);
-        dst = second.put_line(limit, dst, groups);
+        dst = first.put_line(level, dst, groups);
+        dst = second.put_line(level, dst, groups);
     }
 }

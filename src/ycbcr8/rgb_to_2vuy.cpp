@@ -10,86 +10,63 @@ using namespace tintvert;
 
 namespace {
 
-struct Ycc {
-    double y, cb, cr;
-};
-
-// ITU-R BT.601 weights times 256, video range. Every sum is formed in the order written; nothing is
-// rounded before the last step, which is a truncation.
+// A matrix is its three rows, those of chroma with the quarter of the filter.
+//
+// ITU-R BT.601 weights times 256, video range. Nothing is rounded before the last step, which is a truncation.
 // QUIRK (keeps_truncation_of_grey): no half is added, so 51 of the 256 greys come out with a chroma
 // of 127 where 128 is neutral.
 struct VideoRange601 {
-    static Ycc convert(double r, double g, double b)
-    {
-        return {((g * 129.057 + r * 65.738) + b * 25.064) * 0.00390625 + 16.0,
-                ((r * -37.945 - g * 74.494) + b * 112.439) * 0.00390625 + 128.0,
-                ((r * 112.439 - g * 94.154) - b * 18.285) * 0.00390625 + 128.0};
-    }
-    static constexpr Weights y = scaled({65.738, 129.057, 25.064, 4096.0}, 0.00390625);
-    static constexpr Weights cb = scaled({-37.945, -74.494, 112.439, 32768.0}, 0.00390625);
-    static constexpr Weights cr = scaled({112.439, -94.154, -18.285, 32768.0}, 0.00390625);
+    static constexpr Weights y = scaled({65.738, 129.057, 25.064, 4096.0}, 1.0 / 256);
+    static constexpr Weights cb = scaled({-37.945, -74.494, 112.439, 32768.0}, 0.25 / 256);
+    static constexpr Weights cr = scaled({112.439, -94.154, -18.285, 32768.0}, 0.25 / 256);
 };
 
 // ITU-R BT.709 weights times 1024, full range, luma without an offset, the half already in place.
 // QUIRK (keeps_wrap_of_pure_blue_and_red): a run of pure blue or red reaches chroma 256.0, whose
 // low byte is 0.
 struct FullRange709 {
-    static Ycc convert(double r, double g, double b)
-    {
-        return {((g * 732.365 + r * 217.702) + b * 73.716) * 0.0009765625 + 0.5,
-                (((r * -117.35 - g * 394.65) + b * 512.0) * 0.0009765625 + 128.0) + 0.5,
-                (((r * 512.0 - g * 465.101) - b * 47.002) * 0.0009765625 + 128.0) + 0.5};
-    }
-    static constexpr Weights y = scaled({217.702, 732.365, 73.716, 512.0}, 0.0009765625);
-    static constexpr Weights cb = scaled({-117.35, -394.65, 512.0, 131072.0, 512.0}, 0.0009765625);
-    static constexpr Weights cr = scaled({512.0, -465.101, -47.002, 131072.0, 512.0}, 0.0009765625);
+    static constexpr Weights y = scaled({217.702, 732.365, 73.716, 512.0}, 1.0 / 1024);
+    static constexpr Weights cb = scaled({-117.35, -394.65, 512.0, 131072.0, 512.0}, 0.25 / 1024);
+    static constexpr Weights cr = scaled({512.0, -465.101, -47.002, 131072.0, 512.0}, 0.25 / 1024);
 };
 
 constexpr Channels bgra_bytes{2, 1, 0}, argb_bytes{1, 2, 3};
 
-template <class Matrix, const Channels& at>
-Ycc pixel(const uint8_t* src)
+template <const Channels& at>
+double row_of(const Weights& w, const uint8_t* pixel)
 {
-    return Matrix::convert(src[at.r], src[at.g], src[at.b]);
+    return row(w, pixel[at.r], pixel[at.g], pixel[at.b]);
 }
 
 // The odd pixel's chroma counts twice: once after the even pixel of its own pair and once before that of
-// the next. No pixel behind the pair is looked at.
+// the next. No pixel after the pair is looked at.
 template <class Matrix, const Channels& at>
-void convert_pair(uint8_t* dst, const uint8_t* src, Carried& previous)
+void convert_pair(uint8_t* dst, const uint8_t* src, ChromaBefore& before)
 {
-    const Ycc even = pixel<Matrix, at>(src);
-    const Ycc odd = pixel<Matrix, at>(src + 4);
-    dst[0] = low_byte((previous.cb + even.cb + even.cb + odd.cb) * 0.25);
-    dst[1] = low_byte(even.y);
-    dst[2] = low_byte((previous.cr + even.cr + even.cr + odd.cr) * 0.25);
-    dst[3] = low_byte(odd.y);
-    previous = {odd.cb, odd.cr};
-}
-
-// Simd steps read the pixel before them.
-template <class Matrix, const Channels& at>
-long simd_pairs(uint8_t* dst, const uint8_t* src, long pairs)
-{
-    const InstructionSet widest = instruction_set();
-    if (widest < InstructionSet::avx2 || pairs < 1 || !disjoint(dst, pairs * 4, src - 4, pairs * 8 + 4)) return 0;
-    return widest == InstructionSet::avx512 ? pairs_avx512<Matrix, at>(dst, src, pairs)
-                                            : pairs_avx2<Matrix, at>(dst, src, pairs);
+    const uint8_t *const even = src, *const odd = src + 4;
+    const double y0 = row_of<at>(Matrix::y, even), y1 = row_of<at>(Matrix::y, odd);
+    const double cb_even = row_of<at>(Matrix::cb, even), cr_even = row_of<at>(Matrix::cr, even);
+    const ChromaBefore next = {row_of<at>(Matrix::cb, odd), row_of<at>(Matrix::cr, odd)};
+    dst[0] = low_byte(filtered(before.cb, cb_even, next.cb));
+    dst[1] = low_byte(y0);
+    dst[2] = low_byte(filtered(before.cr, cr_even, next.cr));
+    dst[3] = low_byte(y1);
+    before = next;
 }
 
 // QUIRK (keeps_chroma_start_without_half): the chroma before the first pixel is 128.0 in both matrices.
-// The first or the last byte of a run is alpha, which nothing reads; wide steps leave a pair at either end.
+// Steps read the pixel before them. The first or the last byte of a run is alpha, which nothing reads; so the kernel
+// leaves a pair at either end.
 template <class Matrix, const Channels& at>
 void convert_run(uint8_t* dst, const uint8_t* src, int pixels)
 {
-    Carried carried{128.0, 128.0};
-    for (long i = 0; i < pixels; i += 2) {
-        convert_pair<Matrix, at>(dst + i * 2, src + i * 4, carried);
-        if (i > 0) continue;
-        const long wide = simd_pairs<Matrix, at>(dst + 4, src + 8, pixels / 2 - 2);
-        if (wide > 0) carried = carried_to<Matrix, at>(src + 8 + wide * 8);
-        i += 2 * wide;
-    }
+    ChromaBefore before{0.25 * 128.0, 0.25 * 128.0};
+    if (pixels > 0) convert_pair<Matrix, at>(dst, src, before);
+    const long inner = pixels / 2 - 2;
+    const long made = run_simd<ConvertPairs<Matrix, at>>(instruction_set(), {{dst + 4, inner * 4}},
+                                                         {{src + 4, inner * 8 + 4}}, dst + 4, src + 8, inner);
+    if (made > 0) before = chroma_before<Matrix, at>(src + 8 + made * 8);
+    for (long i = 2 + 2 * made; i < pixels; i += 2) convert_pair<Matrix, at>(dst + i * 2, src + i * 4, before);
 }
 
 }  // namespace

@@ -11,16 +11,7 @@ namespace {
 // The key becomes a grey picture of itself, alpha included.
 struct AlphaToRgba {
     static constexpr long src_bytes = 1, dst_bytes = 4;
-    struct Simd {
-        static long avx2(uint8_t* dst, const uint8_t* src, long width, bool)
-        {
-            return spread_alpha_avx2(dst, src, width);
-        }
-        static long avx512(uint8_t* dst, const uint8_t* src, long width, bool)
-        {
-            return spread_alpha_avx2(dst, src, width);
-        }
-    };
+    using Simd = SpreadAlpha;
     static void pixel(uint8_t* dst, const uint8_t* src) { store<uint32_t>(dst, src[0] * 0x01010101u); }
 };
 
@@ -47,11 +38,12 @@ int tntvt_rgba_to_alpha(void* dst, long, void* src, long srcStride, long width, 
 int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long width, long height)
 {
     if (width < 1) return 0;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     for (long r = 0; r < height; ++r) {
         uint8_t* line = advance(bytes(dst), line_offset(r, dstStride));
-        for (long x = set_alpha_simd(limit, line, low, width); x < width; ++x) line[4 * x + 3] = low;
+        long x = run_simd<SetAlpha>(level, {{line, width * 4}}, {}, line, low, width);
+        for (; x < width; ++x) line[4 * x + 3] = low;
     }
     return 0;
 }
@@ -61,13 +53,14 @@ int tntvt_rgba_setalpha(void* dst, long dstStride, unsigned int alpha, long widt
 int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dstStride, unsigned int alpha, int width, int height)
 {
     if (width == 0) return 0;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const uint8_t low = static_cast<uint8_t>(alpha);
     const long pixels = static_cast<unsigned int>(width);
     for (long r = long{height} - 1; r >= 0; --r) {
         uint8_t* to = advance(bytes(dst), line_offset(r, dstStride));
         const uint8_t* from = advance(bytes(src), line_offset(r, srcStride));
-        for (long x = add_alpha_simd(limit, to, from, low, width); x < pixels; ++x) {
+        long x = run_simd<AddAlpha>(level, {{to, width * 4l}}, {{from, width * 3l}}, to, from, low, width);
+        for (; x < pixels; ++x) {
             to[4 * x] = from[3 * x];
             to[4 * x + 1] = from[3 * x + 1];
             to[4 * x + 2] = from[3 * x + 2];

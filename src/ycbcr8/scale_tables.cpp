@@ -21,7 +21,7 @@ uint8_t gsbScaleChromaUp[256];
 uint8_t gsfScaleTablesReady;
 
 // QUIRK (keeps_241_for_chroma_255): the last entry is the rule's 240 first and 241 just after. Whoever
-// fills the tables a second time, behind another's flag, takes that entry through 240 once more, and a
+// fills the tables a second time, after another's flag, takes that entry through 240 once more, and a
 // caller that looks in that moment sees it.
 TNTVT_FIRST_USE void need_scale_tables()
 {

@@ -24,7 +24,7 @@ void tntvt_yuv444_yuv422_8(unsigned char* dst, unsigned char* src, unsigned int 
                            unsigned int)
 {
     const long groups = groups_in(width, height);
-    long g = to_422_simd(dst, src, groups);
+    long g = run_simd<To422>(instruction_set(), {{dst, groups * 4}}, {{src, groups * 6}}, dst, src, groups);
     src += g * 6;
     dst += g * 4;
     for (; g < groups; ++g, src += 6, dst += 4) {
@@ -40,7 +40,7 @@ void tntvt_yuv422_yuv444_8(unsigned char* dst, unsigned char* src, unsigned int 
                            unsigned int)
 {
     const long groups = groups_in(width, height);
-    long g = to_444_simd(dst, src, groups);
+    long g = run_simd<To444>(instruction_set(), {{dst, groups * 6}}, {{src, groups * 4}}, dst, src, groups);
     src += g * 4;
     dst += g * 6;
     for (; g < groups; ++g, src += 4, dst += 6) {

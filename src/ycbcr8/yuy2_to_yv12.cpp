@@ -9,12 +9,12 @@ using namespace tintvert;
 
 namespace {
 
-void convert_pair(InstructionSet limit, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src,
+void convert_pair(InstructionSet level, uint8_t* y, long y_pitch, uint8_t* cb, uint8_t* cr, const uint8_t* src,
                   long src_pitch, long groups)
 {
     uint8_t* const y_below = advance(y, y_pitch);
     const uint8_t* const below = advance(src, src_pitch);
-    long g = part_pair_simd(limit, {y, cb, cr}, y_below, src, below, groups);
+    long g = deinterleave_yuy2_simd(level, {y, cb, cr}, y_below, src, below, groups);
     for (; g < groups; ++g) {
         y[2 * g] = src[4 * g];
         y[2 * g + 1] = src[4 * g + 2];
@@ -36,14 +36,14 @@ void YUY2toYV12(unsigned char* src, unsigned char* y, unsigned char* cb, unsigne
                 int srcPitch, int dstPitch)
 {
     if (height < 1 || width < 1) return;
-    const InstructionSet limit = instruction_set();
+    const InstructionSet level = instruction_set();
     const long groups = (width - 1) / 2 + 1;
     const int src_line = wrapped(2l * srcPitch), dst_slack = wrapped(long{dstPitch} - width);
     const int src_step = wrapped(4 * groups + 2 * (long{src_line} - width));
     const int y_step = wrapped(2 * groups + dst_slack + dstPitch);
     const int chroma_step = wrapped(groups + (dst_slack >> 1));
     for (long line = 0; line < height; line += 2) {
-        convert_pair(limit, y, dstPitch, cb, cr, src, src_line, groups);
+        convert_pair(level, y, dstPitch, cb, cr, src, src_line, groups);
         src = advance(src, src_step);
         y = advance(y, y_step);
         cb = advance(cb, chroma_step);

@@ -28,7 +28,7 @@ void expect_inside_fences(InstructionSet level, const Form& form, int width, Sid
 {
     const size_t bytes = static_cast<size_t>(width) * 4;
     std::vector<uint8_t> expected(bytes);
-    line_plain(expected.data(), form, 0, width, bt601);
+    scalar_line(expected.data(), form, 0, width, bt601);
     const Fenced dst(random, width * 4, side);
     ASSERT_FALSE(faults([&] { line(level, dst.pointer(), form, width, bt601); })) << name_of(level) << ' ' << width;
     EXPECT_EQ(0, std::memcmp(dst.pointer(), expected.data(), bytes)) << name_of(level) << ' ' << width;

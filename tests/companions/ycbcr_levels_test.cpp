@@ -22,7 +22,7 @@ testing::AssertionResult agrees(InstructionSet level, const Form& form, int widt
 {
     Random random(static_cast<uint64_t>(width));
     Arena dst(random, 128, skew + width * 4 + 128);
-    line_plain(dst.expected(skew), form, 0, width, w);
+    scalar_line(dst.expected(skew), form, 0, width, w);
     line(level, dst.actual(skew), form, width, w);
     return dst.agrees(skew);
 }
@@ -55,7 +55,7 @@ void expect_all_misalignments(InstructionSet level, int width, const uint8_t* sr
     std::vector<uint8_t> expected(bytes + 64), dst(bytes + 192);
     for (int from = 0; from < 64; ++from) {
         const Form form = form_at(src + from, width);
-        line_plain(expected.data(), form, 0, width, bt709);
+        scalar_line(expected.data(), form, 0, width, bt709);
         for (size_t to = 0; to < 64; ++to) {
             std::memset(dst.data(), 0xEE, dst.size());
             line(level, &dst[64 + to], form, width, bt709);
@@ -88,7 +88,7 @@ long wrong_lines(const std::vector<InstructionSet>& levels, const Form& form, in
 {
     static std::vector<uint8_t> expected(8192), dst(8192);
     const size_t bytes = static_cast<size_t>(width) * 4;
-    line_plain(expected.data(), form, 0, width, w);
+    scalar_line(expected.data(), form, 0, width, w);
     long wrong = 0;
     for (const InstructionSet level : levels) {
         line(level, dst.data(), form, width, w);
@@ -148,14 +148,14 @@ TEST_F(CycbcrLevelsExhaustive, a_seventh_of_the_10_bit_triples)
 // A form whose wide steps get the luma of their last pixel wrong.
 template <class Form>
 struct WrongStep : Form {
-    YCBCR_AVX2 void step(uint8_t* dst, int x, const SimdWeights& w) const
+    TNTVT_AVX2 void step(uint8_t* dst, int x, const width_256::VecWeights& w) const
     {
         Form::step(dst, x, w);
         dst[4 * (Form::step_pixels - 1)] ^= 1;
     }
-    YCBCR_AVX512 Operands512 operands(int step, int part, int pixels) const
+    TNTVT_AVX512 width_512::Operands operands(int step, int part, int pixels) const
     {
-        const Operands512 right = Form::operands(step, part, pixels);
+        const width_512::Operands right = Form::operands(step, part, pixels);
         alignas(64) uint16_t luma[32];
         _mm512_store_si512(luma, right.luma);
         luma[pixels - 1] ^= 0x4000;
@@ -185,7 +185,7 @@ TEST_F(CycbcrLevels, a_wrong_step_is_told_apart)
 
 TEST_F(CycbcrLevels, a_wrong_step_behind_masks_is_told_apart)
 {
-    if (!machine_has(InstructionSet::avx512)) GTEST_SKIP() << "no step of this machine has masks";
+    if (machine_instruction_set() < InstructionSet::avx512) GTEST_SKIP() << "no step of this machine has masks";
     const std::vector<uint8_t> grey(64, 0x80);
     const std::vector<uint32_t> grey_groups(16, 512u | 512u << 10 | 512u << 20);
     const V210 v210{reinterpret_cast<const uint8_t*>(grey_groups.data())};
@@ -207,7 +207,7 @@ TEST(Cycbcr, frames_are_plain_lines)
         Arena dst(random, 0, to * height);
         const auto expect_lines = [&](const char* what, auto form_of_line) {
             for (int y = 0; y < height; ++y)
-                line_plain(dst.expected(y * to), form_of_line(src.data() + y * from, y), 0, width, bt2020);
+                scalar_line(dst.expected(y * to), form_of_line(src.data() + y * from, y), 0, width, bt2020);
             EXPECT_TRUE(dst.agrees(0, to)) << what << ' ' << width;
         };
         cycbcr_uyvy_to_rgb32(dst.actual(), src.data(), width, height, to, from, 2020, 0);
@@ -219,12 +219,6 @@ TEST(Cycbcr, frames_are_plain_lines)
         expect_lines("i420",
                      [&](const uint8_t* at, int) { return planar(at, chroma, chroma + from * height / 4, width); });
     }
-}
-
-TEST(Cycbcr, the_best_level_is_the_widest_that_the_machine_has)
-{
-    EXPECT_TRUE(machine_has(InstructionSet::scalar));
-    EXPECT_EQ(best_level(), simd_levels().empty() ? InstructionSet::scalar : simd_levels().back());
 }
 
 }  // namespace

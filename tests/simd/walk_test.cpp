@@ -1,4 +1,4 @@
-// When the walkers take a form's wide steps, and which way they tell them that the walk goes.
+// When the walkers run a form's kernel, and which direction of the walk they pass to it.
 #include "frame/walk.h"
 
 #include <gtest/gtest.h>
@@ -8,21 +8,18 @@
 namespace tintvert::test {
 namespace {
 
-// Steps that make the first two pixels of a line, as 9, and note which way they were told that the walk goes.
+// A kernel that makes the first two pixels of a line, as 9, and notes the direction of the walk.
 struct CopySimd {
     static constexpr long src_bytes = 1, dst_bytes = 1;
     static void pixel(uint8_t* dst, const uint8_t* src) { *dst = *src; }
     struct Simd {
+        static constexpr bool in_place = true;
         static inline std::vector<bool> down;
         static long avx2(uint8_t* dst, const uint8_t*, long, bool goes_down)
         {
             down.push_back(goes_down);
             dst[0] = dst[1] = 9;
             return 2;
-        }
-        static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool goes_down)
-        {
-            return avx2(dst, src, pixels, goes_down);
         }
     };
 };
@@ -31,7 +28,7 @@ class SimdWalks : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (instruction_set() < InstructionSet::avx2) GTEST_SKIP() << "no wide level here";
+        if (instruction_set() < InstructionSet::avx2) GTEST_SKIP() << "no AVX2 here";
         CopySimd::Simd::down.clear();
     }
     std::vector<uint8_t> bytes = {1, 2, 3, 4, 5, 6, 7, 8};
@@ -52,7 +49,7 @@ TEST_F(SimdWalks, take_a_map_in_its_own_place)
     EXPECT_EQ(bytes, (std::vector<uint8_t>{9, 9, 3, 4, 5, 6, 7, 8}));
 }
 
-TEST_F(SimdWalks, are_plain_where_lines_overlap)
+TEST_F(SimdWalks, do_not_run_where_lines_overlap)
 {
     walk_forward<CopySimd>({&bytes[1], 0, &bytes[0], 0}, 4, 1);
     EXPECT_EQ(bytes, (std::vector<uint8_t>{1, 1, 1, 1, 1, 6, 7, 8}));

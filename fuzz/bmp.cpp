@@ -1,5 +1,5 @@
 // A file as a BMP picture, run-length coded ones among them.
-#include "bmp.h"
+#include "io/pictures/bmp.h"
 
 #include "failure.h"
 #include "frame/memory.h"

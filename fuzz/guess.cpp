@@ -1,7 +1,7 @@
 // What a file of raw frames may hold, by its name, its length and its bytes.
 //
 //     length, three bytes   length of the name   name   bytes that fill the file, repeated
-#include "guess.h"
+#include "inspect/guess.h"
 
 #include <stdlib.h>
 

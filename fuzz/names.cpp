@@ -3,8 +3,8 @@
 #include <cctype>
 #include <string>
 
+#include "inspect/name_hints.h"
 #include "must.h"
-#include "name_hints.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

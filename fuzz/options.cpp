@@ -3,9 +3,9 @@
 //     layout   text
 #include <string>
 
-#include "clip_options.h"
 #include "failure.h"
 #include "input.h"
+#include "io/clip_options.h"
 #include "layouts.h"
 #include "must.h"
 

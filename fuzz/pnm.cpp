@@ -1,5 +1,5 @@
 // A file as PPM and PAM pictures, one behind the other.
-#include "pnm.h"
+#include "io/pictures/pnm.h"
 
 #include "failure.h"
 #include "memory_file.h"

@@ -1,10 +1,10 @@
 // A file as a Y4M clip: its header, and its frames read and skipped by turns.
-#include "y4m.h"
+#include "io/y4m.h"
 
 #include "failure.h"
+#include "io/sources.h"
 #include "memory_file.h"
 #include "must.h"
-#include "sources.h"
 
 namespace {
 

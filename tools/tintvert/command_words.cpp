@@ -8,7 +8,7 @@
 
 #include "catalog.h"
 #include "layouts.h"
-#include "routine_options.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "command_words.h"
-#include "routine_options.h"
+#include "options.h"
 
 namespace tintvert::tool {
 

@@ -14,7 +14,7 @@
 
 #include "commands.h"
 #include "help.h"
-#include "interrupt.h"
+#include "io/interrupt.h"
 #include "nearest.h"
 #include "version.h"
 

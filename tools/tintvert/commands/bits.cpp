@@ -5,11 +5,11 @@
 #include <charconv>
 #include <memory>
 
-#include "color.h"
 #include "commands.h"
-#include "frame_shape.h"
+#include "inspect/frame_shape.h"
+#include "inspect/layout_picture.h"
 #include "json.h"
-#include "layout_picture.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {

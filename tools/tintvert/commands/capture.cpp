@@ -4,12 +4,12 @@
 #include <memory>
 
 #include "capture/missing_picture.h"
-#include "capture/report.h"
-#include "clip_options.h"
+#include "capture_report.h"
 #include "commands.h"
+#include "io/clip_options.h"
+#include "io/output_file.h"
+#include "io/pictures/png_file.h"
 #include "json.h"
-#include "output_file.h"
-#include "png_file.h"
 
 namespace tintvert::tool {
 namespace {

@@ -7,9 +7,10 @@
 #include <optional>
 
 #include "commands.h"
+#include "inspect/sample_difference.h"
+#include "io/pictures/png_file.h"
 #include "json.h"
-#include "png_file.h"
-#include "sample_difference.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {

@@ -6,18 +6,19 @@
 #include <thread>
 #include <vector>
 
-#include "calls.h"
+#include "calls/rle8.h"
 #include "catalog.h"
 #include "commands.h"
-#include "frames.h"
 #include "geometry.h"
+#include "io/frames.h"
 #include "json.h"
 #include "nearest.h"
+#include "options.h"
+#include "paths/calls.h"
+#include "paths/holds.h"
+#include "paths/road.h"
+#include "paths/routine_job.h"
 #include "progress.h"
-#include "rle8.h"
-#include "road/holds.h"
-#include "road/road.h"
-#include "routine_job.h"
 
 namespace tintvert::tool {
 namespace {

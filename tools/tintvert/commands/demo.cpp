@@ -9,12 +9,12 @@
 
 #include "catalog.h"
 #include "commands.h"
-#include "difference.h"
-#include "output_file.h"
-#include "png_file.h"
-#include "rgb_frame.h"
+#include "inspect/difference.h"
+#include "inspect/test_card.h"
+#include "io/output_file.h"
+#include "io/pictures/png_file.h"
+#include "io/pictures/rgb_frame.h"
 #include "stopwatch.h"
-#include "test_card.h"
 
 namespace tintvert::tool {
 namespace {

@@ -4,14 +4,15 @@
 #include <algorithm>
 #include <memory>
 
-#include "call_plan.h"
-#include "clip_options.h"
+#include "calls/call_plan.h"
+#include "calls/quirks.h"
+#include "calls/routine_options.h"
 #include "commands.h"
+#include "io/clip_options.h"
 #include "json.h"
 #include "nearest.h"
-#include "quirks.h"
+#include "options.h"
 #include "routine_facts.h"
-#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {

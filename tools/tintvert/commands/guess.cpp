@@ -1,5 +1,5 @@
 // tintvert guess: what a raw file may hold. Nothing else in the tool uses the answer.
-#include "guess.h"
+#include "inspect/guess.h"
 
 #include <fmt/format.h>
 

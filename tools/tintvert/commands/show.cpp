@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
+#include "calls/headers.h"
 #include "catalog.h"
 #include "commands.h"
-#include "headers.h"
 #include "json.h"
 #include "nearest.h"
 #include "routine_facts.h"

@@ -5,12 +5,12 @@
 #include <map>
 #include <memory>
 
-#include "chafa_picture.h"
-#include "color.h"
 #include "commands.h"
-#include "png_file.h"
-#include "sample_picture.h"
-#include "terminal_picture.h"
+#include "inspect/chafa_picture.h"
+#include "inspect/sample_picture.h"
+#include "inspect/terminal_picture.h"
+#include "io/pictures/png_file.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 enum class Exit {
     done = 0,
@@ -32,4 +32,4 @@ private:
     Exit code_;
 };
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

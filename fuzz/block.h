@@ -15,7 +15,7 @@ namespace tintvert::fuzz {
 
 class Block {
 public:
-    // Bytes [begin, end) from its pointer, `lead` bytes behind an aligned address; filled with `pattern` repeated.
+    // Bytes [begin, end) from its pointer, `lead` bytes after an aligned address; filled with `pattern` repeated.
     Block(catalog::Range range, size_t lead, std::span<const uint8_t> pattern);
 
     // The same memory with another pointer, `offset` bytes from this block's own.

@@ -57,7 +57,7 @@ struct Touch {
     }
 };
 
-Range range_of(checked::Range told) { return {told.from, told.to}; }
+Range range_of(checked::Range range) { return {range.from, range.to}; }
 
 Arg argument_of(const char* name)
 {
@@ -103,7 +103,7 @@ private:
     size_t lead() const { return way_ >> 3 & 7; }
     const char* name() const { return routine().name.data(); }
 
-    // A block that frees what stands in it is given nulls.
+    // A routine that frees pointers is given nulls.
     std::span<const uint8_t> pattern() const
     {
         return routine().name == "free_own_cache_lines" ? std::span<const uint8_t>() : input_.rest();
@@ -133,8 +133,8 @@ private:
     // The extents, unless the numbers are refused: then they are refused without the question too.
     bool asked()
     {
-        checked::Extents told;
-        const Answer answer = call_checked(id_, numbers_, buffers_, {false, &told});
+        checked::Extents reported;
+        const Answer answer = call_checked(id_, numbers_, buffers_, {false, &reported});
         if (!answer.error) {
             must(answer.error.code == Code::refused, "a question is refused or answered", name());
             must(call_checked(id_, numbers_, buffers_, {}).error.code == Code::refused, "what is refused stays so",
@@ -142,7 +142,7 @@ private:
             return false;
         }
         touches_.clear();
-        for (const checked::Touch& touch : told)
+        for (const checked::Touch& touch : reported)
             touches_.push_back({argument_of(touch.buffer), range_of(touch.read), range_of(touch.written)});
         return true;
     }
@@ -196,7 +196,7 @@ private:
         make();
     }
 
-    // Which buffers are one is told by their addresses, so the question is asked with such.
+    // Buffers are the same if their addresses are, so the call has addresses.
     void together()
     {
         constexpr int64_t base = int64_t{1} << 40;

@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 using tintvert::fuzz::must;
 
 template <class Read>

@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 
 void run(std::span<const uint8_t> bytes)
 {
@@ -21,10 +21,10 @@ void run(std::span<const uint8_t> bytes)
     form.height = height;
     std::vector<uint8_t> frame(
         static_cast<size_t>(form.layout == "i420" ? width * height * 3 / 2 : width * height * 2));
-    const int64_t told = clip->expect(form, 0);
+    const int64_t expected = clip->expect(form, 0);
     int64_t there = 0;
     while (there % 3 == 1 ? clip->skip() : clip->read(frame)) ++there;
-    tintvert::fuzz::must(there == told, "there are as many frames as were told");
+    tintvert::fuzz::must(there == expected, "there are as many frames as expected");
 }
 
 }  // namespace

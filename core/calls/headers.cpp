@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr std::string_view mark = "TNTVT_API ";
@@ -53,8 +53,8 @@ bool declares(std::string_view prototype, std::string_view routine)
 
 }  // namespace
 
-// A comment holds for all the declarations between it and the next, and one that another follows at once for
-// all declarations behind it.
+// A comment is that of all the declarations between it and the next, and one that another follows at once for
+// all declarations after it.
 Declaration declaration_of(std::string_view chapter, std::string_view routine)
 {
     const auto header = std::ranges::find(headers(), chapter, &Header::chapter);
@@ -86,4 +86,4 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
     }
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-// One header as it stands in include/tintvert/; filled in when the tool is built.
+// One header of include/tintvert/; filled in when the tool is built.
 struct Header {
     std::string_view chapter, text;
 };
@@ -22,4 +22,4 @@ struct Declaration {
 // Empty strings if the header declares no such routine.
 Declaration declaration_of(std::string_view chapter, std::string_view routine);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

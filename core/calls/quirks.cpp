@@ -4,7 +4,7 @@
 
 #include "facts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using catalog::Arg;
@@ -12,7 +12,7 @@ using catalog::Arg;
 struct Condition {
     std::string_view name;
     Arg argument;
-    bool (*holds)(int64_t value);
+    bool (*is_met)(int64_t value);
     std::string_view yes, no;
 };
 
@@ -43,7 +43,7 @@ constexpr Condition conditions[] = {
 std::string_view here(std::string_view name, const catalog::Arguments& call)
 {
     for (const Condition& condition : conditions)
-        if (condition.name == name) return condition.holds(call[condition.argument]) ? condition.yes : condition.no;
+        if (condition.name == name) return condition.is_met(call[condition.argument]) ? condition.yes : condition.no;
     return {};
 }
 
@@ -66,4 +66,4 @@ std::vector<Quirk> quirks_at(const catalog::Routine& routine, const catalog::Arg
     return quirks;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

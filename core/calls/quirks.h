@@ -6,16 +6,16 @@
 
 #include "catalog.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct Quirk {
     std::string_view name, what;
-    std::string_view here;  // whether a call meets it, where its numbers tell; empty where they do not
+    std::string_view here;  // whether a call meets it, if its arguments decide it; empty otherwise
 };
 
 std::vector<Quirk> quirks_at(const catalog::Routine& routine, const catalog::Arguments& call);
 
-// The page as it stands in docs/; filled in when the tool is built.
+// The page of docs/; filled in when the tool is built.
 std::string_view quirks_page();
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,13 +1,26 @@
-// A run-length coded picture through one of the library's decoders.
+// Run-length coded pictures (BI_RLE8) through the library's decoders.
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "catalog.h"
-#include "io/pictures/bmp.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-// The frame that the routine makes. The stream is walked before it is decoded: it has to end, and to stay inside
+struct CodedPicture {
+    int64_t width, height;
+    std::vector<uint8_t> palette;  // 256 entries of four bytes: blue, green, red, unused
+    std::vector<uint8_t> stream;
+};
+
+bool decodes_rle8(const catalog::Routine& routine);
+
+// The frame that the routine makes. The stream is scanned before it is decoded: it has to end, and to stay inside
 // its picture; if not, Failure (unsafe).
-std::vector<uint8_t> decode_rle8(const catalog::Routine& routine, catalog::Arguments call, const BmpRle8& picture);
+std::vector<uint8_t> decode_rle8(const catalog::Routine& routine, catalog::Arguments call, const CodedPicture& picture);
 
-}  // namespace tintvert::tool
+// The stream of a picture of one colour: runs of up to 254 pixels, line ends, the end.
+std::vector<uint8_t> one_colour_stream(int64_t width, int64_t height);
+
+}  // namespace tintvert::core

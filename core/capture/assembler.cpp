@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 uint64_t SegmentCounts::all_refused() const { return std::accumulate(refused.begin(), refused.end(), uint64_t{0}); }
 
@@ -68,4 +68,4 @@ void Assembler::end_picture()
         finish();
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

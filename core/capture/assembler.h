@@ -7,7 +7,7 @@
 #include "capture/frame.h"
 #include "capture/rtp.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct SegmentCounts {
     uint64_t taken = 0, empty = 0;       // empty ones bring no samples and are not refused
@@ -55,4 +55,4 @@ private:
     bool has_second_field_ = false, first_field_ended_ = false;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

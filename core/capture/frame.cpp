@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 namespace {
 
 // At phase 2 the library takes the pgroups 1 and 2 of a group for granted. A segment that ends after the first
@@ -31,7 +31,7 @@ void unpack(uint8_t* line, uint8_t* payload, long pgroups, long offset)
 
 }  // namespace
 
-// A line's padding takes the whole last group, so no segment reaches past its line.
+// A line's padding takes the whole last group, so no segment writes past its line.
 Frame::Frame(FrameSize size)
     : size_(size),
       bytes_(static_cast<size_t>(size.line_bytes() * size.height)),
@@ -70,4 +70,4 @@ long Frame::whole_lines() const
     return whole;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -1,11 +1,11 @@
-// A `v210` frame that is filled segment by segment and knows what it still lacks.
+// A `v210` frame that is filled segment by segment and knows what is still missing.
 #pragma once
 
 #include <vector>
 
 #include "capture/payload.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct FrameSize {
     long width = 0, height = 0;  // of whole pairs
@@ -38,4 +38,4 @@ private:
     long missing_pairs_ = 0;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

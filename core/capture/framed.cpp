@@ -1,6 +1,6 @@
 #include "capture/framed.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 bool is_framed(Bytes head) { return head.size() >= 3 && be16(head, 0) >= 12 && head[2] >> 6 == 2; }
 
@@ -21,4 +21,4 @@ bool FramedSource::next(Datagram& datagram)
     return true;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -1,11 +1,11 @@
-// RFC 4571: RTP packets one behind the other, each after its length in two big-endian bytes.
+// RFC 4571: RTP packets one after the other, each after its length in two big-endian bytes.
 #pragma once
 
 #include <vector>
 
 #include "capture/source.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 // A first length that an RTP header fits in, then a byte with RTP's version 2.
 bool is_framed(Bytes head);
@@ -22,4 +22,4 @@ private:
     std::vector<uint8_t> packet_;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -7,7 +7,7 @@
 
 #include "failure.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 namespace {
 
 std::FILE* opened(const std::string& path)
@@ -43,4 +43,4 @@ size_t Input::read_file(uint8_t* to, size_t count)
     return got;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

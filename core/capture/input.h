@@ -8,7 +8,7 @@
 
 #include "capture/bytes.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 class Input {
 public:
@@ -35,4 +35,4 @@ private:
     size_t head_size_ = 0, head_used_ = 0;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -4,7 +4,7 @@
 
 #include "io/pictures/rgb_frame.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 namespace {
 
 void paint(uint8_t* pixel, uint8_t r, uint8_t g, uint8_t b)
@@ -37,4 +37,4 @@ Picture missing_picture(const Frame& frame)
     return picture;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

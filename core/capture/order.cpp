@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 void Order::take(uint32_t number, Bytes packet, size_t size)
 {
@@ -102,4 +102,4 @@ void Order::release(size_t most_held)
     }
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -9,7 +9,7 @@
 
 #include "capture/bytes.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct OrderCounts {
     uint64_t missing = 0;    // sequence numbers that no packet came for in time
@@ -62,4 +62,4 @@ private:
     int64_t next_ = 0;  // to be delivered, once the first has been
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 namespace {
 
 constexpr size_t segment_header = 6;
@@ -29,7 +29,7 @@ Segment parse_segment(Bytes bytes)
     return segment;
 }
 
-// The data stands behind all the headers, in their order.
+// The data follows all the headers, in their order.
 void find_data(std::vector<Segment>& segments, Bytes bytes, size_t size, size_t at)
 {
     for (Segment& segment : segments) {
@@ -69,4 +69,4 @@ Payload parse_payload(Bytes bytes, size_t size)
     return payload;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

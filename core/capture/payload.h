@@ -1,4 +1,4 @@
-// The payload header of RFC 4175 and the segments of lines behind it.
+// The payload header of RFC 4175 and the segments of lines after it.
 #pragma once
 
 #include <array>
@@ -6,7 +6,7 @@
 
 #include "capture/bytes.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 // Why a segment's samples do not go into the frame.
 enum class Refusal {
@@ -42,4 +42,4 @@ struct Payload {
 // segment that is refused for it.
 Payload parse_payload(Bytes bytes, size_t size);
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -5,7 +5,7 @@
 #include "capture/udp.h"
 #include "failure.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 namespace {
 
 constexpr uint32_t microseconds = 0xA1B2C3D4, nanoseconds = 0xA1B23C4D;
@@ -67,4 +67,4 @@ bool PcapSource::next_record(Bytes& captured, size_t& size)
     return true;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

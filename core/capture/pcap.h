@@ -6,7 +6,7 @@
 
 #include "capture/source.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 // Either byte order, time stamps in micro- or nanoseconds.
 bool is_pcap(Bytes head);
@@ -30,4 +30,4 @@ private:
     std::vector<uint8_t> record_;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -1,6 +1,6 @@
 #include "capture/report.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 bool Report::is_complete() const
 {
@@ -9,4 +9,4 @@ bool Report::is_complete() const
            segments.all_refused() == 0 && frames.incomplete == 0;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -5,7 +5,7 @@
 
 #include "capture/walker.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct FrameCounts {
     uint64_t whole = 0, incomplete = 0, written = 0;
@@ -29,4 +29,4 @@ struct Report {
     bool is_complete() const;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -1,6 +1,6 @@
 #include "capture/rtp.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 //   b0                       b1                 b2..b3      b4..b7       b8..b11   b12..
 //   version padding ext CC   marker type        sequence    timestamp    SSRC      CC x CSRC, extension
@@ -32,4 +32,4 @@ std::optional<RtpPacket> parse_rtp(Bytes bytes, size_t size)
     return packet;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

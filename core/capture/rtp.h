@@ -5,7 +5,7 @@
 
 #include "capture/bytes.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct RtpPacket {
     bool marker;
@@ -20,4 +20,4 @@ struct RtpPacket {
 // to 204. `size` is how long the packet was before the capture cut it.
 std::optional<RtpPacket> parse_rtp(Bytes bytes, size_t size);
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -4,7 +4,7 @@
 #include "capture/pcap.h"
 #include "failure.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 std::unique_ptr<Source> open_source(Input& input)
 {
@@ -17,4 +17,4 @@ std::unique_ptr<Source> open_source(Input& input)
     throw Failure(Exit::no_file, "{} is neither a pcap nor RTP packets with RFC 4571 framing", input.name());
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -6,11 +6,11 @@
 
 #include "capture/input.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct Datagram {
     Bytes bytes;      // what was captured, valid until the next one is asked for
-    size_t size = 0;  // what was sent: more than `bytes` holds if the packet is cut
+    size_t size = 0;  // what was sent: more than `bytes` has if the packet is truncated
     std::optional<uint16_t> port{};
 
     bool is_cut() const { return bytes.size() < size; }
@@ -24,7 +24,7 @@ public:
     virtual bool has_ports() const = 0;
 
     bool ends_early() const { return ends_early_; }  // inside a packet, or in something that is none
-    uint64_t skipped() const { return skipped_; }    // captured packets that hold no whole UDP header
+    uint64_t skipped() const { return skipped_; }    // captured packets without a whole UDP header
     uint64_t fragments() const { return fragments_; }
 
 protected:
@@ -36,4 +36,4 @@ protected:
 // else is a Failure.
 std::unique_ptr<Source> open_source(Input& input);
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

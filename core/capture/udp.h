@@ -3,7 +3,7 @@
 
 #include "capture/bytes.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct Udp {
     enum Kind { none, fragment, datagram } kind = none;
@@ -19,4 +19,4 @@ bool is_link_type(uint32_t type);
 // that contradicts the lengths inside is no datagram. Fragments are not put together.
 Udp udp_of(uint32_t link_type, Bytes captured, size_t size);
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -1,6 +1,6 @@
 #include "capture/walker.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 Walker::Walker(const WalkerOptions& options, Assembler::Done done)
     : options_(options),
@@ -43,4 +43,4 @@ void Walker::assemble(Bytes bytes, size_t size, bool follows)
     assembler_.take(packet, parse_payload(packet.payload, packet.payload_size), follows);
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -5,7 +5,7 @@
 #include "capture/order.h"
 #include "capture/source.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::core::capture {
 
 struct WalkerOptions {
     FrameSize size{};
@@ -53,4 +53,4 @@ private:
     Order order_;
 };
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::core::capture

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <memory>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 template <auto release>
@@ -37,7 +37,7 @@ ChafaCanvasMode colors_of(const Terminal& terminal)
 }
 
 struct Cell {
-    int width = 8, height = 16;  // pixels, where the terminal does not tell
+    int width = 8, height = 16;  // pixels, where the terminal does not report them
 };
 
 Cell cell_of_terminal()
@@ -55,6 +55,8 @@ ChafaPixelMode mode_of(Drawing drawing)
 }
 
 }  // namespace
+
+bool has_chafa() { return true; }
 
 Drawing finest_drawing()
 {
@@ -91,21 +93,23 @@ std::string chafa_picture(const Picture& picture, long columns, Drawing drawing)
     return text + '\n';
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
+
+bool has_chafa() { return false; }
 
 Drawing finest_drawing() { return Drawing::blocks; }
 
 std::string chafa_picture(const Picture&, long, Drawing)
 {
-    throw Failure(Exit::usage, "this tool is built without libchafa, which draws symbols, sixels and kitty's pictures");
+    throw Failure(Exit::usage, "tintvert is built without libchafa, which draws symbols, sixels and kitty's pictures");
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

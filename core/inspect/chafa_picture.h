@@ -5,12 +5,13 @@
 
 #include "inspect/terminal_picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-// What the environment tells of the terminal, the finest first: kitty, sixels, symbols. Blocks without libchafa.
+// What the environment says of the terminal, the finest first: kitty, sixels, symbols. Blocks without libchafa.
 Drawing finest_drawing();
+bool has_chafa();
 
 // Symbols, sixels or kitty, `columns` wide. Throws Failure (usage) without libchafa.
 std::string chafa_picture(const Picture& picture, long columns, Drawing drawing);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 Difference difference(const Picture& result, const Picture& original, long step)
 {
@@ -23,4 +23,4 @@ Difference difference(const Picture& result, const Picture& original, long step)
     return found;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct Difference {
     std::array<int, 3> largest{};  // red, green, blue
@@ -15,4 +15,4 @@ struct Difference {
 // Pixel (x, y) of `result` against pixel (x * step, y * step) of `original`, both of 8 bits.
 Difference difference(const Picture& result, const Picture& original, long step);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

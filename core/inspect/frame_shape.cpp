@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "failure.h"
-#include "nearest.h"
+#include "names.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
-// Subsampled planes stand for whole pairs and whole pairs of lines.
+// Subsampled planes have a sample for each pair of pixels or of lines.
 void need_whole_units(const catalog::SampleForm& form, Size size)
 {
     if (form.planes.size() == 1) return;
@@ -41,7 +41,7 @@ const catalog::SampleForm& samples_named(const std::string& name)
 FrameShape expect_samples(Clip& clip, const std::string& layout, const ClipOptions& options)
 {
     const std::string name = layout.empty() ? clip.layout() : layout;
-    if (name.empty()) throw Failure(Exit::usage, "{} does not tell its layout: give --layout LAYOUT", clip.name());
+    if (name.empty()) throw Failure(Exit::usage, "the layout of {} is not known: give --layout LAYOUT", clip.name());
     const catalog::SampleForm& form = samples_named(name);
     const Size size = clip.size();
     need_whole_units(form, size);
@@ -60,9 +60,9 @@ SampledFrame read_frame(const std::string& path, const SampleOptions& options)
     Clip clip(options.clip, {path});
     FrameShape shape = expect_samples(clip, options.layout, options.clip);
     std::vector<uint8_t> bytes(static_cast<size_t>(shape.bytes));
-    if (!clip.next(bytes)) throw Failure(Exit::unsafe, "{} holds no frame", clip.name());
+    if (!clip.next(bytes)) throw Failure(Exit::unsafe, "{} has no frame", clip.name());
     const int64_t place = options.clip.offset + frame_range_of(options.clip.frames).first * shape.bytes;
     return {std::move(shape), std::move(bytes), place};
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -7,7 +7,7 @@
 #include "io/frames.h"
 #include "samples.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // LAYOUT, or LAYOUT:FORM where it has several. Throws Failure.
 const catalog::SampleForm& samples_named(const std::string& name);
@@ -20,7 +20,7 @@ struct FrameShape {
 
 // --layout, --size, --stride, --offset, --frames
 struct SampleOptions {
-    std::string layout;  // empty if the file is to tell it
+    std::string layout;  // empty to take that of the file's header
     ClipOptions clip;
 };
 
@@ -36,4 +36,4 @@ struct SampledFrame {
 };
 SampledFrame read_frame(const std::string& path, const SampleOptions& options);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

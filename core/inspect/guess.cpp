@@ -9,7 +9,7 @@
 #include "io/clip_options.h"
 #include "layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using catalog::PlacedPlane;
@@ -141,7 +141,9 @@ double Guess::score() const
 std::vector<Guess> guesses(InputFile& file)
 {
     if (file.size() < 0)
-        throw Failure(Exit::usage, "guess goes by the length of a file, and {} does not tell its own", file.name());
+        throw Failure(Exit::usage,
+                      "guess needs the length of a file, and that of {} is not known: save it as a file first",
+                      file.name());
     const NameHints hints = hints_of(std::filesystem::path(file.name()).filename().string());
     std::vector<uint8_t> head(static_cast<size_t>(std::min(file.size(), most_read)));
     file.read(head.data(), head.size());
@@ -184,4 +186,4 @@ std::vector<Guess> guesses(InputFile& file)
     return found;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using catalog::Plane;
@@ -24,7 +24,7 @@ std::string unit_text(const Plane& plane)
     return fmt::format("one group of {} pixels, {} bytes", plane.across, plane.unit_bytes);
 }
 
-// Words of which each field stands inside one, or that are bytes in a row: the two ways to draw.
+// Words of which each field is inside one, or that are bytes in a row: the two ways to draw.
 bool is_whole_words(const Plane& plane)
 {
     return std::ranges::all_of(plane.fields, [&](const Sample& s) { return s.bits == plane.word_bytes * 8; });
@@ -93,7 +93,7 @@ struct Cell {
     std::string plain, painted;
 };
 
-// What stands in one byte, from its highest bit down: "Y0 5..0 | Cb0 9..8".
+// What is in one byte, from its highest bit down: "Y0 5..0 | Cb0 9..8".
 Cell byte_cell(const Plane& plane, int byte, const Painter& paint)
 {
     const int word = byte / plane.word_bytes, in_word = byte % plane.word_bytes;
@@ -209,4 +209,4 @@ std::string bits_picture_of(const catalog::Layout& layout, const Painter& paint)
     });
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

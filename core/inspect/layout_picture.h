@@ -7,7 +7,7 @@
 #include "layouts.h"
 #include "samples.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // Bytes from the lowest address, b0 first; bits of a word from the highest to the lowest.
 std::string picture_of(const catalog::Layout& layout, const Painter& paint);
@@ -18,4 +18,4 @@ std::string bits_picture_of(const catalog::Layout& layout, const Painter& paint)
 // The component, with its pixel where the unit has more than one sample of it.
 std::string label_of(const catalog::Plane& plane, const catalog::Sample& sample);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -3,7 +3,7 @@
 #include <cctype>
 #include <charconv>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 NameHints hints_of(const std::string& name)
 {
@@ -28,4 +28,4 @@ NameHints hints_of(const std::string& name)
     return hints;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,4 +1,4 @@
-// What the name of a raw file tells of its frames.
+// What the name of a raw file says of its frames.
 #pragma once
 
 #include <string>
@@ -6,9 +6,9 @@
 
 #include "io/clip_options.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-// What a name such as clip_1920x1080_25.v210 tells.
+// The parts of a name such as clip_1920x1080_25.v210.
 struct NameHints {
     std::vector<std::string> words;  // in lower case
     std::vector<Size> sizes;
@@ -16,4 +16,4 @@ struct NameHints {
 
 NameHints hints_of(const std::string& name);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 struct Shade {
@@ -25,4 +25,4 @@ std::string Painter::operator()(std::string_view component, std::string_view tex
     return fmt::format("\x1b[{}{}m{}\x1b[0m", strong ? "1;" : "", code, text);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

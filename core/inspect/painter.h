@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // Text in the colour of a component, and plain text where there is no colour.
 class Painter {
@@ -17,4 +17,4 @@ private:
     bool on_;
 };
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -6,7 +6,7 @@
 #include <limits>
 #include <tuple>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 double ComponentDifference::psnr() const
 {
@@ -47,4 +47,4 @@ void SampleDifference::add(int64_t frame, const std::vector<uint8_t>& one, const
         });
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

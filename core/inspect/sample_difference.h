@@ -7,7 +7,7 @@
 
 #include "inspect/frame_shape.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct ComponentDifference {
     std::string_view component;
@@ -40,4 +40,4 @@ private:
     std::optional<FirstDifference> first_;
 };
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <initializer_list>
 
-#include "calls/conversion.h"
 #include "frame/memory.h"
+#include "geometry.h"
 #include "io/pictures/rgb_frame.h"
+#include "paths/frame_converter.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using catalog::PlacedPlane;
@@ -77,11 +78,7 @@ std::vector<uint8_t> pairs_of(const FrameShape& shape, const std::vector<uint8_t
 std::vector<uint8_t> through(std::string_view name, int64_t width, int64_t height, const std::vector<uint8_t>& frame)
 {
     const catalog::Routine& routine = *catalog::find(name);
-    Conversion conversion(routine, catalog::plain_call(routine, {width, height}));
-    std::ranges::copy(frame, conversion.inputs().front().begin());
-    conversion.run();
-    const std::span<uint8_t> result = conversion.outputs().front();
-    return {result.begin(), result.end()};
+    return convert_frame(plan_call(routine, catalog::plain_call(routine, {width, height})), frame);
 }
 
 bool is_full_range(std::string_view layout)
@@ -107,4 +104,4 @@ Picture picture_of_samples(const FrameShape& shape, const std::vector<uint8_t>& 
     return has(shape, "Cb") ? picture_of_ycbcr(shape, frame) : picture_of_rgb(shape, frame);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

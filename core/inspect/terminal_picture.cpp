@@ -9,10 +9,10 @@
 
 #include "inspect/chafa_picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
-// Each pixel is the average of those that it stands for.
+// Each pixel is the average of those that it covers.
 Picture reduced(const Picture& from, long width, long height)
 {
     Picture to(width, height);
@@ -75,4 +75,4 @@ std::string terminal_picture(const Picture& picture, long columns, Drawing drawi
     return text;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

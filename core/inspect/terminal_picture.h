@@ -5,7 +5,7 @@
 
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // Letters by brightness, half blocks in 24-bit colour, and what libchafa draws: symbols of many shapes, and pixels by
 // the sequences of sixels or of kitty.
@@ -18,4 +18,4 @@ long terminal_columns();
 // what this build cannot draw.
 std::string terminal_picture(const Picture& picture, long columns, Drawing drawing);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string_view>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 struct Rgb {
@@ -160,4 +160,4 @@ Picture test_card()
     return card;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -11,10 +11,10 @@ extern "C" {
 #include <algorithm>
 #include <cstring>
 
+#include "capacity.h"
 #include "failure.h"
-#include "paths/holds.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 std::string reason(int error)
@@ -34,8 +34,8 @@ std::string text_of(uint32_t fourcc)
     return text;
 }
 
-// Empty if it is none that has a layout here. `raw ` and no code at all are RGB, told apart by bits: red first and
-// alpha in front in MOV, blue first in AVI.
+// Empty if it is none that has a layout here. `raw ` and no code at all are RGB, distinguished by bits: red first and
+// alpha before it in MOV, blue first in AVI.
 std::string layout_of(const AVCodecParameters& about)
 {
     if (about.codec_id == AV_CODEC_ID_V210) return "v210";
@@ -59,11 +59,11 @@ bool is_bottom_up(const AVCodecParameters& about)
            std::memcmp(about.extradata + about.extradata_size - sizeof mark, mark, sizeof mark) == 0;
 }
 
-// Layouts of the same bytes. A file does not tell the range and the sign of `yuvs`.
+// Layouts of the same bytes. A file does not give the range and the sign of `yuvs`.
 bool is_alike(std::string_view one, std::string_view other)
 {
     const auto bytes = [](std::string_view layout) {
-        const std::string_view name = road::holds_of(layout).bytes;
+        const std::string_view name = capacity_of(layout).bytes;
         return name == "YUY2" || name == "yuv2" ? std::string_view("yuvs") : name;
     };
     return bytes(one) == bytes(other);
@@ -96,7 +96,7 @@ public:
     int64_t expect(const FrameForm& form, int64_t stride) override
     {
         if (!is_alike(form.layout, layout_))
-            throw Failure(Exit::usage, "{} holds {}, and not {}", name_, layout_, form.layout);
+            throw Failure(Exit::usage, "{} has frames of {}, and not of {}", name_, layout_, form.layout);
         need_lines(form);
         form_ = form;
         stride_ = stride;
@@ -148,11 +148,11 @@ private:
             stream_ = i;
             layout_ = layout_of(about());
             if (layout_.empty())
-                throw Failure(Exit::no_file, "{} holds video of '{}' with {} bits, which is no layout here", name_,
+                throw Failure(Exit::no_file, "{} has video of '{}' with {} bits, which is no layout here", name_,
                               text_of(about().codec_tag), about().bits_per_coded_sample);
             return;
         }
-        throw Failure(Exit::no_file, "{} holds no video", name_);
+        throw Failure(Exit::no_file, "{} has no video", name_);
     }
 
     bool next_packet()
@@ -179,25 +179,29 @@ private:
 
 }  // namespace
 
+bool reads_clips() { return true; }
+
 std::unique_ptr<FrameSource> clip_source(const std::filesystem::path& path)
 {
     return std::make_unique<ClipSource>(path);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
+
+bool reads_clips() { return false; }
 
 std::unique_ptr<FrameSource> clip_source(const std::filesystem::path& path)
 {
-    throw Failure(Exit::no_file, "cannot read {}: this tool is built without libavformat, which reads MOV and AVI",
+    throw Failure(Exit::no_file, "cannot read {}: tintvert is built without libavformat, which reads MOV and AVI",
                   path.string());
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

@@ -6,12 +6,12 @@
 #include "failure.h"
 #include "layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr int64_t most_pixels = int64_t{1} << 28, most_bytes = 0x7FFFFFFF;
 
-// A number that no int64_t holds is as large as one can be. What stands behind it stays in `text`.
+// A number too large for int64_t becomes the largest one. What follows it stays in `text`.
 std::optional<int64_t> leading_number(std::string_view& text)
 {
     int64_t number = 0;
@@ -22,7 +22,7 @@ std::optional<int64_t> leading_number(std::string_view& text)
     return number;
 }
 
-// The line of a layout with whole pixels, pairs or groups and nothing behind them.
+// The line of a layout with whole pixels, pairs or groups and no padding.
 int64_t packed_line(std::string_view layout, int64_t width)
 {
     if (layout == "v210") return (width + 5) / 6 * 16;
@@ -95,4 +95,4 @@ int64_t stride_of(const std::string& text, std::string_view layout, Size size)
     return *bytes;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct Size {
     int64_t width = 0, height = 0;
@@ -30,7 +30,7 @@ struct FrameRange {
 FrameRange frame_range_of(const std::string& text);
 
 // auto48: 128 bytes for each 48 pixels of v210; auto64: lines rounded up to 64 bytes; packed: whole pixels, pairs
-// or groups, and nothing behind them; or a number of bytes. 0 for an empty text.
+// or groups, and no padding; or a number of bytes. 0 for an empty text.
 int64_t stride_of(const std::string& text, std::string_view layout, Size size);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

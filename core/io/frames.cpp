@@ -10,7 +10,7 @@
 #include "io/sources.h"
 #include "layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 std::string format_of_head(std::span<const uint8_t> head)
@@ -21,7 +21,7 @@ std::string format_of_head(std::span<const uint8_t> head)
     return "raw";
 }
 
-// Null behind the first.
+// Null after the first.
 template <class Read>
 NextPicture only(std::shared_ptr<InputFile> file, Read read)
 {
@@ -39,7 +39,7 @@ std::unique_ptr<FrameSource> picture_file(InputFile opened, const std::string& f
     return picture_source(file->name(), [file] { return read_pnm(*file); });
 }
 
-std::unique_ptr<FrameSource> open_source(const ClipOptions& options, const Paths& paths)
+std::unique_ptr<FrameSource> open_source(const ClipOptions& options, const FilePaths& paths)
 {
     std::string format = paths.size() == 1 ? format_of(paths[0]) : "raw";
     if (format == "mov" || format == "avi") return clip_source(paths[0]);
@@ -54,12 +54,12 @@ std::unique_ptr<FrameSource> open_source(const ClipOptions& options, const Paths
 // A size from the file and from --size; they have to agree.
 Size size_of_clip(const ClipOptions& options, const FrameSource& source, const std::string& name)
 {
-    const Size told = source.size();
-    if (options.size.empty() && told == Size{})
-        throw Failure(Exit::usage, "{} does not tell its size: give --size WIDTHxHEIGHT", name);
-    const Size given = options.size.empty() ? told : size_of(options.size);
-    if (told != Size{} && told != given)
-        throw Failure(Exit::usage, "{} is {}x{}, and not {}", name, told.width, told.height, options.size);
+    const Size own = source.size();
+    if (options.size.empty() && own == Size{})
+        throw Failure(Exit::usage, "the size of {} is not known: give --size WIDTHxHEIGHT", name);
+    const Size given = options.size.empty() ? own : size_of(options.size);
+    if (own != Size{} && own != given)
+        throw Failure(Exit::usage, "{} is {}x{}, and not {}", name, own.width, own.height, options.size);
     need_sane_size(given);
     return given;
 }
@@ -80,7 +80,7 @@ FrameForm scalar_version(std::string_view layout, Size size)
     return form;
 }
 
-Clip::Clip(const ClipOptions& options, const Paths& paths)
+Clip::Clip(const ClipOptions& options, const FilePaths& paths)
     : options_(options),
       name_(paths[0] == "-" ? "standard input" : paths[0].string()),
       range_(frame_range_of(options.frames)),
@@ -127,7 +127,7 @@ std::string format_of(const std::filesystem::path& path)
     return "raw";
 }
 
-std::unique_ptr<FrameSink> open_sink(const Paths& paths, const FrameForm& form, const SinkOptions& options)
+std::unique_ptr<FrameSink> open_sink(const FilePaths& paths, const FrameForm& form, const SinkOptions& options)
 {
     if (paths.size() > 1) return planes_sink(paths, form);
     SinkOptions settled = options;
@@ -145,8 +145,8 @@ std::vector<std::string_view> layouts_of_format(std::string_view format)
     if (format == "y4m") return {"planar422", "i420", "yv12", "planar420"};
     std::vector<std::string_view> layouts;
     for (const catalog::Layout& layout : catalog::layouts())
-        if (holds_picture(layout.name) && (format != "bmp" || !is_deep(layout.name))) layouts.push_back(layout.name);
+        if (stores_picture(layout.name) && (format != "bmp" || !is_deep(layout.name))) layouts.push_back(layout.name);
     return layouts;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

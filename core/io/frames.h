@@ -18,11 +18,11 @@
 #include "io/clip_options.h"
 #include "io/pictures/rgb_layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-using Paths = std::vector<std::filesystem::path>;  // `-` is standard input or output
+using FilePaths = std::vector<std::filesystem::path>;  // `-` is standard input or output
 
-// How a frame lies in memory: buffers without a gap, one behind the other.
+// How a frame lies in memory: buffers without a gap, one after the other.
 struct FrameForm {
     std::string layout;
     int64_t width = 0, height = 0;
@@ -48,10 +48,10 @@ public:
     virtual bool opaque() const { return false; }      // whether its alpha says nothing
 
     // Settles how frames come, with lines `stride` apart in the file if that is not 0. How many there are, or -1 if
-    // only their end will tell. Throws Failure if the file cannot give such frames, or not whole ones.
+    // that is known at their end only. Throws Failure if the file cannot give such frames, or not whole ones.
     virtual int64_t expect(const FrameForm& form, int64_t stride) = 0;
 
-    // The next frame; false behind the last one.
+    // The next frame; false after the last one.
     virtual bool read(std::span<uint8_t> frame) = 0;
     virtual bool skip() = 0;
 };
@@ -66,17 +66,17 @@ public:
 // The frames of --frames, from one file, or from a file for each buffer.
 class Clip {
 public:
-    Clip(const ClipOptions& options, const Paths& paths);
+    Clip(const ClipOptions& options, const FilePaths& paths);
 
     const std::string& name() const { return name_; }
     std::string layout() const { return source_->layout(); }
     std::string timing() const { return source_->timing(); }
     bool opaque() const { return source_->opaque(); }
-    Size size() const { return size_; }  // throws Failure if neither the file nor --size tells
+    Size size() const { return size_; }  // throws Failure if neither the file nor --size gives it
 
     void expect(const FrameForm& form);
     const FrameForm& form() const { return form_; }
-    int64_t frames() const { return frames_; }  // -1 if only their end will tell
+    int64_t frames() const { return frames_; }  // -1 if that is not known before their end
 
     bool next(std::span<uint8_t> frame);
 
@@ -103,9 +103,9 @@ struct SinkOptions {
 };
 
 // Several paths are the files of the buffers.
-std::unique_ptr<FrameSink> open_sink(const Paths& paths, const FrameForm& form, const SinkOptions& options);
+std::unique_ptr<FrameSink> open_sink(const FilePaths& paths, const FrameForm& form, const SinkOptions& options);
 
-// The layouts that a format can hold; none for formats that hold any.
+// The layouts that a format can store; none for formats that store any.
 std::vector<std::string_view> layouts_of_format(std::string_view format);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

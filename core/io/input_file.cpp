@@ -8,7 +8,7 @@
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 int keep_open(std::FILE*) { return 0; }
@@ -61,7 +61,7 @@ void InputFile::read(uint8_t* to, size_t count)
 bool InputFile::skip(int64_t count)
 {
     if (size_ >= 0) {
-        if (lacks(count)) return false;
+        if (is_short_of(count)) return false;
         at_ += count;
         peeked_.clear();
         return std::fseek(file_.get(), at_, SEEK_SET) == 0;
@@ -89,4 +89,4 @@ std::vector<uint8_t> InputFile::read_rest()
     return bytes;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

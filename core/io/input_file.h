@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 class InputFile {
 public:
@@ -25,7 +25,7 @@ public:
     size_t read_some(uint8_t* to, size_t count);
     void read(uint8_t* to, size_t count);  // throws Failure if the file ends before
     bool skip(int64_t count);              // whether there was as much
-    bool lacks(int64_t count) const { return size_ >= 0 && count > size_ - at_; }  // as far as it can tell
+    bool is_short_of(int64_t count) const { return size_ >= 0 && count > size_ - at_; }  // as far as it can tell
     std::vector<uint8_t> read_rest();
 
 private:
@@ -35,4 +35,4 @@ private:
     std::vector<uint8_t> peeked_;
 };
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <initializer_list>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 char unfinished[PATH_MAX];
@@ -44,4 +44,4 @@ void set_unfinished(const char* path)
     has_unfinished = 1;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

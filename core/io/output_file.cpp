@@ -12,7 +12,7 @@
 #include "failure.h"
 #include "io/interrupt.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 namespace {
 
@@ -70,7 +70,7 @@ void OutputFile::write(const void* bytes, size_t count)
     }
 }
 
-// Some file systems tell of a full disk only when the file is closed.
+// Some file systems report a full disk only when the file is closed.
 void OutputFile::commit()
 {
     const int descriptor = descriptor_;
@@ -100,4 +100,4 @@ void make_folder(const std::filesystem::path& folder)
     if (error) throw Failure(Exit::no_file, "cannot make the folder {}: {}", folder.string(), error.message());
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // Bytes go to a temporary file in the target's folder, which takes the target's name at commit() and is
 // removed if there is none. One at a time. Standard output (`-`), devices and pipes are written as they are.
@@ -33,4 +33,4 @@ void write_file(const std::filesystem::path& target, const void* bytes, size_t c
 // Makes the folder and those above it, unless they are there.
 void make_folder(const std::filesystem::path& folder);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

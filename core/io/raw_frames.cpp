@@ -5,7 +5,7 @@
 #include "io/output_file.h"
 #include "io/sources.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 class RawSource : public FrameSource {
@@ -64,11 +64,10 @@ private:
             }
             const int64_t each = parts_[i], all = std::max<int64_t>(file.size() - offset_, 0);
             if (all < each || all % each != 0)
-                throw Failure(Exit::unsafe, "{} holds {} bytes, and a frame of this geometry is {}", file.name(), all,
+                throw Failure(Exit::unsafe, "{} has {} bytes, and a frame of this geometry is {}", file.name(), all,
                               each);
             if (count >= 0 && count != all / each)
-                throw Failure(Exit::unsafe, "{} holds {} frames, the file before it {}", file.name(), all / each,
-                              count);
+                throw Failure(Exit::unsafe, "{} has {} frames, the file before it {}", file.name(), all / each, count);
             count = all / each;
             file.skip(offset_);
         }
@@ -105,7 +104,7 @@ private:
 // The planes wait in memory, so that the files appear one after the other and whole.
 class PlanesSink : public FrameSink {
 public:
-    PlanesSink(const Paths& paths, const FrameForm& form) : paths_(paths), parts_(form.parts), planes_(paths.size())
+    PlanesSink(const FilePaths& paths, const FrameForm& form) : paths_(paths), parts_(form.parts), planes_(paths.size())
     {
         if (parts_.size() != paths.size())
             throw Failure(Exit::usage, "{} files for the {} buffers that the routine writes", paths.size(),
@@ -125,7 +124,7 @@ public:
     }
 
 private:
-    Paths paths_;
+    FilePaths paths_;
     std::vector<int64_t> parts_;
     std::vector<std::vector<uint8_t>> planes_;
 };
@@ -139,9 +138,9 @@ std::unique_ptr<FrameSource> raw_source(std::vector<InputFile> files, int64_t of
 
 std::unique_ptr<FrameSink> raw_sink(const std::filesystem::path& path) { return std::make_unique<RawSink>(path); }
 
-std::unique_ptr<FrameSink> planes_sink(const Paths& paths, const FrameForm& form)
+std::unique_ptr<FrameSink> planes_sink(const FilePaths& paths, const FrameForm& form)
 {
     return std::make_unique<PlanesSink>(paths, form);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,4 +1,4 @@
-// The kinds of files that frames are read from and written to, behind `frames.h`.
+// The kinds of files that frames are read from and written to.
 #pragma once
 
 #include <functional>
@@ -8,18 +8,19 @@
 #include "io/input_file.h"
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 std::unique_ptr<FrameSource> raw_source(std::vector<InputFile> files, int64_t offset);
 std::unique_ptr<FrameSource> y4m_source(InputFile file);
 std::unique_ptr<FrameSource> clip_source(const std::filesystem::path& path);  // MOV and AVI
+bool reads_clips();                                                           // whether built with libavformat
 
-// Pictures one after the other: null behind the last one.
+// Pictures one after the other: null after the last one.
 using NextPicture = std::function<std::unique_ptr<Picture>()>;
 std::unique_ptr<FrameSource> picture_source(std::string name, NextPicture next);
 
 std::unique_ptr<FrameSink> raw_sink(const std::filesystem::path& path);
-std::unique_ptr<FrameSink> planes_sink(const Paths& paths, const FrameForm& form);
+std::unique_ptr<FrameSink> planes_sink(const FilePaths& paths, const FrameForm& form);
 std::unique_ptr<FrameSink> y4m_sink(const std::filesystem::path& path, const FrameForm& form,
                                     const std::string& timing);
 std::unique_ptr<FrameSink> picture_sink(const std::filesystem::path& path, const FrameForm& form,
@@ -31,4 +32,4 @@ void take_lines(const FrameForm& form, const uint8_t* file, int64_t stride, std:
 // Whether the frames of a form have lines that take_lines can place.
 void need_lines(const FrameForm& form);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

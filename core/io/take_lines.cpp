@@ -5,7 +5,7 @@
 #include "frame/memory.h"
 #include "io/sources.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr int64_t samples_a_group = 12, group_bytes = 16;
@@ -49,4 +49,4 @@ void take_lines(const FrameForm& form, const uint8_t* file, int64_t stride, std:
     }
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

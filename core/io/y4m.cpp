@@ -6,7 +6,7 @@
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 int64_t number(const InputFile& file, const std::string& text)
@@ -60,4 +60,4 @@ std::string y4m_header(const Y4m& clip)
     return fmt::format("YUV4MPEG2 W{} H{} {} C{}\n", clip.width, clip.height, timing, clip.chroma);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

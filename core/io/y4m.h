@@ -7,7 +7,7 @@
 
 #include "io/input_file.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct Y4m {
     int64_t width = 0, height = 0;
@@ -24,4 +24,4 @@ std::string y4m_header(const Y4m& clip);
 
 inline constexpr std::string_view y4m_frame_mark = "FRAME\n";
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

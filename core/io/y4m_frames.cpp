@@ -6,14 +6,14 @@
 #include "io/sources.h"
 #include "io/y4m.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 void need_planes(const FrameForm& form, bool is_422)
 {
     const bool fits = is_422 ? form.layout == "planar422"
                              : form.layout == "i420" || form.layout == "yv12" || form.layout == "planar420";
-    if (!fits) throw Failure(Exit::usage, "a Y4M clip of {} does not hold {}", is_422 ? "4:2:2" : "4:2:0", form.layout);
+    if (!fits) throw Failure(Exit::usage, "a Y4M clip of {} cannot store {}", is_422 ? "4:2:2" : "4:2:0", form.layout);
     if (form.width % 2 != 0 || (!is_422 && form.height % 2 != 0))
         throw Failure(Exit::usage, "Y4M clips go through with even sizes alone");
 }
@@ -123,4 +123,4 @@ std::unique_ptr<FrameSink> y4m_sink(const std::filesystem::path& path, const Fra
     return std::make_unique<Y4mSink>(path, form, timing);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

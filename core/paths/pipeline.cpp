@@ -6,7 +6,7 @@
 #include <tbb/global_control.h>
 #include <tbb/parallel_pipeline.h>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 struct Frame {
@@ -45,11 +45,11 @@ int64_t run_pipeline(const Pipeline& pipeline, int jobs)
     return count;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 int64_t run_pipeline(const Pipeline& pipeline, int)
 {
@@ -59,6 +59,6 @@ int64_t run_pipeline(const Pipeline& pipeline, int)
     return count;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

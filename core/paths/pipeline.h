@@ -6,23 +6,17 @@
 #include <memory>
 #include <span>
 
-namespace tintvert::tool {
+#include "paths/frame_converter.h"
 
-// Turns one frame into another. Each is used by one frame at a time.
-class FrameConverter {
-public:
-    virtual ~FrameConverter() = default;
-    virtual std::span<uint8_t> input() = 0;
-    virtual std::span<const uint8_t> run() = 0;
-};
+namespace tintvert::core {
 
 struct Pipeline {
-    std::function<bool(std::span<uint8_t>)> read;  // false behind the last frame
+    std::function<bool(std::span<uint8_t>)> read;  // false at the end
     std::function<std::unique_ptr<FrameConverter>()> make_converter;
     std::function<void(std::span<const uint8_t>)> write;
 };
 
-// With `jobs` threads, and two frames for each of them in memory at the most. How many frames went through.
+// With `jobs` threads, and at most two frames for each of them in memory. Returns how many frames went through.
 int64_t run_pipeline(const Pipeline& pipeline, int jobs);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,6 +1,6 @@
 #include "paths/steps.h"
 
-namespace tintvert::tool::road {
+namespace tintvert::core::paths {
 namespace {
 
 using enum Matrix;
@@ -8,7 +8,7 @@ using enum Matrix;
 constexpr std::string_view filtered = "averaged over neighbouring pixels", dropped = "dropped",
                            averaged = "averaged over two lines";
 
-constexpr Step all[] = {
+constexpr StepRule all[] = {
     // RGB and YCbCr
     {.routine = "tntvt_rgb32_2vuy", .matrix = bt601, .chroma_by = filtered},
     {.routine = "argb_to_2vuy", .from = "abgr32", .matrix = bt601, .chroma_by = filtered},
@@ -76,6 +76,6 @@ constexpr Step all[] = {
 
 }  // namespace
 
-std::span<const Step> steps() { return all; }
+std::span<const StepRule> steps() { return all; }
 
-}  // namespace tintvert::tool::road
+}  // namespace tintvert::core::paths

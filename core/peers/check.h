@@ -5,11 +5,11 @@
 #include <string_view>
 #include <vector>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct PeerCheck {
     enum Direction { same, back };  // it does what the routine does, or takes the routine's result back
-    // Samples with all their bits, with their upper eight, or give or take 1; or bytes, whatever they hold.
+    // Samples with all their bits, with their upper eight, or give or take 1; or bytes, whatever they are.
     enum Depth { samples, upper8, within1, bytes };
 
     std::string_view routine, peer;
@@ -29,4 +29,4 @@ struct PeerVerdict {
 // One frame of noise through both.
 PeerVerdict verify_by_peer(const PeerCheck& check);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

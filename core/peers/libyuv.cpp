@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 struct Frames {
@@ -79,6 +79,8 @@ constexpr Function functions[] = {
 
 }  // namespace
 
+bool has_libyuv() { return true; }
+
 PeerAnswer answer_of_libyuv(const PeerQuestion& question)
 {
     const Function& function = *std::ranges::find(functions, question.asked, &Function::name);
@@ -88,14 +90,16 @@ PeerAnswer answer_of_libyuv(const PeerQuestion& question)
     return {.frame = std::move(result)};
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
-namespace tintvert::tool {
+namespace tintvert::core {
+
+bool has_libyuv() { return false; }
 
 PeerAnswer answer_of_libyuv(const PeerQuestion&) { return {.why_none = "libyuv not built in"}; }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

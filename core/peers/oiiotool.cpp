@@ -11,7 +11,7 @@
 #include "io/interrupt.h"
 #include "peers/process.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using Bytes = std::vector<uint8_t>;
@@ -90,4 +90,4 @@ PeerAnswer answer_of_oiiotool(const PeerQuestion& question)
                            written.begin() + static_cast<std::ptrdiff_t>(begin + count))};
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -9,12 +9,12 @@
 
 #include "samples.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct PeerQuestion {
     std::string_view peer, asked;
     std::string_view from, to;   // layouts
-    std::vector<uint8_t> frame;  // planes one behind the other, lines without slack
+    std::vector<uint8_t> frame;  // planes one after the other, lines without slack
     int64_t width, height;
 
     std::vector<catalog::PlacedPlane> planes(std::string_view layout) const;
@@ -30,4 +30,8 @@ PeerAnswer answer_of_oiiotool(const PeerQuestion& question);
 PeerAnswer answer_of_libyuv(const PeerQuestion& question);
 PeerAnswer answer_of_zimg(const PeerQuestion& question);
 
-}  // namespace tintvert::tool
+// Whether built with them.
+bool has_libyuv();
+bool has_zimg();
+
+}  // namespace tintvert::core

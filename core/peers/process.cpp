@@ -13,7 +13,7 @@
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 // A file without a name: it is gone when it is closed, however the tool ends.
@@ -104,4 +104,4 @@ PeerAnswer answer_of(const std::vector<std::string>& command, const std::vector<
     return {.why_none = fmt::format("{} ended with {}: {}", command[0], output.code, line)};
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 #include "peers/peer.h"
 #include "peers/process.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 // The catalogue's commands read the file `in` and write the file `out`; here both are pipes.
@@ -49,4 +49,4 @@ std::vector<std::string> command_of(const PeerQuestion& question)
 
 PeerAnswer answer_of_program(const PeerQuestion& question) { return answer_of(command_of(question), question.frame); }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

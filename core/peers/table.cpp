@@ -2,7 +2,7 @@
 #include "facts.h"
 #include "peers/check.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr std::string_view gstreamer = "gst-launch-1.0", oiiotool = "oiiotool", libyuv = "libyuv", zimg = "zimg";
@@ -91,4 +91,4 @@ std::vector<PeerCheck> peer_checks()
     return checks;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,12 +1,14 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <numeric>
 
-#include "calls/conversion.h"
+#include "geometry.h"
+#include "paths/frame_converter.h"
 #include "peers/check.h"
 #include "peers/peer.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 using Bytes = std::vector<uint8_t>;
@@ -25,7 +27,7 @@ Bytes noise(size_t count)
     return bytes;
 }
 
-// Nothing where no sample stands.
+// Zeros where there is no sample.
 void clear_unused(PeerQuestion* question)
 {
     for (const catalog::PlacedPlane& placed : question->planes(question->from))
@@ -36,26 +38,14 @@ void clear_unused(PeerQuestion* question)
                     catalog::store_sample(*placed.plane, field, question->frame.data() + at, 0);
 }
 
-Bytes joined(const std::vector<std::span<uint8_t>>& buffers)
-{
-    Bytes bytes;
-    for (const auto& buffer : buffers) bytes.insert(bytes.end(), buffer.begin(), buffer.end());
-    return bytes;
-}
-
 // Noise goes into the question, and what the routine makes of it comes back.
 Bytes through_routine(const catalog::Routine& routine, PeerQuestion* question)
 {
-    Conversion conversion(routine, catalog::plain_call(routine, {noise_width, noise_height}));
-    question->frame = noise(joined(conversion.inputs()).size());
+    const RoutineCall call = plan_call(routine, catalog::plain_call(routine, {noise_width, noise_height}));
+    const std::vector<int64_t> sizes = call.input_sizes();
+    question->frame = noise(static_cast<size_t>(std::accumulate(sizes.begin(), sizes.end(), int64_t{0})));
     if (routine.from != "none") clear_unused(question);
-    auto from = question->frame.begin();
-    for (const auto& buffer : conversion.inputs()) {
-        std::copy_n(from, buffer.size(), buffer.begin());
-        from += static_cast<std::ptrdiff_t>(buffer.size());
-    }
-    conversion.run();
-    return joined(conversion.outputs());
+    return convert_frame(call, question->frame);
 }
 
 PeerAnswer answer_to(const PeerQuestion& question)
@@ -115,4 +105,4 @@ PeerVerdict verify_by_peer(const PeerCheck& check)
     return compared(question, ours, *answer.frame, check.depth);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -10,7 +10,7 @@
 #include <memory>
 #include <stdexcept>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 template <class Value>
@@ -153,6 +153,8 @@ std::vector<uint8_t> by_curve(const PeerQuestion& question)
 
 }  // namespace
 
+bool has_zimg() { return true; }
+
 PeerAnswer answer_of_zimg(const PeerQuestion& question)
 try {
     if (question.asked == "linear to ST 2084") return {.frame = by_curve(question)};
@@ -161,14 +163,16 @@ try {
     return {.why_none = error.what()};
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
-namespace tintvert::tool {
+namespace tintvert::core {
+
+bool has_zimg() { return false; }
 
 PeerAnswer answer_of_zimg(const PeerQuestion&) { return {.why_none = "zimg not built in"}; }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

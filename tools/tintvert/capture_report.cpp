@@ -2,7 +2,10 @@
 
 #include <fmt/format.h>
 
-namespace tintvert::tool::capture {
+namespace tintvert::tool {
+
+using namespace core::capture;
+
 namespace {
 
 // Keys of the JSON, and the same in words; in the order of Refusal.
@@ -33,7 +36,7 @@ Json stream_to_json(const std::optional<Stream>& stream)
             {"payload_type", stream->payload_type}};
 }
 
-// A part of a list that is left out if there is nothing to tell.
+// A part of a list that is left out if there is nothing to report.
 std::string if_any(uint64_t count, std::string_view words)
 {
     return count == 0 ? "" : fmt::format(", {} {}", count, words);
@@ -122,4 +125,4 @@ std::string to_text(const Report& report)
     return text;
 }
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::tool

@@ -6,9 +6,9 @@
 #include "capture/report.h"
 #include "json.h"
 
-namespace tintvert::tool::capture {
+namespace tintvert::tool {
 
-Json to_json(const Report& report);
-std::string to_text(const Report& report);
+Json to_json(const capture::Report& report);
+std::string to_text(const capture::Report& report);
 
-}  // namespace tintvert::tool::capture
+}  // namespace tintvert::tool

@@ -27,20 +27,21 @@ void add_clip_options(CLI::App& app, ClipOptions& options)
 void add_sample_options(CLI::App& app, SampleOptions& options)
 {
     app.add_option("-l,--layout", options.layout,
-                   "what the frames hold, a name that `tintvert layouts` gives; files that tell theirs need none");
+                   "the layout of the frames, a name that `tintvert layouts` gives; not needed for files with a header "
+                   "that names it");
     add_clip_options(app, options.clip);
 }
 
-void add_routine_options(CLI::App& app, RoutineOptions& options)
+void add_routine_options(CLI::App& app, GivenArguments& options)
 {
-    app.add_option("-l,--layout", options.layout, "what frames hold, for routines that take any")
+    app.add_option("-l,--layout", options.layout, "the layout of the frames, for routines that take any")
         ->capture_default_str();
     for (const Routine& routine : catalog::routines()) {
         for (const Arg argument : routine.arguments) {
             const catalog::Argument& about = catalog::describe(argument);
             const std::string name = "--" + std::string{about.name};
-            const bool told_by_size = argument == Arg::width || argument == Arg::height || argument == Arg::pixels;
-            if (about.kind == catalog::Argument::buffer || argument == Arg::ignored || told_by_size) continue;
+            const bool given_by_size = argument == Arg::width || argument == Arg::height || argument == Arg::pixels;
+            if (about.kind == catalog::Argument::buffer || argument == Arg::ignored || given_by_size) continue;
             if (argument == Arg::stride || app.get_option_no_throw(name) != nullptr) continue;
             app.add_option_function<int64_t>(
                    name, [&options, argument](const int64_t& value) { options.numbers[argument] = value; },

@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "calls/rle8.h"
 #include "failure.h"
 #include "frame/memory.h"
 #include "geometry.h"
 #include "io/clip_options.h"
 #include "io/pictures/rgb_layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr uint32_t bi_rgb = 0, bi_rle8 = 1, bi_bitfields = 3;
@@ -52,14 +51,14 @@ Bmp read_header(InputFile& file)
     return bmp;
 }
 
-BmpRle8 coded_picture(const Bmp& bmp)
+CodedPicture coded_picture(const Bmp& bmp)
 {
     if (bmp.bits != 8 || bmp.coding != bi_rle8 || !bmp.bottom_up)
         throw bmp.broken("a BMP that is not run-length coded with 8 bits a pixel");
     const size_t colours = bmp.word(46) == 0 ? 256 : std::min<size_t>(bmp.word(46), 256);
     const size_t palette_at = file_header + bmp.header;
     if (palette_at + colours * 4 > bmp.bytes.size()) throw bmp.broken("a BMP that is cut short");
-    BmpRle8 result{bmp.width, bmp.height, std::vector<uint8_t>(1024), {}};
+    CodedPicture result{bmp.width, bmp.height, std::vector<uint8_t>(1024), {}};
     std::copy_n(bmp.bytes.begin() + static_cast<long>(palette_at), colours * 4, result.palette.begin());
     result.stream.assign(bmp.bytes.begin() + static_cast<long>(bmp.pixels_at), bmp.bytes.end());
     return result;
@@ -100,7 +99,7 @@ void put(std::vector<uint8_t>& bytes, size_t at, uint32_t word) { store(bytes.da
 
 }  // namespace
 
-BmpRle8 read_bmp_rle8(InputFile& file) { return coded_picture(read_header(file)); }
+CodedPicture read_bmp_rle8(InputFile& file) { return coded_picture(read_header(file)); }
 
 Picture read_bmp(InputFile& file)
 {
@@ -144,4 +143,4 @@ void write_bmp(OutputFile& file, const Picture& picture, bool alpha)
     file.write(lines.data(), lines.size());
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,6 +1,6 @@
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 Picture with_8_bits(const Picture& picture)
 {
@@ -19,4 +19,4 @@ bool is_opaque(const Picture& picture)
     return true;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 struct Picture {
     enum Depth { bits8 = 1, bits16 = 2 };  // bytes a sample; 16-bit samples are little-endian
@@ -35,4 +35,4 @@ Picture with_8_bits(const Picture& picture);
 
 bool is_opaque(const Picture& picture);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -8,14 +8,14 @@
 #include "io/pictures/pnm.h"
 #include "io/sources.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 void need_rgb(const FrameForm& form)
 {
-    if (!holds_picture(form.layout)) throw Failure(Exit::usage, "a picture file holds RGB, and not {}", form.layout);
+    if (!stores_picture(form.layout)) throw Failure(Exit::usage, "a picture file stores RGB, and not {}", form.layout);
     if (form.parts.size() != 1 || static_cast<int64_t>(form.bytes()) != form.stride * form.height)
-        throw Failure(Exit::usage, "a picture file holds one picture, which is not what this routine's {} is",
+        throw Failure(Exit::usage, "a picture file stores one picture, which is not what this routine's {} is",
                       form.layout);
 }
 
@@ -45,7 +45,7 @@ public:
         const std::unique_ptr<Picture> picture = take();
         if (!picture) return false;
         if (Size{picture->width, picture->height} != size_)
-            throw Failure(Exit::no_file, "{}: a picture of {}x{} behind one of {}x{}", name_, picture->width,
+            throw Failure(Exit::no_file, "{}: a picture of {}x{} after one of {}x{}", name_, picture->width,
                           picture->height, size_.width, size_.height);
         std::ranges::copy(frame_of_picture(*picture, form_.layout, form_.stride, form_.words), frame.begin());
         return true;
@@ -71,7 +71,7 @@ public:
         need_rgb(form);
         const auto fitting = layouts_of_format(format_);
         if (std::ranges::find(fitting, form.layout) == fitting.end())
-            throw Failure(Exit::usage, "a {} file holds 8 bits a channel, and {} has more", format_, form.layout);
+            throw Failure(Exit::usage, "a {} file stores 8 bits a channel, and {} has more", format_, form.layout);
         if (format_ != "png") file_ = std::make_unique<OutputFile>(path);
     }
 
@@ -79,7 +79,7 @@ public:
     {
         const bool is_one = format_ == "png" || format_ == "bmp";
         if (written_ && is_one)
-            throw Failure(Exit::usage, "a {} file holds one frame: choose it with --frames", format_);
+            throw Failure(Exit::usage, "a {} file stores one frame: choose it with --frames", format_);
         written_ = true;
         picture_ =
             picture_of_frame(frame.data(), form_.layout, form_.stride, form_.width, form_.height, form_.words, alpha_);
@@ -112,4 +112,4 @@ std::unique_ptr<FrameSink> picture_sink(const std::filesystem::path& path, const
     return std::make_unique<PictureSink>(path, form, options);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,4 +1,4 @@
-// libpng leaves its errors by longjmp, which runs no destructor. So the functions that set the jump hold
+// libpng leaves its errors by longjmp, which runs no destructor. So the functions that set the jump have
 // plain values only; everything with a destructor belongs to their callers.
 #include "io/pictures/png_file.h"
 
@@ -15,7 +15,7 @@
 #include "failure.h"
 #include "io/output_file.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 constexpr long most_pixels = 1L << 28;
@@ -180,24 +180,24 @@ void write_png(const std::filesystem::path& path, const Picture& picture)
     file.commit();
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #else
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 Picture read_png(InputFile& file)
 {
-    throw Failure(Exit::no_file, "cannot read {}: this build is without libpng, which reads PNG", file.name());
+    throw Failure(Exit::no_file, "cannot read {}: tintvert is built without libpng, which reads PNG", file.name());
 }
 
 void write_png(const std::filesystem::path& path, const Picture&)
 {
-    throw Failure(Exit::no_file, "cannot write {}: this build is without libpng, which writes PNG", path.string());
+    throw Failure(Exit::no_file, "cannot write {}: tintvert is built without libpng, which writes PNG", path.string());
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core
 
 #endif

@@ -9,7 +9,7 @@
 #include "frame/memory.h"
 #include "io/clip_options.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 struct Header {
@@ -39,7 +39,7 @@ int64_t number(const InputFile& file, const std::string& text)
     return value;
 }
 
-// A number and the one space behind it; comments run from # to the end of their line.
+// A number and the one space after it; comments run from # to the end of their line.
 int64_t ppm_number(InputFile& file)
 {
     std::string text;
@@ -91,7 +91,7 @@ std::unique_ptr<Picture> read_samples(InputFile& file, const Header& header)
     const bool deep = header.highest > 255;
     const size_t sample = deep ? 2 : 1, depth = static_cast<size_t>(header.depth);
     const unsigned highest = static_cast<unsigned>(header.highest), full = deep ? 65535 : 255;
-    if (file.lacks(header.width * header.height * header.depth * (deep ? 2 : 1)))
+    if (file.is_short_of(header.width * header.height * header.depth * (deep ? 2 : 1)))
         throw broken(file, "the file ends too early");
     auto picture = std::make_unique<Picture>(header.width, header.height, deep ? Picture::bits16 : Picture::bits8);
     std::vector<uint8_t> line(static_cast<size_t>(header.width) * depth * sample);
@@ -163,4 +163,4 @@ void write_pam(OutputFile& file, const Picture& picture, bool alpha)
     write_samples(file, picture, alpha ? 4 : 3);
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,4 +1,4 @@
-// PPM (P6) and PAM (P7, RGB and RGB_ALPHA) of 8 and 16 bits, one picture behind the other.
+// PPM (P6) and PAM (P7, RGB and RGB_ALPHA) of 8 and 16 bits, one picture after the other.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 #include "io/output_file.h"
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // The next picture; null at the end of the file. Samples are spread from the file's highest value to 255 or 65535.
 std::unique_ptr<Picture> read_pnm(InputFile& file);  // throws Failure
@@ -15,4 +15,4 @@ std::unique_ptr<Picture> read_pnm(InputFile& file);  // throws Failure
 void write_ppm(OutputFile& file, const Picture& picture);              // without alpha
 void write_pam(OutputFile& file, const Picture& picture, bool alpha);  // RGB_ALPHA if alpha is kept
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 std::vector<uint8_t> rgb32_of(const Picture& picture, long frame_width)
 {
@@ -36,4 +36,4 @@ Picture picture_of_rgb24(const uint8_t* frame, long stride, long width, long hei
     return picture;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -6,10 +6,10 @@
 
 #include "frame/memory.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
-// Where the channels stand in a pixel: places of red, green, blue and alpha, counted in samples; -1 for none.
+// Where the channels are in a pixel: places of red, green, blue and alpha, counted in samples; -1 for none.
 struct Channels {
     std::string_view layout;
     int sample_bytes, samples, red, green, blue, alpha;
@@ -131,7 +131,7 @@ long pixel_bytes(std::string_view layout)
 
 }  // namespace
 
-bool holds_picture(std::string_view layout)
+bool stores_picture(std::string_view layout)
 {
     return layout == "rgb16" || layout == "rgb10" || channels_of(layout) != nullptr;
 }
@@ -178,4 +178,4 @@ Picture picture_of_frame(const uint8_t* frame, std::string_view layout, long str
     return picture;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -7,10 +7,10 @@
 
 #include "io/pictures/picture.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // Whether a layout is one that a picture can be put into and taken out of.
-bool holds_picture(std::string_view layout);
+bool stores_picture(std::string_view layout);
 
 // Whether it has more than 8 bits a channel.
 bool is_deep(std::string_view layout);
@@ -29,4 +29,4 @@ std::vector<uint8_t> frame_of_picture(const Picture& picture, std::string_view l
 Picture picture_of_frame(const uint8_t* frame, std::string_view layout, long stride, long width, long height,
                          const Words& words, bool alpha);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

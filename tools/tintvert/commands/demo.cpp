@@ -25,7 +25,7 @@ struct Options {
     std::string input, output = "demo";
 };
 
-// The catalogue knows how far a call reaches, the last whole group included.
+// The catalogue knows what a call writes, the last whole group included.
 std::vector<uint8_t> buffer_for(const char* routine, const catalog::Arguments& call, Arg buffer)
 {
     for (const catalog::Touch& touch : catalog::find(routine)->extents(call))

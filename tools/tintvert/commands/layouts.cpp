@@ -8,7 +8,7 @@
 #include "commands.h"
 #include "inspect/layout_picture.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
 #include "options.h"
 
 namespace tintvert::tool {

@@ -10,7 +10,7 @@
 #include "commands.h"
 #include "io/pictures/png_file.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
 
 namespace tintvert::tool {
 namespace {

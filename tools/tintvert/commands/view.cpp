@@ -57,7 +57,7 @@ Command add_view(CLI::App& tool)
         ->required();
     add_sample_options(*app, options->samples);
     app->add_option("--width", options->width, "columns of the picture in the terminal")->check(CLI::Range(1, 10000));
-    app->add_option("--as", options->drawing, "how it is drawn; else what the terminal can, and blocks in a pipe")
+    app->add_option("--as", options->drawing, "how it is drawn; by default what the terminal can, and blocks in a pipe")
         ->check(CLI::IsMember(drawings));
     app->add_option("-o,--output", options->output, "a PNG to write instead");
     add_color_option(app, &options->color);

@@ -1,4 +1,4 @@
-#include "paths/road.h"
+#include "paths/path.h"
 
 #include <fmt/format.h>
 
@@ -6,12 +6,12 @@
 #include <deque>
 #include <optional>
 
+#include "capacity.h"
 #include "failure.h"
-#include "nearest.h"
-#include "paths/holds.h"
+#include "names.h"
 #include "paths/steps.h"
 
-namespace tintvert::tool::road {
+namespace tintvert::core::paths {
 namespace {
 
 // The weights of losses: each is worse than all milder ones together.
@@ -39,7 +39,7 @@ struct Place {
     std::string_view bytes;
     Picture picture;
     unsigned lost = 0;
-    Road road;
+    Path path;
 
     bool is_same(const Place& other) const
     {
@@ -50,7 +50,7 @@ struct Place {
 bool needs_another_matrix(Size size) { return size.width > 1024 || size.height > 576; }
 
 // Takes from `picture` what a layout has no room for, and says so.
-void fit(const Holds& into, std::string_view chroma_by, Place& place, std::vector<std::string>& words)
+void fit(const Capacity& into, std::string_view chroma_by, Place& place, std::vector<std::string>& words)
 {
     Picture& picture = place.picture;
     const std::string by = chroma_by.empty() ? "" : fmt::format(" ({})", chroma_by);
@@ -73,11 +73,11 @@ void fit(const Holds& into, std::string_view chroma_by, Place& place, std::vecto
     picture.chroma = std::min(picture.chroma, into.chroma);
 }
 
-Place after(const Place& before, const Step& step, Size size)
+Place after(const Place& before, const StepRule& step, Size size)
 {
     const catalog::Routine& routine = *catalog::find(step.routine);
     const std::string_view to = step.to.empty() ? routine.to : step.to;
-    const Holds& into = holds_of(to);
+    const Capacity& into = capacity_of(to);
     const bool to_rgb =
         into.bytes.find("rgb") != std::string_view::npos || into.bytes.find("bgr") != std::string_view::npos;
     Place place = before;
@@ -99,24 +99,24 @@ Place after(const Place& before, const Step& step, Size size)
     if (step.wraps) lose(wrapped, "colours outside the RGB cube wrap");
     fit(into, step.chroma_by, place, words);
     if (step.alpha_0) place.picture.alpha_0 = true;
-    place.road.stretches.push_back({&routine, step.from.empty() ? routine.from : step.from, to, std::move(words)});
+    place.path.steps.push_back({&routine, step.from.empty() ? routine.from : step.from, to, std::move(words)});
     return place;
 }
 
 // Every place that the picture can come to, nearest first. `rgb12` that is written has another order of bits than
-// `rgb12` that is read, so no road goes on from it.
+// `rgb12` that is read, so no path goes on from it.
 std::vector<Place> walk(const Start& start)
 {
-    const Holds& first = holds_of(start.layout);
+    const Capacity& first = capacity_of(start.layout);
     std::vector<Place> places;
     Place home{first.bytes, {first.bits, first.chroma, first.alpha && !start.opaque}, 0, {}};
-    home.road.from = start.layout;
+    home.path.from = start.layout;
     places.push_back(home);
     for (size_t i = 0; i < places.size(); ++i) {
         if (i > 0 && places[i].bytes == "rgb12") continue;
-        for (const Step& step : steps()) {
+        for (const StepRule& step : steps()) {
             const std::string_view from = step.from.empty() ? catalog::find(step.routine)->from : step.from;
-            if (holds_of(from).bytes != places[i].bytes) continue;
+            if (capacity_of(from).bytes != places[i].bytes) continue;
             Place next = after(places[i], step, start.size);
             const auto is_known = [&](const Place& known) { return known.is_same(next); };
             if (std::ranges::none_of(places, is_known)) places.push_back(std::move(next));
@@ -125,70 +125,69 @@ std::vector<Place> walk(const Start& start)
     return places;
 }
 
-// The place as a road to one layout: several names may share its bytes, and not all of them have alpha.
-Place at_layout(Place place, const Holds& layout)
+// The place as a path to one layout: several names may share its bytes, and not all of them have alpha.
+Place at_layout(Place place, const Capacity& layout)
 {
-    fit(layout, {}, place, place.road.beside);
-    if (layout.alpha && place.picture.alpha_0) place.road.beside.push_back("the alpha made is 0, transparent");
-    place.road.to = layout.layout;
-    place.road.alpha = place.picture.alpha;
+    fit(layout, {}, place, place.path.other_losses);
+    if (layout.alpha && place.picture.alpha_0) place.path.other_losses.push_back("the alpha made is 0, transparent");
+    place.path.to = layout.layout;
+    place.path.alpha = place.picture.alpha;
     return place;
 }
 
 }  // namespace
 
-std::vector<std::string> Road::losses() const
+std::vector<std::string> Path::losses() const
 {
     std::vector<std::string> all;
-    for (const Stretch& stretch : stretches) all.insert(all.end(), stretch.losses.begin(), stretch.losses.end());
-    all.insert(all.end(), beside.begin(), beside.end());
+    for (const Step& step : steps) all.insert(all.end(), step.losses.begin(), step.losses.end());
+    all.insert(all.end(), other_losses.begin(), other_losses.end());
     return all;
 }
 
-Road find_road(const Start& start, std::span<const std::string_view> to)
+Path find_path(const Start& start, std::span<const std::string_view> to)
 {
     const std::vector<Place> places = walk(start);
     std::optional<Place> best;
     const auto is_better = [&](const Place& place) {
         if (!best || place.lost != best->lost) return !best || place.lost < best->lost;
-        return place.road.stretches.size() < best->road.stretches.size();
+        return place.path.steps.size() < best->path.steps.size();
     };
     for (const std::string_view layout : to) {
-        const Holds& wanted = holds_of(layout);
+        const Capacity& wanted = capacity_of(layout);
         for (const Place& place : places) {
             if (place.bytes != wanted.bytes) continue;
             Place there = at_layout(place, wanted);
             if (is_better(there)) best = std::move(there);
         }
     }
-    if (best) return best->road;
-    throw Failure(Exit::usage, "no road leads from {} to {}; from there one comes to {}", start.layout,
-                  fmt::join(to, " or "), fmt::join(reachable(start.layout), ", "));
+    if (best) return best->path;
+    throw Failure(Exit::usage, "no conversion path leads from {} to {}; from {} there are paths to {}", start.layout,
+                  fmt::join(to, " or "), start.layout, fmt::join(reachable(start.layout), ", "));
 }
 
 std::vector<std::string_view> reachable(std::string_view from)
 {
     const std::vector<Place> places = walk({from});
     std::vector<std::string_view> names;
-    for (const Holds& layout : all_holds())
+    for (const Capacity& layout : capacities())
         if (std::ranges::find(places, layout.bytes, &Place::bytes) != places.end()) names.push_back(layout.layout);
     return names;
 }
 
-std::string to_text(const Road& road)
+std::string to_text(const Path& path)
 {
     std::string text;
     const auto joined = [](const std::vector<std::string>& losses) {
         return losses.empty() ? std::string("nothing lost") : fmt::format("{}", fmt::join(losses, "; "));
     };
-    for (const Stretch& stretch : road.stretches)
-        text +=
-            fmt::format("{} -> {}  {}  {}\n", stretch.from, stretch.to, stretch.routine->name, joined(stretch.losses));
-    if (road.stretches.empty())
-        text += fmt::format("{} -> {}  the same bytes  {}\n", road.from, road.to, joined(road.beside));
-    else if (!road.beside.empty())
-        text += fmt::format("{}  {}\n", road.to, joined(road.beside));
+    for (const Step& step : path.steps)
+        text += fmt::format("{} -> {}  {}  {}\n", step.from, step.to, step.routine->name, joined(step.losses));
+    if (path.steps.empty())
+        text += fmt::format("{} -> {}  the same bytes  {}\n", path.from, path.to, joined(path.other_losses));
+    else if (!path.other_losses.empty())
+        text += fmt::format("{}  {}\n", path.to, joined(path.other_losses));
     return text;
 }
 
-}  // namespace tintvert::tool::road
+}  // namespace tintvert::core::paths

@@ -8,7 +8,7 @@
 #include "catalog.h"
 #include "layouts.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 // "; did you mean 'x'?" for the candidate that is fewest edits away, or nothing if all are far. The prefix
 // of the library's names may be left out.
@@ -18,4 +18,4 @@ std::string suggestion(std::string_view typed, std::span<const std::string_view>
 const catalog::Routine& routine_named(const std::string& name);
 const catalog::Layout& layout_named(const std::string& name);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

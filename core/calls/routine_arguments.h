@@ -8,22 +8,22 @@
 #include "catalog.h"
 #include "geometry.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
-struct RoutineOptions {
+struct GivenArguments {
     std::map<catalog::Arg, int64_t> numbers;  // the arguments that were given
     std::string layout = "rgb32";             // of frames, for routines that take any
 };
 
 bool takes(const catalog::Routine& routine, catalog::Arg argument);
 
-// Whose lines --stride tells, where the routine has an argument of that name: the packed side of a pair, and both
+// Whose lines --stride is for, where the routine has an argument of that name: the packed side of a pair, and both
 // sides of routines that take any layout.
-std::string_view layout_of_stride(const catalog::Routine& routine, const RoutineOptions& options);
+std::string_view layout_of_stride(const catalog::Routine& routine, const GivenArguments& options);
 
 // A plain call with what was given, and with `stride` as the argument of that name if it is not 0. Throws Failure for
 // an argument that this routine does not take, and for a layout that does not exist.
-catalog::Arguments arguments_of(const catalog::Routine& routine, const RoutineOptions& options, int64_t width,
+catalog::Arguments arguments_of(const catalog::Routine& routine, const GivenArguments& options, int64_t width,
                                 int64_t height, int64_t stride);
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,11 +1,11 @@
-#include "calls/routine_options.h"
+#include "calls/routine_arguments.h"
 
 #include <algorithm>
 
 #include "failure.h"
-#include "nearest.h"
+#include "names.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 
 using catalog::Arg;
 using catalog::Routine;
@@ -15,13 +15,13 @@ bool takes(const Routine& routine, Arg argument)
     return std::ranges::find(routine.arguments, argument) != routine.arguments.end();
 }
 
-std::string_view layout_of_stride(const Routine& routine, const RoutineOptions& options)
+std::string_view layout_of_stride(const Routine& routine, const GivenArguments& options)
 {
     if (routine.from == "i420" || routine.from == "yv12") return routine.to;
     return routine.from == "none" ? options.layout : routine.from;
 }
 
-catalog::Arguments arguments_of(const Routine& routine, const RoutineOptions& options, int64_t width, int64_t height,
+catalog::Arguments arguments_of(const Routine& routine, const GivenArguments& options, int64_t width, int64_t height,
                                 int64_t stride)
 {
     layout_named(options.layout);
@@ -37,4 +37,4 @@ catalog::Arguments arguments_of(const Routine& routine, const RoutineOptions& op
     return call;
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

@@ -1,18 +1,18 @@
-#include "paths/holds.h"
+#include "capacity.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "failure.h"
 #include "layouts.h"
-#include "nearest.h"
+#include "names.h"
 
-namespace tintvert::tool::road {
+namespace tintvert::core {
 namespace {
 
 using enum Chroma;
 
-constexpr Holds holds[] = {
+constexpr Capacity table[] = {
     {"2vuy", "2vuy", 8, c422, false},           {"2yuv", "2vuy", 8, c422, false},
     {"yuv2", "yuv2", 8, c422, false},           {"yuvu", "yuv2", 8, c422, false},
     {"yuvs", "yuvs", 8, c422, false},           {"YUY2", "YUY2", 8, c422, false},
@@ -39,15 +39,15 @@ constexpr Holds holds[] = {
 
 }  // namespace
 
-std::span<const Holds> all_holds() { return holds; }
+std::span<const Capacity> capacities() { return table; }
 
-const Holds& holds_of(std::string_view layout)
+const Capacity& capacity_of(std::string_view layout)
 {
-    const auto found = std::ranges::find(holds, layout, &Holds::layout);
-    if (found != std::end(holds)) return *found;
+    const auto found = std::ranges::find(table, layout, &Capacity::layout);
+    if (found != std::end(table)) return *found;
     std::vector<std::string_view> names;
-    for (const Holds& each : holds) names.push_back(each.layout);
+    for (const Capacity& each : table) names.push_back(each.layout);
     throw Failure(Exit::usage, "there is no layout '{}'{}", layout, suggestion(layout, names));
 }
 
-}  // namespace tintvert::tool::road
+}  // namespace tintvert::core

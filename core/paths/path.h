@@ -9,19 +9,19 @@
 #include "catalog.h"
 #include "io/clip_options.h"
 
-namespace tintvert::tool::road {
+namespace tintvert::core::paths {
 
-struct Stretch {
+struct Step {
     const catalog::Routine* routine;
     std::string_view from, to;
     std::vector<std::string> losses;  // in words
 };
 
-struct Road {
+struct Path {
     std::string_view from, to;
-    std::vector<Stretch> stretches;   // none if the two layouts have the same bytes
-    std::vector<std::string> beside;  // what is lost outside of the steps: in files, and by a name without alpha
-    bool alpha = false;               // whether the alpha of the start is still there
+    std::vector<Step> steps;                // none if the two layouts have the same bytes
+    std::vector<std::string> other_losses;  // what is lost outside of the steps: in files, and by a name without alpha
+    bool alpha = false;                     // whether the alpha of the start is still there
 
     std::vector<std::string> losses() const;
 };
@@ -32,15 +32,15 @@ struct Start {
     Size size = {};       // {} if it is not known: then any matrix does
 };
 
-// The road that loses least and, of those, the shortest; where several are, the first by the order of the steps. The
+// The path that loses least and, of those, the shortest; where several are, the first by the order of the steps. The
 // losses from the worst to the mildest: colour, a matrix for another size, wrapped colours, chroma across, chroma
-// down, a matrix, low bits, alpha, range. Throws Failure (usage) if no road leads to any of the layouts.
-Road find_road(const Start& start, std::span<const std::string_view> to);
+// down, a matrix, low bits, alpha, range. Throws Failure (usage) if no path leads to any of the layouts.
+Path find_path(const Start& start, std::span<const std::string_view> to);
 
 // The layouts that can be reached, in the order of the catalogue.
 std::vector<std::string_view> reachable(std::string_view from);
 
 // One line for each step: the routine, its layouts and what is lost.
-std::string to_text(const Road& road);
+std::string to_text(const Path& path);
 
-}  // namespace tintvert::tool::road
+}  // namespace tintvert::core::paths

@@ -1,4 +1,4 @@
-#include "nearest.h"
+#include "names.h"
 
 #include <fmt/format.h>
 
@@ -9,7 +9,7 @@
 
 #include "failure.h"
 
-namespace tintvert::tool {
+namespace tintvert::core {
 namespace {
 
 // Single characters inserted, left out or replaced.
@@ -61,4 +61,4 @@ const catalog::Layout& layout_named(const std::string& name)
     throw Failure(Exit::usage, "there is no layout '{}'{}", name, suggestion(name, names));
 }
 
-}  // namespace tintvert::tool
+}  // namespace tintvert::core

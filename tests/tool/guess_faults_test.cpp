@@ -55,7 +55,9 @@ TEST_F(Guessing, a_pipe)
         dup2(ends[0], STDIN_FILENO);
     });
     EXPECT_EQ(result.code, 2);
-    EXPECT_EQ(result.err, "tintvert: guess needs the length of a file, and that of standard input is not known: save it as a file first\n");
+    EXPECT_EQ(result.err,
+              "tintvert: guess needs the length of a file, and that of standard input is not known: save it as a file "
+              "first\n");
     EXPECT_EQ(result.out, "");
 }
 

@@ -1,5 +1,5 @@
 // A file as a BMP picture, run-length coded ones among them.
-#include "bmp.h"
+#include "io/pictures/bmp.h"
 
 #include "failure.h"
 #include "frame/memory.h"
@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 
 // A run-length coded picture is as large as its header says, however short its stream is; large ones are right and
 // slow.

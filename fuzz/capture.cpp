@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 using tintvert::fuzz::must;
 
 void run(tintvert::fuzz::Input& input)
@@ -28,7 +28,7 @@ void run(tintvert::fuzz::Input& input)
     uint64_t frames = 0;
     capture::Walker walker(options, [&](const capture::Frame& frame) {
         ++frames;
-        must(frame.is_whole() == (frame.missing_pixels() == 0), "a whole frame lacks nothing");
+        must(frame.is_whole() == (frame.missing_pixels() == 0), "a whole frame misses nothing");
         must(frame.whole_lines() <= frame.size().height, "there are no more lines than the frame has");
     });
     for (capture::Datagram datagram; source->next(datagram);) {

@@ -57,7 +57,7 @@ struct Touch {
     }
 };
 
-Range range_of(checked::Range reported) { return {reported.from, reported.to}; }
+Range range_of(checked::Range range) { return {range.from, range.to}; }
 
 Arg argument_of(const char* name)
 {
@@ -103,7 +103,7 @@ private:
     size_t lead() const { return way_ >> 3 & 7; }
     const char* name() const { return routine().name.data(); }
 
-    // A block that frees what is in it is given nulls.
+    // A routine that frees pointers is given nulls.
     std::span<const uint8_t> pattern() const
     {
         return routine().name == "free_own_cache_lines" ? std::span<const uint8_t>() : input_.rest();
@@ -196,7 +196,7 @@ private:
         make();
     }
 
-    // Which buffers are one follows from their addresses, so the question is asked with such.
+    // Buffers are the same if their addresses are, so the call has addresses.
     void together()
     {
         constexpr int64_t base = int64_t{1} << 40;

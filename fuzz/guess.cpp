@@ -1,7 +1,7 @@
 // What a file of raw frames may contain, by its name, its length and its bytes.
 //
 //     length, three bytes   length of the name   name   bytes that fill the file, repeated
-#include "guess.h"
+#include "inspect/guess.h"
 
 #include <stdlib.h>
 
@@ -52,9 +52,9 @@ void run(fuzz::Input& input)
     const auto length = static_cast<size_t>(input.little_endian(3)) % (1 << 14) + 1;
     const std::filesystem::path path = folder.path / name_of(input);
     std::filesystem::create_symlink(fuzz::memory_file(bytes_of(input, length)), path);
-    tool::InputFile file(path);
+    core::InputFile file(path);
     std::filesystem::remove(path);
-    for (const tool::Guess& guess : tool::guesses(file)) {
+    for (const core::Guess& guess : core::guesses(file)) {
         const auto& layout = *catalog::find_layout(guess.form->layout);
         const int64_t bytes = catalog::frame_bytes(layout, guess.width, guess.height);
         fuzz::must(bytes > 0 && guess.frames * bytes == static_cast<int64_t>(length), "a guess makes the whole file");
@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     fuzz::Input input(data, size);
     try {
         run(input);
-    } catch (const tool::Failure&) {
+    } catch (const core::Failure&) {
     }
     return 0;
 }

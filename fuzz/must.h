@@ -1,4 +1,4 @@
-// What has to be true. The sanitizers and libFuzzer report everything else.
+// What has to be true. The sanitizers and libFuzzer find everything else.
 #pragma once
 
 #include <cstdio>
@@ -6,10 +6,10 @@
 
 namespace tintvert::fuzz {
 
-inline void must(bool holds, const char* what, const char* about = "")
+inline void must(bool is_true, const char* what, const char* about = "")
 {
-    if (holds) return;
-    std::fprintf(stderr, "does not hold: %s%s%s\n", what, *about == 0 ? "" : ": ", about);
+    if (is_true) return;
+    std::fprintf(stderr, "is not true: %s%s%s\n", what, *about == 0 ? "" : ": ", about);
     std::abort();
 }
 

@@ -3,13 +3,13 @@
 #include <cctype>
 #include <string>
 
+#include "inspect/name_hints.h"
 #include "must.h"
-#include "name_hints.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     using tintvert::fuzz::must;
-    const auto hints = tintvert::tool::hints_of(std::string(data, data + size));
+    const auto hints = tintvert::core::hints_of(std::string(data, data + size));
     must(hints.sizes.size() <= hints.words.size(), "a size is a word");
     for (const auto& [width, height] : hints.sizes)
         must(width > 0 && height > 0 && width < 65536 && height < 65536, "a size is sane");

@@ -3,15 +3,15 @@
 //     layout   text
 #include <string>
 
-#include "clip_options.h"
 #include "failure.h"
 #include "input.h"
+#include "io/clip_options.h"
 #include "layouts.h"
 #include "must.h"
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 using tintvert::fuzz::must;
 
 template <class Read>

@@ -1,5 +1,5 @@
-// A file as PPM and PAM pictures, one behind the other.
-#include "pnm.h"
+// A file as PPM and PAM pictures, one after the other.
+#include "io/pictures/pnm.h"
 
 #include "failure.h"
 #include "memory_file.h"
@@ -7,7 +7,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    using namespace tintvert::tool;
+    using namespace tintvert::core;
     try {
         InputFile file(tintvert::fuzz::memory_file({data, size}));
         while (const auto picture = read_pnm(file))

@@ -42,7 +42,7 @@ void run(RoutineId id, const catalog::Arguments& numbers, const catalog::RleScan
 {
     must(scan.stream.end <= static_cast<int64_t>(stream.size()), "a scan stays in its stream");
     if (!scan.ends) {
-        must(scan.wanted >= stream.size(), "a stream that runs out wants a byte behind it");
+        must(scan.wanted >= stream.size(), "a truncated stream needs a byte past its end");
         return;
     }
     if (scan.written.end - scan.written.begin > most_bytes) return;
@@ -50,7 +50,7 @@ void run(RoutineId id, const catalog::Arguments& numbers, const catalog::RleScan
     if (scan.written.empty()) return;
     const auto last = scan.written.end - scan.written.begin - 1;
     must(on_black.bytes()[0] == on_white.bytes()[0] && on_black.bytes()[last] == on_white.bytes()[last],
-         "the first and the last byte that a scan tells are written");
+         "the first and the last byte of a scan's range are written");
 }
 
 }  // namespace

@@ -1,14 +1,14 @@
 // A file as a Y4M clip: its header, and its frames read and skipped by turns.
-#include "y4m.h"
+#include "io/y4m.h"
 
 #include "failure.h"
+#include "io/sources.h"
 #include "memory_file.h"
 #include "must.h"
-#include "sources.h"
 
 namespace {
 
-using namespace tintvert::tool;
+using namespace tintvert::core;
 
 void run(std::span<const uint8_t> bytes)
 {
@@ -24,7 +24,7 @@ void run(std::span<const uint8_t> bytes)
     const int64_t expected = clip->expect(form, 0);
     int64_t there = 0;
     while (there % 3 == 1 ? clip->skip() : clip->read(frame)) ++there;
-    tintvert::fuzz::must(there == expected, "there are as many frames as were expected");
+    tintvert::fuzz::must(there == expected, "there are as many frames as expected");
 }
 
 }  // namespace

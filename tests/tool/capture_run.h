@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "tool/packet_maker.h"
+#include "support/packet_maker.h"
 #include "tool/run.h"
 
 namespace tintvert::test {

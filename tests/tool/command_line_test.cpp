@@ -26,10 +26,10 @@ TEST(CommandLine, helps_in_words)
     const std::string all = run({"--help"}).out;
     EXPECT_NE(all.find("Usage: tintvert [OPTIONS] COMMAND\n"), std::string::npos);
     EXPECT_NE(all.find("\n\nCommands:\n  bits "), std::string::npos);
-    EXPECT_TRUE(all.ends_with("\n\n`tintvert COMMAND --help` tells the options of a command.\n")) << all;
+    EXPECT_TRUE(all.ends_with("\n\n`tintvert COMMAND --help` lists the options of a command.\n")) << all;
     const std::string view = run({"view", "--help"}).out;
     EXPECT_NE(view.find("  -s,--size WxH               width and height of raw frames"), std::string::npos) << view;
-    EXPECT_NE(view.find("  --color auto|always|never (else auto)\n"), std::string::npos) << view;
+    EXPECT_NE(view.find("  --color auto|always|never (default auto)\n"), std::string::npos) << view;
     EXPECT_NE(run({"bits", "--help"}).out.find("  --at X,Y (required)         the pixel"), std::string::npos);
     EXPECT_NE(run({"capture", "--help"}).out.find("  --interlaced[=field|frame]  weave"), std::string::npos);
     for (const char* command : {"bits", "capture", "compare", "completions", "convert", "demo", "explain", "guess",
@@ -43,8 +43,8 @@ TEST(CommandLine, helps_in_words)
 
 TEST(CommandLine, says_where_the_help_is)
 {
-    EXPECT_TRUE(run({"view"}).err.ends_with(" (tintvert view --help tells more)\n")) << run({"view"}).err;
-    EXPECT_TRUE(run({"veiw"}).err.ends_with(" (tintvert --help tells more)\n"));
+    EXPECT_TRUE(run({"view"}).err.ends_with(" (see tintvert view --help)\n")) << run({"view"}).err;
+    EXPECT_TRUE(run({"veiw"}).err.ends_with(" (see tintvert --help)\n"));
 }
 
 TEST(CommandLine, refuses_what_makes_no_sense)

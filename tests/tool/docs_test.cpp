@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "support/packet_maker.h"
 #include "tool/noise.h"
-#include "tool/packet_maker.h"
 #include "tool/png_maker.h"
 #include "tool/run.h"
 

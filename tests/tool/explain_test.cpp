@@ -28,7 +28,7 @@ TEST_F(Explain, text)
     EXPECT_EQ(result.code, 0) << result.err;
     for (const char* line :
          {"tntvt_v210_2vuy(dst, src, width 1280, height 720, srcStride 3456)\n", "reads         2488320 bytes, v210\n",
-          "writes        1843200 bytes, 2vuy\n", "  2564 behind the picture\n", "  keeps_double_length_lines\n",
+          "writes        1843200 bytes, 2vuy\n", "  2564 past its end\n", "  keeps_double_length_lines\n",
           "\npeer, with the same bytes\n  gst-launch-1.0 filesrc location=in '!' rawvideoparse "
           "format=v210 width=1280 height=720 '!' "})
         EXPECT_NE(result.out.find(line), std::string::npos) << result.out;

@@ -30,22 +30,7 @@ TEST_F(Guessing, name_and_length)
     EXPECT_EQ(best["width"], 96);
     EXPECT_EQ(best["height"], 54);
     EXPECT_EQ(best["frames"], 2);
-}
-
-TEST_F(Guessing, picture_alone)
-{
-    for (const std::string layout : {"v210", "rgb24", "i420"}) {
-        save("file", raw_frame(layout, 352, 288, slope));
-        const Json told = Json::parse(run({"guess", path("file"), "--json"}).out);
-        bool is_there = false;
-        for (size_t i = 0; i < std::min<size_t>(told["guesses"].size(), 6); ++i) {
-            const Json& guess = told["guesses"][i];
-            const bool same =
-                guess["layout"] == layout || guess["same_bytes"].dump().find('"' + layout + '"') != std::string::npos;
-            is_there = is_there || (same && guess["width"] == 352);
-        }
-        EXPECT_TRUE(is_there) << told;
-    }
+    EXPECT_TRUE(best["same_bytes"].is_array());
 }
 
 TEST_F(Guessing, nothing_fits)
@@ -70,7 +55,9 @@ TEST_F(Guessing, a_pipe)
         dup2(ends[0], STDIN_FILENO);
     });
     EXPECT_EQ(result.code, 2);
-    EXPECT_EQ(result.err, "tintvert: guess goes by the length of a file, and standard input does not tell its own\n");
+    EXPECT_EQ(result.err,
+              "tintvert: guess needs the length of a file, and that of standard input is not known: save it as a file "
+              "first\n");
     EXPECT_EQ(result.out, "");
 }
 

@@ -2,8 +2,8 @@
 #include <linux/securebits.h>
 #include <sys/prctl.h>
 
+#include "support/packet_maker.h"
 #include "tool/noise.h"
-#include "tool/packet_maker.h"
 #include "tool/png_maker.h"
 #include "tool/run.h"
 

@@ -1,4 +1,4 @@
-// PPM, PAM, BMP and PNG: what goes in comes out, and what is broken is told.
+// PPM, PAM, BMP and PNG: what goes in comes out, and what is malformed is reported.
 #include "support/random.h"
 #include "tool/pam.h"
 #include "tool/run.h"
@@ -33,7 +33,7 @@ TEST_F(PictureFiles, pictures_of_8_and_16_bits_come_back)
     }
     const Result deep = run({"convert", path("in.pam"), path("deep.bmp"), "--to", "rgba64"});
     EXPECT_EQ(deep.code, 2);
-    EXPECT_NE(deep.err.find("holds 8 bits"), std::string::npos) << deep.err;
+    EXPECT_NE(deep.err.find("stores 8 bits"), std::string::npos) << deep.err;
 }
 
 TEST_F(PictureFiles, a_ppm_byte_for_byte)

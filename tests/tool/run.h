@@ -1,4 +1,4 @@
-// Runs the built tool, and keeps a folder for what it writes.
+// Runs the built tool.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,13 +8,11 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
-#include <set>
 #include <string>
 #include <vector>
+
+#include "support/folder.h"
 
 namespace tintvert::test {
 
@@ -82,42 +80,6 @@ inline Result run(std::vector<std::string> arguments, const std::function<void()
     return Process(std::move(arguments), in_child).wait();
 }
 
-// A folder of the test's own.
-class ToolTest : public testing::Test {
-protected:
-    ~ToolTest() override { std::filesystem::remove_all(folder_); }
-
-    std::string path(const std::string& name) const { return (folder_ / name).string(); }
-
-    void save(const std::string& name, const std::string& bytes) const
-    {
-        std::ofstream(path(name), std::ios::binary) << bytes;
-    }
-
-    std::string load(const std::string& name) const
-    {
-        std::ifstream file(path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    // Hidden ones too; nothing for a folder that is not there.
-    std::set<std::string> files_in(const std::string& name) const
-    {
-        std::set<std::string> names;
-        std::error_code none;
-        for (const auto& entry : std::filesystem::directory_iterator(path(name), none))
-            names.insert(entry.path().filename().string());
-        return names;
-    }
-
-private:
-    static std::string fresh_folder()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "tintvert-XXXXXX").string();
-        return mkdtemp(name.data());
-    }
-
-    std::filesystem::path folder_ = fresh_folder();
-};
+using ToolTest = FolderTest;
 
 }  // namespace tintvert::test

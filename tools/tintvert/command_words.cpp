@@ -8,7 +8,7 @@
 
 #include "catalog.h"
 #include "layouts.h"
-#include "routine_options.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -23,7 +23,7 @@ std::vector<std::string> choices_of(const std::string& name)
     return {};
 }
 
-// And what stands behind a name of the catalogue.
+// And the names of the catalogue.
 std::vector<std::string> values_of(const std::string& name)
 {
     std::vector<std::string> values = choices_of(name);

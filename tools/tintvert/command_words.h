@@ -21,7 +21,7 @@ struct CommandWords {
     std::vector<std::string> positional_values;                    // of the first; empty for files
 };
 
-// What stands for an option's value: its choices, or a word.
+// The placeholder of an option's value: its choices, or a word.
 std::string value_word(const CLI::Option& option);
 
 std::vector<CommandWords> command_words(const CLI::App& tool);

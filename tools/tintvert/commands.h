@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 
+#include "core.h"
 #include "failure.h"
 
 namespace tintvert::tool {

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "command_words.h"
-#include "routine_options.h"
+#include "options.h"
 
 namespace tintvert::tool {
 
@@ -26,7 +26,7 @@ std::string Help::make_option_opts(const CLI::Option* option) const
     if (!option->get_option_text().empty()) return option->get_option_text();
     std::string text = value_word(*option);
     if (!text.empty()) text = " " + text;
-    if (!option->get_default_str().empty()) text += fmt::format(" (else {})", option->get_default_str());
+    if (!option->get_default_str().empty()) text += fmt::format(" (default {})", option->get_default_str());
     return option->get_required() ? text + " (required)" : text;
 }
 

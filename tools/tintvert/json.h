@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "catalog.h"
+#include "core.h"
 
 namespace tintvert::tool {
 

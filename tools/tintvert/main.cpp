@@ -14,8 +14,8 @@
 
 #include "commands.h"
 #include "help.h"
-#include "interrupt.h"
-#include "nearest.h"
+#include "io/interrupt.h"
+#include "names.h"
 #include "version.h"
 
 namespace tintvert::tool {
@@ -76,14 +76,14 @@ Exit run(int argc, char** argv)
     std::vector<Command> commands;
     for (const auto add : adders) commands.push_back(add(tool));
     for (const Command& command : commands) command.app->group("Commands");
-    tool.footer("`tintvert COMMAND --help` tells the options of a command.");
+    tool.footer("`tintvert COMMAND --help` lists the options of a command.");
     try {
         tool.parse(argc, argv);
     } catch (const CLI::Success& asked_for_help_or_version) {
         tool.exit(asked_for_help_or_version);
         return Exit::done;
     } catch (const CLI::ParseError& error) {
-        throw Failure(Exit::usage, "{} ({} --help tells more)", complaint(error, argc, argv, commands),
+        throw Failure(Exit::usage, "{} (see {} --help)", complaint(error, argc, argv, commands),
                       named(argc, argv, commands));
     }
     for (const Command& command : commands)

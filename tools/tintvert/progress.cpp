@@ -20,15 +20,15 @@ Progress::Progress(int64_t frames, bool quiet)
 
 Progress::~Progress()
 {
-    if (shown_ && told_ > 0) fmt::print(stderr, "\n");
+    if (shown_ && last_shown_ > 0) fmt::print(stderr, "\n");
 }
 
 // Ten times a second, and at the end.
 void Progress::done(int64_t frames)
 {
     const double time = now();
-    if (!shown_ || (time - told_ < 0.1 && frames != frames_)) return;
-    told_ = time;
+    if (!shown_ || (time - last_shown_ < 0.1 && frames != frames_)) return;
+    last_shown_ = time;
     constexpr int64_t width = 40;
     const double seconds = time - begun_, rate = seconds > 0 ? static_cast<double>(frames) / seconds : 0;
     if (frames_ < 0) {

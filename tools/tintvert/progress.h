@@ -7,14 +7,14 @@ namespace tintvert::tool {
 
 class Progress {
 public:
-    explicit Progress(int64_t frames, bool quiet = false);  // -1 if only their end will tell
+    explicit Progress(int64_t frames, bool quiet = false);  // -1 if that is not known before their end
     ~Progress();
     void done(int64_t frames);
 
 private:
     int64_t frames_;
     bool shown_;
-    double begun_, told_ = 0;
+    double begun_, last_shown_ = 0;
 };
 
 }  // namespace tintvert::tool

@@ -20,7 +20,7 @@ InPlaceWords in_place_of(const catalog::Routine& routine)
         case catalog::InPlace::as_apart:
             return {"as_apart", "yes: the same bytes as with two frames"};
         case catalog::InPlace::in_its_way:
-            return {"in_its_way", "in its own way, which the header tells"};
+            return {"in_its_way", "in its own way, see the header"};
         case catalog::InPlace::untold:
             break;
     }

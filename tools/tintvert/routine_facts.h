@@ -6,7 +6,7 @@
 
 namespace tintvert::tool {
 
-// The command for frames of this size; W x H as it stands for one of 0 x 0.
+// The command for frames of this size; W x H unchanged for one of 0 x 0.
 std::string peer_command_at(const catalog::Peer& peer, int64_t width, int64_t height);
 
 Json peer_to_json(const catalog::Routine& routine, int64_t width, int64_t height);

@@ -1,4 +1,4 @@
-// What --version tells: the version, and what the tool was built with.
+// What --version prints: the version, and what the tool was built with.
 #pragma once
 
 #include <string>

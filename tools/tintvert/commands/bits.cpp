@@ -5,11 +5,11 @@
 #include <charconv>
 #include <memory>
 
-#include "color.h"
 #include "commands.h"
-#include "frame_shape.h"
+#include "inspect/frame_shape.h"
+#include "inspect/layout_picture.h"
 #include "json.h"
-#include "layout_picture.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -43,7 +43,7 @@ Point point_of(const std::string& text, const FrameShape& shape)
     return point;
 }
 
-// A unit that holds samples of the pixel.
+// A unit with samples of the pixel.
 struct Unit {
     const PlacedPlane* placed;
     int64_t offset;  // in the frame
@@ -88,7 +88,7 @@ std::string name_of(const Unit& unit, const Sample& sample)
     return fmt::format("{}{}", sample.component, unit.pixel + sample.pixel);
 }
 
-// One line a word: where its bytes stand, the bytes, and its fields from the highest bit down.
+// One line a word: where its bytes are, the bytes, and its fields from the highest bit down.
 void print_word(const Unit& unit, int word, const uint8_t* bytes, const Point& point, const FrameShape& shape,
                 int64_t file_offset, const Painter& paint)
 {

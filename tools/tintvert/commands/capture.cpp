@@ -4,12 +4,12 @@
 #include <memory>
 
 #include "capture/missing_picture.h"
-#include "capture/report.h"
-#include "clip_options.h"
+#include "capture_report.h"
 #include "commands.h"
+#include "io/clip_options.h"
+#include "io/output_file.h"
+#include "io/pictures/png_file.h"
 #include "json.h"
-#include "output_file.h"
-#include "png_file.h"
 
 namespace tintvert::tool {
 namespace {
@@ -88,7 +88,7 @@ capture::Report walk(const Options& options)
     capture::WalkerOptions walker_options{size, scan};
     if (options.port != 0) walker_options.port = options.port;
     if (walker_options.port && !source->has_ports())
-        throw Failure(Exit::usage, "{} has RFC 4571 framing, which tells no --port", options.input);
+        throw Failure(Exit::usage, "{} has RFC 4571 framing, which has no ports: leave out --port", options.input);
 
     Frames frames(options);
     capture::Walker walker(walker_options, [&](const capture::Frame& frame) { frames.take(frame); });
@@ -118,9 +118,9 @@ Exit run(const Options& options)
         fmt::print("{}\n", to_json(report).dump(2, ' ', false, Json::error_handler_t::replace));
     else
         fmt::print(stderr, "{}", to_text(report));
-    if (!report.stream) throw Failure(Exit::no_file, "{} holds no RTP packet with 10-bit video", options.input);
+    if (!report.stream) throw Failure(Exit::no_file, "{} has no RTP packet with 10-bit video", options.input);
     if (report.frames.written == 0)
-        throw Failure(Exit::no_file, "{} holds no {}frame of {}; nothing is written", options.input,
+        throw Failure(Exit::no_file, "{} has no {}frame of {}; nothing is written", options.input,
                       options.keeps_incomplete ? "" : "whole ", options.size);
     return report.is_complete() ? Exit::done : Exit::differs;
 }
@@ -132,7 +132,7 @@ Command add_capture(CLI::App& tool)
     CLI::App* const app = tool.add_subcommand("capture", "RTP packets with 10-bit 4:2:2 (RFC 4175) to v210 frames.");
     const auto options = std::make_shared<Options>();
     app->add_option("capture", options->input, "a pcap, or RTP packets with RFC 4571 framing")->required();
-    app->add_option("output", options->output, "the v210 frames, one behind the other")->required();
+    app->add_option("output", options->output, "the v210 frames, one after the other")->required();
     app->add_option("-s,--size", options->size, "width and height of a frame, such as 1920x1080")->required();
     app->add_option("--port", options->port, "in a pcap, the UDP port that the video was sent to")
         ->check(CLI::Range(1, 65535));
@@ -143,7 +143,7 @@ Command add_capture(CLI::App& tool)
     app->add_flag("--keep-incomplete", options->keeps_incomplete,
                   "write frames with missing samples too, which are 0 there");
     app->add_option("--missing", options->missing,
-                    "a PNG of the frame that lacks most, in grey, with magenta where samples are missing");
+                    "a PNG of the frame that misses most, in grey, with magenta where samples are missing");
     app->add_flag("--json", options->json, "the report on stdout as JSON instead of text on stderr");
     return {app, [options] { return run(*options); }};
 }

@@ -7,9 +7,10 @@
 #include <optional>
 
 #include "commands.h"
+#include "inspect/sample_difference.h"
+#include "io/pictures/png_file.h"
 #include "json.h"
-#include "png_file.h"
-#include "sample_difference.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -115,13 +116,13 @@ void print_text(const Options& options, const Comparison& result, const SampleDi
                    own.largest, own.mean(), std::isinf(own.psnr()) ? "inf" : fmt::format("{:.2f}", own.psnr()));
 }
 
-// What both files say they hold, unless --layout says it.
+// The layout that both files name, unless --layout names one.
 std::string layout_of(const Options& options, const Clip& one, const Clip& other)
 {
     if (!options.samples.layout.empty()) return options.samples.layout;
     if (one.layout().empty() || other.layout().empty()) return one.layout().empty() ? other.layout() : one.layout();
     if (one.layout() != other.layout())
-        throw Failure(Exit::usage, "{} holds {}, and {} {}: give --layout LAYOUT", one.name(), one.layout(),
+        throw Failure(Exit::usage, "{} has frames of {}, and {} of {}: give --layout LAYOUT", one.name(), one.layout(),
                       other.name(), other.layout());
     return one.layout();
 }
@@ -159,7 +160,7 @@ Exit run(const Options& options)
         if (!options.picture.empty() && (result.frames == 0 || is_first))
             result.picture = difference_picture(shape, a, b);
     }
-    if (result.frames == 0) throw Failure(Exit::unsafe, "{} holds no frame", one.name());
+    if (result.frames == 0) throw Failure(Exit::unsafe, "{} has no frame", one.name());
     if (result.picture) write_png(options.picture, *result.picture);
     const bool equal = !samples.first() && (!options.exact || result.different_bytes == 0);
     if (options.json)
@@ -180,7 +181,7 @@ Command add_compare(CLI::App& tool)
     app->add_option("other", options->other, "another")->required();
     add_sample_options(*app, options->samples);
     app->add_option("--picture", options->picture, "a PNG of the first frame that differs: where, and how far");
-    app->add_flag("--exact", options->exact, "every byte counts, those that hold no sample too");
+    app->add_flag("--exact", options->exact, "every byte counts, those of no sample too");
     app->add_flag("--json", options->json, "JSON instead of text");
     return {app, [options] { return run(*options); }};
 }

@@ -1,4 +1,4 @@
-// tintvert convert: frames from file to file, through one routine or along a road of routines.
+// tintvert convert: frames from file to file, through one routine or along a conversion path.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -6,18 +6,20 @@
 #include <thread>
 #include <vector>
 
-#include "calls.h"
+#include "calls/rle8.h"
+#include "capacity.h"
 #include "catalog.h"
 #include "commands.h"
-#include "frames.h"
 #include "geometry.h"
+#include "io/frames.h"
+#include "io/pictures/bmp.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
+#include "options.h"
+#include "paths/frame_forms.h"
+#include "paths/path.h"
+#include "paths/pipeline.h"
 #include "progress.h"
-#include "rle8.h"
-#include "road/holds.h"
-#include "road/road.h"
-#include "routine_job.h"
 
 namespace tintvert::tool {
 namespace {
@@ -27,7 +29,7 @@ using catalog::Routine;
 
 struct Options {
     ClipOptions clip;
-    RoutineOptions routine;
+    GivenArguments routine;
     SinkOptions sink;
     std::string from, to, palette;
     std::vector<std::string> words, planes;
@@ -36,12 +38,12 @@ struct Options {
 };
 
 struct Files {
-    Paths in, out;
+    FilePaths in, out;
 };
 
 // All frames of a clip through the calls into the file. How many there were.
-int64_t convert_frames(const Options& options, Clip& clip, const std::vector<Call>& calls, const FrameForm& to,
-                       const Paths& out)
+int64_t convert_frames(const Options& options, Clip& clip, const std::vector<RoutineCall>& calls, const FrameForm& to,
+                       const FilePaths& out)
 {
     SinkOptions sink_options = options.sink;
     sink_options.timing = clip.timing();
@@ -52,23 +54,23 @@ int64_t convert_frames(const Options& options, Clip& clip, const std::vector<Cal
     int64_t written = 0;
     const Pipeline pipeline{
         [&](std::span<uint8_t> frame) { return clip.next(frame); },
-        [&] { return std::make_unique<Calls>(calls, clip.form().bytes()); },
+        [&] { return std::make_unique<FrameConverter>(calls, clip.form().bytes()); },
         [&](std::span<const uint8_t> frame) {
             sink->write(frame);
             progress.done(++written);
         },
     };
     run_pipeline(pipeline, jobs);
-    if (written == 0) throw Failure(Exit::unsafe, "{} holds no frame", clip.name());
+    if (written == 0) throw Failure(Exit::unsafe, "{} has no frame", clip.name());
     sink->commit();
     return written;
 }
 
-// A stream of run-length codes has no lines and tells its length by its end: it goes through as a whole.
+// A stream of run-length codes has no lines, and its length is known at its end: it goes through as a whole.
 Exit convert_coded(const Options& options, const Routine& routine, const Files& files)
 {
     InputFile file(files.in.at(0));
-    BmpRle8 picture{0, 0, {}, {}};
+    CodedPicture picture{0, 0, {}, {}};
     if (format_of(files.in[0]) == "bmp") {
         picture = read_bmp_rle8(file);
     } else {
@@ -78,10 +80,12 @@ Exit convert_coded(const Options& options, const Routine& routine, const Files& 
         if (picture.palette.size() != 1024)
             throw Failure(Exit::unsafe, "{} is no palette of 256 x 4 bytes", options.palette);
     }
-    RoutineJob job = routine_job(routine, options.routine, {picture.width, picture.height});
-    const std::vector<uint8_t> frame = decode_rle8(routine, job.call.arguments, picture);
-    job.to.parts = {static_cast<int64_t>(frame.size())};
-    const std::unique_ptr<FrameSink> sink = open_sink(files.out, job.to, options.sink);
+    const Size size{picture.width, picture.height};
+    const RoutineCall call = plan_call(routine, arguments_of(routine, options.routine, size.width, size.height, 0));
+    const std::vector<uint8_t> frame = decode_rle8(routine, call.arguments, picture);
+    FrameForm to = output_form(call, options.routine.layout, size);
+    to.parts = {static_cast<int64_t>(frame.size())};
+    const std::unique_ptr<FrameSink> sink = open_sink(files.out, to, options.sink);
     sink->write(frame);
     sink->commit();
     return Exit::done;
@@ -96,15 +100,16 @@ Files place_files(const Options& options, const Routine& routine, const std::vec
             Exit::usage, "{}",
             planes ? "with --planes one file is left to name" : "name the file to read and the file to write");
     if (!planes) return {{names[0]}, {names[1]}};
-    const Paths many(options.planes.begin(), options.planes.end());
+    const FilePaths many(options.planes.begin(), options.planes.end());
     return takes(routine, Arg::dst) ? Files{many, {names[0]}} : Files{{names[0]}, many};
 }
 
 Exit convert_by_routine(const Options& options, const Routine& routine)
 {
-    for (const bool road_only : {options.dry_run, options.json, !options.from.empty(), !options.to.empty()})
-        if (road_only)
-            throw Failure(Exit::usage, "--from, --to, --dry-run and --json go with a road, and not with one routine");
+    for (const bool of_paths_only : {options.dry_run, options.json, !options.from.empty(), !options.to.empty()})
+        if (of_paths_only)
+            throw Failure(Exit::usage,
+                          "--from, --to, --dry-run and --json go with a conversion path, and not with one routine");
     const Files files = place_files(options, routine, {options.words.begin() + 1, options.words.end()});
     if (takes(routine, Arg::palette)) return convert_coded(options, routine, files);
     ClipOptions clip_options = options.clip;
@@ -113,37 +118,39 @@ Exit convert_by_routine(const Options& options, const Routine& routine)
     Clip clip(clip_options, files.in);
     const int64_t stride =
         takes_stride ? stride_of(options.clip.stride, layout_of_stride(routine, options.routine), clip.size()) : 0;
-    const RoutineJob job = routine_job(routine, options.routine, clip.size(), stride);
-    if (job.from.parts.empty() || job.to.parts.empty())
+    const Size size = clip.size();
+    const RoutineCall call =
+        plan_call(routine, arguments_of(routine, options.routine, size.width, size.height, stride));
+    const FrameForm from = input_form(call, options.routine.layout, size);
+    const FrameForm to = output_form(call, options.routine.layout, size);
+    if (from.parts.empty() || to.parts.empty())
         throw Failure(Exit::usage, "{} turns no picture into another", routine.name);
-    clip.expect(job.from);
-    convert_frames(options, clip, {job.call}, job.to, files.out);
+    clip.expect(from);
+    convert_frames(options, clip, {call}, to, files.out);
     return Exit::done;
 }
 
-Json to_json(const road::Road& road)
+Json to_json(const paths::Path& path)
 {
     Json steps = Json::array();
-    for (const road::Stretch& stretch : road.stretches)
-        steps.push_back({{"routine", stretch.routine->name},
-                         {"from", stretch.from},
-                         {"to", stretch.to},
-                         {"losses", stretch.losses}});
-    return {{"schema", json_schema}, {"from", road.from}, {"to", road.to}, {"road", steps}, {"losses", road.losses()}};
+    for (const paths::Step& step : path.steps)
+        steps.push_back(
+            {{"routine", step.routine->name}, {"from", step.from}, {"to", step.to}, {"losses", step.losses}});
+    return {{"schema", json_schema}, {"from", path.from}, {"to", path.to}, {"road", steps}, {"losses", path.losses()}};
 }
 
-void tell(const Options& options, const road::Road& road)
+void report(const Options& options, const paths::Path& path)
 {
-    if (!options.quiet && !options.json) fmt::print(stderr, "{}", to_text(road));
+    if (!options.quiet && !options.json) fmt::print(stderr, "{}", to_text(path));
 }
 
-// The layouts that the caller wants, or else those that the file to be written can hold.
+// The layouts that the caller wants, or else those that the file to be written can store.
 std::vector<std::string_view> wanted_layouts(const Options& options, const std::string& from, const std::string& format)
 {
-    if (!options.to.empty()) return {road::holds_of(options.to).layout};
+    if (!options.to.empty()) return {capacity_of(options.to).layout};
     const auto fitting = layouts_of_format(format);
     if (fitting.empty())
-        throw Failure(Exit::usage, "give --to LAYOUT: raw files hold any layout, and {} is read", from);
+        throw Failure(Exit::usage, "give --to LAYOUT: raw files can be of any layout, and {} is read", from);
     return fitting;
 }
 
@@ -153,38 +160,38 @@ bool is_picture(std::string_view format)
 }
 
 // Pictures are put into a layout and taken out of one, which may have less room than they.
-void add_losses_of_pictures(const Options& options, const Clip& clip, const std::string& format, road::Road& road)
+void add_losses_of_pictures(const Options& options, const Clip& clip, const std::string& format, paths::Path& path)
 {
     const std::string held = clip.layout();
-    if (is_picture(format_of(clip.name())) && road::holds_of(held).bits > road::holds_of(road.from).bits)
-        road.beside.push_back(fmt::format("{} bits of the picture read to {} by truncation", road::holds_of(held).bits,
-                                          road::holds_of(road.from).bits));
-    if (is_picture(format) && road.alpha && !options.sink.alpha)
-        road.beside.push_back("alpha dropped, which --alpha keeps");
+    if (is_picture(format_of(clip.name())) && capacity_of(held).bits > capacity_of(path.from).bits)
+        path.other_losses.push_back(fmt::format("{} bits of the picture read to {} by truncation",
+                                                capacity_of(held).bits, capacity_of(path.from).bits));
+    if (is_picture(format) && path.alpha && !options.sink.alpha)
+        path.other_losses.push_back("alpha dropped, which --alpha keeps");
 }
 
-Exit plan_road(const Options& options)
+Exit print_plan(const Options& options)
 {
     if (options.from.empty() || options.to.empty())
         throw Failure(Exit::usage, "without files, --dry-run takes --from LAYOUT and --to LAYOUT");
     const Size size = options.clip.size.empty() ? Size{} : size_of(options.clip.size);
     const std::string_view to[] = {options.to};
-    const road::Road road = road::find_road({options.from, false, size}, to);
-    if (options.json) fmt::print("{}\n", to_json(road).dump(2));
-    tell(options, road);
+    const paths::Path path = paths::find_path({options.from, false, size}, to);
+    if (options.json) fmt::print("{}\n", to_json(path).dump(2));
+    report(options, path);
     return Exit::done;
 }
 
-Exit convert_by_road(const Options& options)
+Exit convert_by_path(const Options& options)
 {
     if (!options.routine.numbers.empty())
-        throw Failure(Exit::usage, "a road takes no --{}: that is an argument of one routine",
+        throw Failure(Exit::usage, "a conversion path takes no --{}: that is an argument of one routine",
                       catalog::describe(options.routine.numbers.begin()->first).name);
     if (!options.planes.empty() || !options.palette.empty())
-        throw Failure(Exit::usage, "--planes and --palette go with one routine, and not with a road");
-    if (!options.from.empty()) road::holds_of(options.from);
-    if (!options.to.empty()) road::holds_of(options.to);
-    if (options.words.empty() && options.dry_run) return plan_road(options);
+        throw Failure(Exit::usage, "--planes and --palette go with one routine, and not with a conversion path");
+    if (!options.from.empty()) capacity_of(options.from);
+    if (!options.to.empty()) capacity_of(options.to);
+    if (options.words.empty() && options.dry_run) return print_plan(options);
     if (options.words.size() != 2) throw Failure(Exit::usage, "name the file to read and the file to write");
     const std::string &in = options.words[0], &out = options.words[1];
     if (out == "-" && options.json) throw Failure(Exit::usage, "--json and the frames cannot both go to stdout");
@@ -193,20 +200,20 @@ Exit convert_by_road(const Options& options)
 
     Clip clip(options.clip, {in});
     const std::string from = options.from.empty() ? clip.layout() : options.from;
-    if (from.empty()) throw Failure(Exit::usage, "{} does not tell its layout: give --from LAYOUT", clip.name());
+    if (from.empty()) throw Failure(Exit::usage, "the layout of {} is not known: give --from LAYOUT", clip.name());
     const std::string format = options.sink.format.empty() ? format_of(out) : options.sink.format;
-    road::Road road = road::find_road({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
-    add_losses_of_pictures(options, clip, format, road);
-    const std::vector<Call> calls = calls_of(road, clip.size());
+    paths::Path path = paths::find_path({from, clip.opaque(), clip.size()}, wanted_layouts(options, from, format));
+    add_losses_of_pictures(options, clip, format, path);
+    const std::vector<RoutineCall> calls = plan_path(path, clip.size());
     clip.expect(scalar_version(from, clip.size()));
-    tell(options, road);
+    report(options, path);
     int64_t frames = 0;
-    if (!options.dry_run) frames = convert_frames(options, clip, calls, scalar_version(road.to, clip.size()), {out});
+    if (!options.dry_run) frames = convert_frames(options, clip, calls, scalar_version(path.to, clip.size()), {out});
     if (options.json) {
-        Json report = to_json(road);
-        report["size"] = {clip.size().width, clip.size().height};
-        report["frames"] = frames;
-        fmt::print("{}\n", report.dump(2));
+        Json summary = to_json(path);
+        summary["size"] = {clip.size().width, clip.size().height};
+        summary["frames"] = frames;
+        fmt::print("{}\n", summary.dump(2));
     }
     return Exit::done;
 }
@@ -217,7 +224,7 @@ Exit run(const Options& options)
         return convert_by_routine(options, *catalog::find(options.words[0]));
     if (options.words.size() == 3 || (options.words.size() == 2 && !options.planes.empty()))
         routine_named(options.words[0]);  // says that there is none
-    return convert_by_road(options);
+    return convert_by_path(options);
 }
 
 }  // namespace
@@ -230,16 +237,19 @@ Command add_convert(CLI::App& tool)
     app->add_option("files", options->words,
                     "ROUTINE IN OUT, or IN OUT: raw frames, .png, .ppm, .pam, .bmp, .y4m; .mov and .avi to read; - for "
                     "stdin and stdout");
-    app->add_option("--from", options->from, "the layout that is read; files that tell theirs need none");
-    app->add_option("--to", options->to, "the layout that is written; else the nearest that the file can hold");
+    app->add_option("--from", options->from,
+                    "the layout that is read; not needed for files with a header that names it");
+    app->add_option("--to", options->to, "the layout that is written; by default the nearest that the file can store");
     app->add_flag("--dry-run", options->dry_run, "say which routines would be taken and what is lost, and stop");
     add_clip_options(*app, options->clip);
-    app->add_option("--format", options->sink.format, "what kind of file is written; else by the ending of its name")
+    app->add_option("--format", options->sink.format,
+                    "what kind of file is written; by default by the ending of its name")
         ->check(CLI::IsMember({"raw", "y4m", "png", "ppm", "pam", "bmp"}));
-    app->add_option("-j,--jobs", options->jobs, "frames that are converted at a time; else one for each processor")
+    app->add_option("-j,--jobs", options->jobs,
+                    "frames that are converted at a time; by default one for each processor")
         ->check(CLI::Range(1, 1024));
-    app->add_flag("-q,--quiet", options->quiet, "say nothing of the road, and show no progress");
-    app->add_flag("--json", options->json, "the road on stdout as JSON");
+    app->add_flag("-q,--quiet", options->quiet, "print neither the conversion path nor progress");
+    app->add_flag("--json", options->json, "the conversion path on stdout as JSON");
     app->add_flag("--alpha", options->sink.alpha, "keep alpha in pictures");
     app->add_option("--planes", options->planes,
                     "the files of the planes, or of the fields, in the order of the arguments")

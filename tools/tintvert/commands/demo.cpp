@@ -9,12 +9,12 @@
 
 #include "catalog.h"
 #include "commands.h"
-#include "difference.h"
-#include "output_file.h"
-#include "png_file.h"
-#include "rgb_frame.h"
+#include "inspect/difference.h"
+#include "inspect/test_card.h"
+#include "io/output_file.h"
+#include "io/pictures/png_file.h"
+#include "io/pictures/rgb_frame.h"
 #include "stopwatch.h"
-#include "test_card.h"
 
 namespace tintvert::tool {
 namespace {
@@ -25,7 +25,7 @@ struct Options {
     std::string input, output = "demo";
 };
 
-// The catalogue knows how far a call reaches, the last whole group included.
+// The catalogue knows what a call writes, the last whole group included.
 std::vector<uint8_t> buffer_for(const char* routine, const catalog::Arguments& call, Arg buffer)
 {
     for (const catalog::Touch& touch : catalog::find(routine)->extents(call))

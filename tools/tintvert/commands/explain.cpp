@@ -4,14 +4,16 @@
 #include <algorithm>
 #include <memory>
 
-#include "call_plan.h"
-#include "clip_options.h"
+#include "calls/c_program.h"
+#include "calls/quirks.h"
+#include "calls/rle8.h"
+#include "calls/routine_arguments.h"
 #include "commands.h"
+#include "io/clip_options.h"
 #include "json.h"
-#include "nearest.h"
-#include "quirks.h"
+#include "names.h"
+#include "options.h"
 #include "routine_facts.h"
-#include "routine_options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -20,11 +22,11 @@ using catalog::Range;
 
 struct Options {
     std::string routine, size, stride;
-    RoutineOptions numbers;
+    GivenArguments numbers;
     bool show_call = false, json = false;
 };
 
-int64_t bytes_of(const CallPlan& plan, bool PlannedBuffer::*direction)
+int64_t bytes_of(const RoutineCall& plan, bool PlannedBuffer::*direction)
 {
     int64_t bytes = 0;
     for (const PlannedBuffer& buffer : plan.buffers)
@@ -34,18 +36,18 @@ int64_t bytes_of(const CallPlan& plan, bool PlannedBuffer::*direction)
 
 std::string_view name_of(const PlannedBuffer& buffer) { return catalog::describe(buffer.argument).name; }
 
-// What lies outside of the picture, and what of it is left out.
-std::string meets_picture(const Range& reach, const Range& picture)
+// What is outside of the picture, and what of it is left out.
+std::string beyond_picture(const Range& touched, const Range& picture)
 {
     if (picture.empty()) return {};
     std::string text;
     const auto add = [&](int64_t bytes, const char* what) {
         if (bytes > 0) text += fmt::format("{}{} {}", text.empty() ? "" : ", ", bytes, what);
     };
-    add(picture.begin - reach.begin, "before the picture");
-    add(reach.end - picture.end, "behind the picture");
-    add(std::min(reach.begin, picture.end) - picture.begin, "left out at its head");
-    add(picture.end - std::max(reach.end, picture.begin), "left out at its end");
+    add(picture.begin - touched.begin, "before its start");
+    add(touched.end - picture.end, "past its end");
+    add(std::min(touched.begin, picture.end) - picture.begin, "left out at its start");
+    add(picture.end - std::max(touched.end, picture.begin), "left out at its end");
     return text;
 }
 
@@ -62,15 +64,21 @@ std::string bar(const Range& range, const Range& whole)
            std::string(static_cast<size_t>(columns - end), '.');
 }
 
+// bytes 0-4147199
+std::string bytes_text(const Range& range)
+{
+    return fmt::format("bytes {}{}{}", range.begin, range.begin < 0 ? " to " : "-", range.end - 1);
+}
+
 void print_range(const char* what, const Range& range, const PlannedBuffer& buffer)
 {
     if (range.empty()) return;
-    const std::string more = what == std::string_view("picture") ? "" : meets_picture(range, buffer.picture);
-    fmt::print("    {:<8}{:>12} to {:<12}|{}|{}{}\n", what, range.begin, range.end, bar(range, buffer.whole()),
+    const std::string more = what == std::string_view("picture") ? "" : beyond_picture(range, buffer.picture);
+    fmt::print("    {:<8}{:<27}|{}|{}{}\n", what, bytes_text(range), bar(range, buffer.whole()),
                more.empty() ? "" : "  ", more);
 }
 
-std::string call_text(const CallPlan& plan)
+std::string call_text(const RoutineCall& plan)
 {
     std::string text;
     for (const catalog::Arg argument : plan.routine->arguments) {
@@ -84,7 +92,7 @@ std::string call_text(const CallPlan& plan)
     return fmt::format("{}({})", plan.routine->name, text);
 }
 
-void print_text(const CallPlan& plan, Size size)
+void print_text(const RoutineCall& plan, Size size)
 {
     const catalog::Routine& routine = *plan.routine;
     fmt::print("{}\n  {}\n\n", call_text(plan), routine.summary);
@@ -92,8 +100,8 @@ void print_text(const CallPlan& plan, Size size)
     const std::string_view to = routine.to == "none" ? "as it is" : routine.to;
     fmt::print("reads    {:>12} bytes, {}\nwrites   {:>12} bytes, {}\n", bytes_of(plan, &PlannedBuffer::in), from,
                bytes_of(plan, &PlannedBuffer::out), to);
-    if (!plan.stream.empty())
-        fmt::print("\nThe stream tells how far this reaches; here it is one of a plain picture.\n");
+    if (decodes_rle8(routine))
+        fmt::print("\nThe stream decides which bytes these are; here it is that of a picture of one colour.\n");
     for (const PlannedBuffer& buffer : plan.buffers) {
         if (buffer.whole().empty()) continue;
         fmt::print("\n  {}\n", name_of(buffer));
@@ -113,7 +121,7 @@ void print_text(const CallPlan& plan, Size size)
 
 Json to_json(const Range& range) { return range.empty() ? Json() : Json{range.begin, range.end}; }
 
-void print_json(const CallPlan& plan, Size size)
+void print_json(const RoutineCall& plan, Size size)
 {
     Json arguments = Json::object(), buffers = Json::array(), quirks = Json::array();
     for (const catalog::Arg argument : plan.routine->arguments)
@@ -135,7 +143,7 @@ void print_json(const CallPlan& plan, Size size)
                             {"buffers", buffers},
                             {"deliberate", quirks},
                             {"peer", peer_to_json(*plan.routine, size.width, size.height)},
-                            {"call", c_call(plan)}}
+                            {"call", c_program(plan)}}
                            .dump(2));
 }
 
@@ -149,7 +157,7 @@ catalog::Arguments arguments_for(const Options& options, const catalog::Routine&
     if (takes(routine, Arg::stride))
         return arguments_of(routine, options.numbers, size.width, size.height, stride_of(options.stride, layout, size));
     if (!takes(routine, Arg::srcStride)) throw Failure(Exit::usage, "{} takes no stride of its source", routine.name);
-    RoutineOptions numbers = options.numbers;
+    GivenArguments numbers = options.numbers;
     numbers.numbers[Arg::srcStride] = stride_of(options.stride, layout, size);
     return arguments_of(routine, numbers, size.width, size.height, 0);
 }
@@ -158,11 +166,17 @@ Exit run(const Options& options)
 {
     const catalog::Routine& routine = routine_named(options.routine);
     const Size size = size_of(options.size);
-    const CallPlan plan = plan_call(routine, arguments_for(options, routine, size), size);
+    catalog::Arguments arguments = arguments_for(options, routine, size);
+    const std::vector<uint8_t> stream = one_colour_stream(size.width, size.height);
+    if (decodes_rle8(routine)) {
+        arguments[catalog::Arg::src] = reinterpret_cast<int64_t>(stream.data());
+        arguments[catalog::Arg::streamSize] = static_cast<int64_t>(stream.size());
+    }
+    const RoutineCall plan = plan_call(routine, arguments);
     if (options.json)
         print_json(plan, size);
     else if (options.show_call)
-        fmt::print("{}", c_call(plan));
+        fmt::print("{}", c_program(plan));
     else
         print_text(plan, size);
     return Exit::done;
@@ -173,7 +187,8 @@ Exit run(const Options& options)
 Command add_explain(CLI::App& tool)
 {
     CLI::App* const app = tool.add_subcommand(
-        "explain", "One call at a given size: bytes in and out, how far it reaches, and what is odd about it.");
+        "explain",
+        "One call at a given size: bytes in and out, what it reads and writes beyond the frame, and its quirks.");
     const auto options = std::make_shared<Options>();
     app->add_option("routine", options->routine, "a name that `tintvert list` gives")->required();
     app->add_option("-s,--size", options->size, "width and height of the picture that goes in, such as 1920x1080")

@@ -1,5 +1,5 @@
-// tintvert guess: what a raw file may hold. Nothing else in the tool uses the answer.
-#include "guess.h"
+// tintvert guess: what a raw file may contain. Nothing else in the tool uses the answer.
+#include "inspect/guess.h"
 
 #include <fmt/format.h>
 
@@ -74,7 +74,7 @@ Exit run(const Options& options)
 Command add_guess(CLI::App& tool)
 {
     CLI::App* const app =
-        tool.add_subcommand("guess", "What a raw file may hold: layouts and sizes, the likeliest first.");
+        tool.add_subcommand("guess", "What a raw file may contain: layouts and sizes, the likeliest first.");
     const auto options = std::make_shared<Options>();
     app->add_option("file", options->file, "a file of raw frames")->required();
     app->add_option("--most", options->most, "how many answers")->capture_default_str()->check(CLI::Range(1, 1000));

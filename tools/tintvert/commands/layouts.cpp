@@ -6,9 +6,10 @@
 #include <vector>
 
 #include "commands.h"
+#include "inspect/layout_picture.h"
 #include "json.h"
-#include "layout_picture.h"
-#include "nearest.h"
+#include "names.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {

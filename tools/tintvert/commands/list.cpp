@@ -8,7 +8,7 @@
 #include "catalog.h"
 #include "commands.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
 #include "routine_facts.h"
 
 namespace tintvert::tool {

@@ -5,7 +5,7 @@
 
 #include "command_words.h"
 #include "commands.h"
-#include "nearest.h"
+#include "names.h"
 
 namespace tintvert::tool {
 namespace {

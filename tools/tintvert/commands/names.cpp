@@ -9,7 +9,7 @@
 #include "commands.h"
 #include "json.h"
 #include "layouts.h"
-#include "nearest.h"
+#include "names.h"
 
 namespace tintvert::tool {
 namespace {

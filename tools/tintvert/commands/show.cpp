@@ -5,11 +5,11 @@
 #include <memory>
 #include <vector>
 
+#include "calls/headers.h"
 #include "catalog.h"
 #include "commands.h"
-#include "headers.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
 #include "routine_facts.h"
 
 namespace tintvert::tool {

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "commands.h"
+#include "io/pictures/png_file.h"
 #include "json.h"
-#include "nearest.h"
-#include "png_file.h"
+#include "names.h"
 
 namespace tintvert::tool {
 namespace {

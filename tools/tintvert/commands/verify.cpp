@@ -6,7 +6,7 @@
 
 #include "commands.h"
 #include "json.h"
-#include "nearest.h"
+#include "names.h"
 #include "peers/check.h"
 
 namespace tintvert::tool {

@@ -5,12 +5,12 @@
 #include <map>
 #include <memory>
 
-#include "chafa_picture.h"
-#include "color.h"
 #include "commands.h"
-#include "png_file.h"
-#include "sample_picture.h"
-#include "terminal_picture.h"
+#include "inspect/chafa_picture.h"
+#include "inspect/sample_picture.h"
+#include "inspect/terminal_picture.h"
+#include "io/pictures/png_file.h"
+#include "options.h"
 
 namespace tintvert::tool {
 namespace {
@@ -57,7 +57,7 @@ Command add_view(CLI::App& tool)
         ->required();
     add_sample_options(*app, options->samples);
     app->add_option("--width", options->width, "columns of the picture in the terminal")->check(CLI::Range(1, 10000));
-    app->add_option("--as", options->drawing, "how it is drawn; else what the terminal can, and blocks in a pipe")
+    app->add_option("--as", options->drawing, "how it is drawn; by default what the terminal can, and blocks in a pipe")
         ->check(CLI::IsMember(drawings));
     app->add_option("-o,--output", options->output, "a PNG to write instead");
     add_color_option(app, &options->color);

@@ -30,6 +30,14 @@ Reason planes_to_rgb32(const Arguments& call)
     return {};
 }
 
+// `srcPitch` counts pixels of two bytes, and a pair of lines is twice as far. Distances are 32-bit numbers.
+Reason pitches(const Arguments& call)
+{
+    const int64_t dst_pitch = call[Arg::dstPitch];
+    if (above(most_signed, call[Arg::srcPitch], 4) || above(most_signed, dst_pitch, 2)) return frame_wraps;
+    return dst_pitch - call[Arg::width] < -most_signed ? frame_wraps : Reason{};
+}
+
 Reason run_to_rgb(const Arguments& call)
 {
     const Reason reason = run_of_pixels(call);

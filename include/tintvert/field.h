@@ -86,8 +86,8 @@ TNTVT_API int tntvt_deinterlace_yuv(unsigned char* dst, unsigned char* src, unsi
 /* Turns a frame upside down. `dst` may be `src`: then lines are exchanged through a scratch line, and the
  * middle one of an odd `height` stays. With two frames a `height` below 1 does nothing; in place half of it
  * is taken as an unsigned number, so a negative one runs out of any frame. If a copy in place throws, the
- * failure is reported, the exchanged lines stay exchanged and the routine returns. Line offsets wrap at 32
- * bits. The third argument, and the fourth of tntvt_flip_vert_flags, are ignored.
+ * failure is reported, the exchanged lines stay exchanged and the routine returns. Line offsets, margins
+ * included, wrap at 32 bits. The third argument, and the fourth of tntvt_flip_vert_flags, are ignored.
  *
  * tntvt_flip_vert_flags copies lines of `srcStride` bytes into lines of `dstStride` bytes and puts what is
  * left over, if that is more than nothing, on the side that `flags` tell:
@@ -112,7 +112,8 @@ TNTVT_API void tntvt_flip_vert_flags(unsigned char* dst, unsigned char* src, uns
  * takes part: destination pixel i is source pixel `width` - i, for i from 0 to `width` - 1, and source pixel
  * 0 is not read. In place, with `dst` equal to `src`, pixels i and `width` - i are exchanged for i below
  * `width` / 2. The frame has 4 bytes of room behind its last line. A `height` below 1 does nothing, nor does
- * a `width` below 1; in place `width` is read as unsigned, and 1 does nothing. */
+ * a `width` below 1; in place `width` is read as unsigned, and 1 does nothing. Offsets, those of pixels among
+ * them, wrap at 32 bits. */
 TNTVT_API void tntvt_flip_horz(unsigned char* dst, unsigned char* src, int width, int height, unsigned int stride);
 
 /* Two fields of 4-byte pixels to a frame and back: line l of the frame is line l / 2 of the first field if

@@ -175,7 +175,8 @@ TNTVT_API void tntvt_rgba32_rgb16(void* dst, long dstStride, void* src, long src
  * Quirks: nothing is rounded, and a value of more than `bits` bits wraps. The shift is taken modulo 32,
  * so that `bits` below 8 gives 0 everywhere. The alpha made for three channels is 0. The flip of
  * tntvt_bgr48_rgba32 falls one line short: the last source line goes to the line that ends just before
- * `dst`, and the last destination line is not written; its lines are counted in 32 bits. */
+ * `dst`, and the last destination line is not written; its lines are
+ * the low 32 bits of the magnitude of `height`, as a signed number, so that 2^31 to 2^32 lines are no work. */
 TNTVT_API void tntvt_rgb48_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned int bits);
 TNTVT_API void tntvt_bgr48_rgba32(void* dst, long dstStride, void* src, long srcStride, long width, long height,
@@ -205,7 +206,8 @@ TNTVT_API void tntvt_bgra64_rgba32(void* dst, long dstStride, void* src, long sr
  * down if it is negative.
  *
  * Quirks: the low bits stay 0, so that at 16 bits 255 becomes 0xFF00. The shift is taken modulo 32.
- * The flip of tntvt_rgba32_bgr48 falls one line short, as that of tntvt_bgr48_rgba32 does. */
+ * The flip of tntvt_rgba32_bgr48 falls one line short, as that of tntvt_bgr48_rgba32 does,
+ * and its lines are counted like those. */
 TNTVT_API void tntvt_rgba32_rgb48(void* dst, long dstStride, void* src, long srcStride, long width, long height,
                                   unsigned int bits);
 TNTVT_API void tntvt_rgba32_bgr48(void* dst, long dstStride, void* src, long srcStride, long width, long height,

@@ -129,7 +129,8 @@ TNTVT_API void tntvt_2vuy_yv12(unsigned char* dst, unsigned char* src, unsigned 
  * up; luma is copied. Source first.
  *
  * `srcPitch` counts pixels, so source lines are 2 x `srcPitch` bytes apart. `y` lines are `dstPitch` bytes
- * apart, `cb` and `cr` lines half of that. A `width` or `height` below 1 does nothing.
+ * apart, `cb` and `cr` lines half of that. Distances are `int` and wrap at 32 bits. A `width` or `height` below
+ * 1 does nothing.
  *
  * An odd `height` takes its last line as a pair: one line beyond it is read and written. An odd `width` takes
  * its last group whole, one pixel beyond, and makes the lines of each further pair stand 2 bytes later in the
@@ -175,7 +176,8 @@ TNTVT_API int tntvt_rgba_addalpha(void* src, void* dst, long srcStride, long dst
  *
  * Mode 1 halves the way from the second luma to the first in every pair, truncating. In modes 2 to 6 the
  * first luma of a pair, `prev`, and that of the next, `cur`, are references: where they agree within 7 and the
- * second luma `t` between them is 11 or more from `prev`, it is replaced. Other modes do nothing.
+ * second luma `t` between them is 11 or more from `prev`, it is replaced. Other modes do nothing. No byte is
+ * stored but a second luma, in modes 2 to 6 only one that is replaced.
  *
  *     mode   replacement        where
  *     2      prev               `prev` below 128

@@ -12,7 +12,7 @@
 namespace tintvert::test {
 namespace {
 
-using Entry = void (*)(void*, long, void*, long, long, long, long);
+using Entry = int (*)(void*, long, void*, long, long, long, long);
 
 struct Geometry {
     long dstStride, srcStride, width, height, scale;

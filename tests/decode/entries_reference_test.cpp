@@ -10,7 +10,7 @@ namespace {
 
 struct Entry {
     const char* name;
-    void (*routine)(void*, long, void*, long, long, long, long);
+    int (*routine)(void*, long, void*, long, long, long, long);
     bool ten_bits;
     int bytes_a_pixel;
 };

@@ -147,6 +147,53 @@ TEST_F(Wraps, offsets_of_flipped_lines)
     EXPECT_EQ(pixel(whole + 8), 0u);
 }
 
+// What is added to an offset wraps as well: the left margin of 0xFFFFFFE8 bytes puts the lines, 0xFFFFFFF8 bytes
+// apart, at 0xFFFFFFE8 and 0xFFFFFFE0.
+TEST_F(Wraps, offsets_of_lines_beside_a_margin)
+{
+    unsigned char src[64];
+    fill_near(src);
+    tntvt_flip_vert_flags(far, src, 0, 0, 2, 0xFFFFFFF8, 16, 0x1000000, 1);
+    EXPECT_EQ(pixel(0xFFFFFFE0), pixel_of(1));
+    EXPECT_EQ(pixel(0xFFFFFFE8), pixel_of(9));
+    EXPECT_EQ(pixel(0xFFFFFFF0), pixel_of(25));
+    for (const uint64_t offset : {uint64_t{0}, whole, 2 * whole - 32}) EXPECT_EQ(pixel(offset), 0u) << offset;
+}
+
+// Line 1 begins 8 bytes before 2^32, and its third pixel and those after it are at 0, 4, ...
+TEST_F(Wraps, offsets_of_mirrored_pixels)
+{
+    unsigned char* const dst = far + whole + half;
+    for (const int width : {2, 3, 40}) {
+        std::memset(dst, 0, 1024);
+        for (int i = 0; i < 256; ++i) far[i] = static_cast<unsigned char>(i + 1);
+        std::memcpy(far + whole - 8, far + 128, 8);
+        std::memset(far + whole, 0xEE, 256);
+        tntvt_flip_horz(dst, far, width, 2, 0xFFFFFFF8);
+        const auto at = [&](const unsigned char* frame, int i) {
+            uint32_t result;
+            std::memcpy(&result, frame + static_cast<uint32_t>(-8 + 4 * i), 4);
+            return result;
+        };
+        for (int i = 0; i < width; ++i) EXPECT_EQ(at(dst, i), at(far, width - i)) << width << ' ' << i;
+        std::memset(dst + whole - 8, 0, 8);
+    }
+}
+
+TEST_F(Wraps, offsets_of_mirrored_pixels_in_place)
+{
+    fill_near(far);
+    std::memcpy(far + whole - 8, far + 32, 8);
+    std::memset(far + whole, 0xEE, 64);
+    // Line 0 exchanges its first pixel with its third, and line 1 its first, before 2^32, with its third, at 0.
+    tntvt_flip_horz(far, far, 2, 2, 0xFFFFFFF8);
+    EXPECT_EQ(pixel(whole - 8), pixel_of(9));
+    EXPECT_EQ(pixel(whole - 4), pixel_of(37));
+    EXPECT_EQ(pixel(0), pixel_of(33));
+    EXPECT_EQ(pixel(8), pixel_of(1));
+    EXPECT_EQ(pixel(whole), 0xEEEEEEEE);
+}
+
 TEST_F(Wraps, offsets_of_mirrored_lines)
 {
     fill_near(far);

@@ -20,7 +20,7 @@ namespace {
 
 struct Entry {
     const char* name;
-    void (*routine)(void*, long, void*, long, long, long, long);
+    int (*routine)(void*, long, void*, long, long, long, long);
     bool ten_bits;
     int bytes_a_pixel;
     const char* decoder;  // null: the tables at every scale
@@ -136,6 +136,21 @@ TEST_F(DecodeEntries, hand_the_matrix_on)
         }
         tntvt_i420_rgb32(dst.data(), src.data(), 2, 1, 4);
         EXPECT_EQ(calls().log.back(), "cycbcr_i420_to_rgb32(dst, src, 2, 1, 8, 4, " + std::to_string(matrix) + ", 0)");
+    }
+}
+
+// ... and whatever the decoder returns. The tables return 0.
+TEST_F(DecodeEntries, return_what_the_decoder_returns)
+{
+    for (const int decoded : {0, 1, -1, -7, INT_MAX, INT_MIN}) {
+        calls().decoded = decoded;
+        for (const Entry& entry : entries) {
+            EXPECT_EQ(entry.routine(dst.data(), 4, src.data(), 4, 0, 0, 1), entry.decoder == nullptr ? 0 : decoded)
+                << entry.name;
+            EXPECT_EQ(entry.routine(dst.data(), 4, src.data(), 4, 0, 0, 2), 0) << entry.name;
+        }
+        EXPECT_EQ(tntvt_i420_rgb32(dst.data(), src.data(), 2, 1, 4), decoded);
+        EXPECT_EQ(tntvt_yv12_rgb32(dst.data(), src.data(), 2, 1, 4), decoded);
     }
 }
 

@@ -1,5 +1,6 @@
 // Every copy of the field routines by name, size and order; and what becomes of a call whose copy, scratch
 // line or predicate throws.
+#include <sys/mman.h>
 #include <tintvert/field.h>
 
 #include <algorithm>
@@ -44,6 +45,36 @@ protected:
         return calls().log;
     }
 };
+
+// Offsets that pass 2^32 go on at 0. Two lines of 0xFFFFFFF8 bytes, eight of which are margin. Nothing is copied.
+TEST_F(FieldCopies, of_lines_beside_a_margin_wrap)
+{
+    constexpr size_t most = size_t{9} << 30;
+    auto* const frame = static_cast<unsigned char*>(
+        mmap(nullptr, most, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+    ASSERT_NE(frame, MAP_FAILED);
+    calls().name("frame", frame, most);
+    calls().copies = false;
+    const auto set = [&] { frame[0] = frame[0xFFFFFFF0] = frame[0xFFFFFFE8] = frame[0xFFFFFFF8] = 0xEE; };
+    const auto flip = [&](unsigned int flags) {
+        set();
+        calls().log.clear();
+        tntvt_flip_vert_flags(frame, src.data(), 0, 0, 2, 0xFFFFFFF8, 0xFFFFFFF0, flags, 0);
+    };
+    flip(0x1000000);
+    ASSERT_EQ(calls().log.size(), 2u);
+    EXPECT_EQ(calls().log[0].substr(0, 24), "CopyMemoryFast(frame+8, ");
+    EXPECT_EQ(calls().log[1].substr(0, 22), "CopyMemoryFast(frame, ");
+    EXPECT_EQ(frame[0], 0);
+    EXPECT_EQ(frame[0xFFFFFFF8], 0);
+    EXPECT_EQ(frame[0xFFFFFFF0], 0xEE);
+    flip(0x2000000);
+    EXPECT_EQ(calls().log[1].substr(0, 33), "CopyMemoryFast(frame+4294967288, ");
+    EXPECT_EQ(frame[0xFFFFFFF0], 0);
+    EXPECT_EQ(frame[0xFFFFFFE8], 0);
+    EXPECT_EQ(frame[0xFFFFFFF8], 0xEE);
+    munmap(frame, most);
+}
 
 TEST_F(FieldCopies, each_mode)
 {

@@ -36,6 +36,8 @@ public:
     std::function<void*(unsigned int)> allocate;  // of ZKAlloc; empty: memory named block1, block2, ...
     std::string fourcc_class;                     // the one predicate that says yes, as "fccIsRGB"
     unsigned int matrix = 709;                    // of GetMatrixBySize
+    int decoded = -7;                             // of the four decoders
+    bool copies = true;                           // whether CopyMemoryFast copies
 
     // The `nth` call of `function` from now on, counted from 1, is logged and throws Thrown.
     void throw_at(const std::string& function, int nth) { throws_[function] = nth; }

@@ -126,16 +126,18 @@ TEST(Rgb16BitEdges, keeps_flip_one_line_off_beside_exact_flips)
     }
 }
 
-TEST(Rgb16BitEdges, keeps_flip_one_line_off_of_counts_above_2_to_the_31)
+// The low 32 bits of a magnitude as a signed number: no work where they are 0 or negative.
+TEST(Rgb16BitEdges, keeps_signed_32_bit_count)
 {
-    FencedBuffer frame({-4096, 4096}, 4096, Side::above, Closed::wholly);
     for (auto* routine : {tntvt_bgr48_rgba32, tntvt_rgba32_bgr48}) {
-        for (const long lines : {0x80000000L, 0xFFFFFFFFL, 0x180000000L})
+        for (const long lines : {0x80000000L, 0xFFFFFFFFL, 0x180000000L, 0x1FFFFFFFFL, 0x100000000L, 0x700000000L})
+            for (const long height : {lines, -lines})
+                EXPECT_FALSE(faults([&] { routine(nullptr, 4096, nullptr, 4096, 1, height, 16); })) << height;
+        FencedBuffer frame({-4096, 4096}, 4096, Side::above, Closed::wholly);
+        for (const long lines : {0x7FFFFFFFL, 0x17FFFFFFFL})
             for (const long height : {lines, -lines})
                 EXPECT_TRUE(faults([&] { routine(frame.pointer(), 4096, frame.pointer(), 4096, 1, height, 16); }))
                     << height;
-        for (const long height : {0x100000000L, -0x100000000L, 0x700000000L})
-            EXPECT_FALSE(faults([&] { routine(nullptr, 4096, nullptr, 4096, 1, height, 16); })) << height;
     }
 }
 

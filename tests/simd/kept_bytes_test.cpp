@@ -124,7 +124,7 @@ private:
     std::vector<Buffer> buffers_;
 };
 
-constexpr long most_instructions = 20'000;  // a step takes microseconds
+constexpr long most_instructions = 4'000;  // a step takes microseconds
 
 bool loses_updates(const Routine& routine, const Arguments& call, InstructionSet level, Random& random)
 {
@@ -151,22 +151,25 @@ protected:
 
 TEST_P(KeptBytes, are_not_stored)
 {
-    for (int round = 0; round < 4; ++round) {
+    const bool has_modes = routine.name == "tntvt_2yuv_average_2y";
+    for (int round = 0; round < (has_modes ? 6 : 2); ++round) {
         Arguments call;
         if (!random_call(random, routine, random.between(70, 150), &call)) continue;
-        if (routine.name == "tntvt_2yuv_average_2y") call[Arg::mode] = round + 1;
+        if (has_modes) call[Arg::mode] = round + 1;
         for (const InstructionSet level : levels())
             EXPECT_FALSE(loses_updates(routine, call, level, random)) << "level " << static_cast<int>(level);
     }
 }
 
+// One routine puts its samples into words of which its neighbours have the other bits, and stores whole words.
 std::vector<const Routine*> routines_that_write()
 {
     std::vector<const Routine*> result;
     for (const Routine& routine : routines())
         if (std::ranges::any_of(routine.arguments, [](Arg a) { return describe(a).kind == Argument::buffer; }) &&
             std::ranges::none_of(routine.arguments,
-                                 [](Arg a) { return a == Arg::palette || a == Arg::packet || a == Arg::raw; }))
+                                 [](Arg a) { return a == Arg::palette || a == Arg::packet || a == Arg::raw; }) &&
+            routine.name != "tntvt_4175_to_v210")
             result.push_back(&routine);
     return result;
 }

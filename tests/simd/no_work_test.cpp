@@ -19,8 +19,7 @@ namespace {
 
 using namespace catalog;
 
-// Enough to build a routine's tables in its first call.
-constexpr long most_instructions = 300'000;
+constexpr long most_instructions = 5'000;
 
 bool returns_at_once(const std::function<void()>& work)
 {
@@ -42,11 +41,19 @@ int64_t most(std::string_view type)
     return type == "int" ? INT_MAX : static_cast<int64_t>(UINT_MAX);
 }
 
-// A negative number is no work, but as an unsigned one, or as a factor of 32 bits, it is some.
-bool counts_below_0(const Routine& routine, const Arguments& call, Arg argument)
+// Whether the call is one with work: some routines go by a stride alone, some take `height` + 1 lines, and a negative
+// number is some work as an unsigned one or as a factor of 32 bits.
+bool has_work(const Routine& routine, Arguments call, Arg empty, Arg large)
 {
-    return type_of(routine, argument).starts_with("unsigned") || routine.name == "tntvt_rgba_addalpha" ||
-           routine.extents(call).begin() != routine.extents(call).end();
+    if (call[empty] < 0 && (type_of(routine, empty).starts_with("unsigned") || routine.name == "tntvt_rgba_addalpha"))
+        return true;
+    const auto touches = [&] {
+        const Extents extents = routine.extents(call);
+        return std::ranges::any_of(extents, [](const Touch& touch) { return !touch.touched.empty(); });
+    };
+    if (touches()) return true;
+    call[large] = 64;
+    return touches();
 }
 
 class NoWork : public testing::TestWithParam<const Routine*> {
@@ -63,10 +70,12 @@ protected:
         Arguments call = plain_call(routine, {.width = 64, .height = 2, .scale = 2});
         call[Arg::dst] = 0x10000;
         call[Arg::src] = 0x20000;
+        call[Arg::width] = call[Arg::height] = 0;
+        routine.call(call);  // builds what tables there are
         call[large] = most(type_of(routine, large));
         for (const int64_t none : {0, -1}) {
             call[empty] = none;
-            if (none < 0 && counts_below_0(routine, call, empty)) continue;
+            if (has_work(routine, call, empty, large)) continue;
             for (const InstructionSet level : {InstructionSet::scalar, InstructionSet::avx2, InstructionSet::avx512}) {
                 highest_instruction_set = level;
                 EXPECT_TRUE(returns_at_once([&] { routine.call(call); }))
@@ -78,19 +87,26 @@ protected:
     const Routine& routine = *GetParam();
 };
 
-TEST_P(NoWork, without_pixels_in_a_line)
-{
-    if (routine.name == "tntvt_rgba_full") GTEST_SKIP() << "a width of 0 divides by zero";
-    expect_return(Arg::width, Arg::height);
-}
+TEST_P(NoWork, without_pixels_in_a_line) { expect_return(Arg::width, Arg::height); }
 
 TEST_P(NoWork, without_lines) { expect_return(Arg::height, Arg::width); }
+
+// Left out: what divides by `width`, makes packets, or walks and copies the lines of any frame.
+bool returns_without_pixels(const Routine& routine)
+{
+    constexpr std::string_view others[] = {
+        "tntvt_rgba_full",       "tntvt_v210_frame_to_rtp_4175", "tntvt_YCbCr10Packed_to_v210",
+        "tntvt_deinterlace_rgb", "tntvt_fld_sep_to_mix32",       "tntvt_fld_mix_to_sep32",
+    };
+    return std::ranges::find(others, routine.name) == std::end(others);
+}
 
 std::vector<const Routine*> routines_of_frames()
 {
     std::vector<const Routine*> result;
     for (const Routine& routine : routines())
-        if (takes(routine, Arg::width) && takes(routine, Arg::height)) result.push_back(&routine);
+        if (takes(routine, Arg::width) && takes(routine, Arg::height) && returns_without_pixels(routine))
+            result.push_back(&routine);
     return result;
 }
 

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <tintvert.h>
 
 #include <algorithm>
@@ -324,6 +325,26 @@ TEST(Yuy2Edges, keeps_drift_of_odd_width)
     EXPECT_EQ(y, (Bytes{0, 2, 4, 6, 12, 18, 20, 22, 24, 30, 32, 0xEE}));
     EXPECT_EQ(cb, (Bytes{5, 23, 27, 0xEE}));
     EXPECT_EQ(cr, (Bytes{7, 25, 29, 0xEE}));
+}
+
+// Distances are `int`: of 0x40000000 pixels the second line of a pair is 2^31 bytes before the first, and the pairs are
+// 0 bytes apart; of 0x7FFFFFFF it is 2 bytes before, and each pair is 4 bytes before the last.
+TEST(Yuy2Edges, source_pitches_wrap_at_32_bits)
+{
+    constexpr size_t half = size_t{1} << 31;
+    auto* const memory = static_cast<unsigned char*>(
+        mmap(nullptr, 2 * half, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+    ASSERT_NE(memory, MAP_FAILED);
+    unsigned char* const src = memory + half;
+    for (int i = 0; i < 64; ++i) memory[i] = static_cast<uint8_t>(100 + i), src[i] = static_cast<uint8_t>(i);
+    Bytes y(8), cb(2), cr(2);
+    YUY2toYV12(src, y.data(), cb.data(), cr.data(), 2, 4, 0x40000000, 2);
+    EXPECT_EQ(y, (Bytes{0, 2, 100, 102, 0, 2, 100, 102}));
+    EXPECT_EQ(cb, (Bytes{51, 51}));
+    YUY2toYV12(src + 8, y.data(), cb.data(), cr.data(), 2, 4, 0x7FFFFFFF, 2);
+    EXPECT_EQ(y, (Bytes{8, 10, 6, 8, 4, 6, 2, 4}));
+    EXPECT_EQ(cb, (Bytes{8, 4}));
+    munmap(memory, 2 * half);
 }
 
 TEST(Yuy2Edges, nothing_to_do)

@@ -169,28 +169,28 @@ Result<void> _v210_to_rgb(Buffer src, Buffer dst, int width, int height, int dst
                           const Options& options = {});
 
 // v210 to 24-bit RGB by tables, with default strides.
-Result<void> tntvt_yuv422_10_rgb24(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
-                                   long scale, const Options& options = {});
+Result<int> tntvt_yuv422_10_rgb24(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
+                                  long scale, const Options& options = {});
 
 // v210 to 32-bit RGB, by libycbcr or reduced by tables.
-Result<void> tntvt_yuv422_10_rgb32(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
-                                   long scale, const Options& options = {});
+Result<int> tntvt_yuv422_10_rgb32(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
+                                  long scale, const Options& options = {});
 
 // 4:2:2 to RGB, by the v210 decoder of libycbcr or reduced by tables.
-Result<void> tntvt_yuv422_8_rgb24(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
-                                  long scale, const Options& options = {});
+Result<int> tntvt_yuv422_8_rgb24(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
+                                 long scale, const Options& options = {});
 
 // 4:2:2 to 32-bit RGB, by libycbcr or reduced by tables.
-Result<void> tntvt_yuv422_8_rgb32(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
-                                  long scale, const Options& options = {});
+Result<int> tntvt_yuv422_8_rgb32(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
+                                 long scale, const Options& options = {});
 
 // 4:2:0 to 32-bit RGB by libycbcr, Cb plane first.
-Result<void> tntvt_i420_rgb32(Buffer dst, Buffer src, unsigned int width, unsigned int height, unsigned int srcStride,
-                              const Options& options = {});
+Result<int> tntvt_i420_rgb32(Buffer dst, Buffer src, unsigned int width, unsigned int height, unsigned int srcStride,
+                             const Options& options = {});
 
 // 4:2:0 to 32-bit RGB by libycbcr, Cr plane first.
-Result<void> tntvt_yv12_rgb32(Buffer dst, Buffer src, unsigned int width, unsigned int height, unsigned int srcStride,
-                              const Options& options = {});
+Result<int> tntvt_yv12_rgb32(Buffer dst, Buffer src, unsigned int width, unsigned int height, unsigned int srcStride,
+                             const Options& options = {});
 
 // 4:4:4 to 32-bit RGB with the JPEG coefficients, unclamped.
 Result<void> tntvt_yuvijg_rgb32(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,

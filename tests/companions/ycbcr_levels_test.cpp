@@ -148,14 +148,14 @@ TEST_F(CycbcrLevelsExhaustive, a_seventh_of_the_10_bit_triples)
 // A form whose wide steps get the luma of their last pixel wrong.
 template <class Form>
 struct WrongStep : Form {
-    TNTVT_AVX2 void step(uint8_t* dst, int x, const width_256::VecWeights& w) const
+    TNTVT_AVX2 void step(uint8_t* dst, int x, const ycbcr::width_256::VecWeights& w) const
     {
         Form::step(dst, x, w);
         dst[4 * (Form::step_pixels - 1)] ^= 1;
     }
-    TNTVT_AVX512 width_512::Operands operands(int step, int part, int pixels) const
+    TNTVT_AVX512 ycbcr::width_512::Operands operands(int step, int part, int pixels) const
     {
-        const width_512::Operands right = Form::operands(step, part, pixels);
+        const ycbcr::width_512::Operands right = Form::operands(step, part, pixels);
         alignas(64) uint16_t luma[32];
         _mm512_store_si512(luma, right.luma);
         luma[pixels - 1] ^= 0x4000;

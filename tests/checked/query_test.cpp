@@ -19,7 +19,7 @@ TEST(CheckedQuery, tells_the_extents_and_touches_nothing)
             const Scene before = scene;
             for (const auto call : {call_checked, call_checked_in_c}) {
                 checked::Extents told;
-                ASSERT_TRUE(call(routine, numbers, scene.given(), {.query = &told}).error);
+                ASSERT_TRUE(call(routine, numbers, scene.given(), {.query = &told}).error.ok());
                 ASSERT_TRUE(scene.same_bytes(before));
                 const catalog::Extents extents = routine.extents(numbers);
                 ASSERT_EQ(told.end() - told.begin(), extents.end() - extents.begin());
@@ -38,7 +38,7 @@ TEST(CheckedQuery, tells_the_extents_and_touches_nothing)
 TEST(CheckedQuery, needs_no_buffers)
 {
     checked::Extents needs;
-    ASSERT_TRUE(checked::tntvt_2vuy_v210({}, {}, 1280, 720, 0, {.query = &needs}));
+    ASSERT_TRUE(checked::tntvt_2vuy_v210({}, {}, 1280, 720, 0, {.query = &needs}).ok());
     EXPECT_EQ(needs.begin()[0].written.to, 719 * 3456 + 3424);
 }
 

@@ -66,7 +66,7 @@ CallPlan plan_call(const catalog::Routine& routine, const catalog::Arguments& ar
     CallPlan plan{&routine, arguments, {}, {}};
     if (const auto [refusal, why] = catalog::reason(routine, plan.arguments); refusal != catalog::Refusal::none)
         throw Failure(Exit::unsafe, "refused: {} ({})", why, catalog::name_of(refusal));
-    if (takes(routine, Arg::palette) && routine.from == "rle8") {
+    if (takes(routine, Arg::palette) && routine.from->name == "rle8") {
         plan.stream = plain_stream(size.width, size.height);
         plan.arguments[Arg::src] = reinterpret_cast<int64_t>(plan.stream.data());
         plan.arguments[Arg::streamSize] = static_cast<int64_t>(plan.stream.size());

@@ -49,18 +49,18 @@ RoutineJob routine_job(const Routine& routine, const RoutineOptions& options, Si
         return result;
     };
     // `stride` is the packed side's of a pair, and both sides' of routines that take any layout.
-    const bool reads_stride = routine.from == "2vuy" || routine.from == "none";
-    job.from = reads_stride ? form(routine.from, size, {Arg::srcStride, Arg::stride})
-                            : form(routine.from, size, {Arg::srcStride});
+    const bool reads_stride = routine.from->name == "2vuy" || routine.from->name == "none";
+    job.from = reads_stride ? form(routine.from->name, size, {Arg::srcStride, Arg::stride})
+                            : form(routine.from->name, size, {Arg::srcStride});
     // Red stands first in what this one writes.
-    const std::string_view to = routine.name == "tntvt_rgb10_rgb48" ? "bgr48" : routine.to;
+    const std::string_view to = routine.name == "tntvt_rgb10_rgb48" ? "bgr48" : routine.to->name;
     job.to = form(to, reduces ? Size{size.width / reduction, size.height / reduction} : size,
-                  reads_stride && routine.to != "none" ? std::initializer_list<Arg>{Arg::dstStride}
+                  reads_stride && routine.to->name != "none" ? std::initializer_list<Arg>{Arg::dstStride}
                                                        : std::initializer_list<Arg>{Arg::dstStride, Arg::stride});
     Conversion conversion(routine, call);
     job.from.parts = sizes_of(conversion.inputs());
     job.to.parts = sizes_of(conversion.outputs());
-    job.from.unbroken = routine.shape == "run_to_rgb";
+    job.from.unbroken = routine.shape->name == "run_to_rgb";
     return job;
 }
 

@@ -48,7 +48,7 @@ Bytes through_routine(const catalog::Routine& routine, PeerQuestion* question)
 {
     Conversion conversion(routine, catalog::plain_call(routine, {noise_width, noise_height}));
     question->frame = noise(joined(conversion.inputs()).size());
-    if (routine.from != "none") clear_unused(question);
+    if (routine.from->name != "none") clear_unused(question);
     auto from = question->frame.begin();
     for (const auto& buffer : conversion.inputs()) {
         std::copy_n(from, buffer.size(), buffer.begin());
@@ -104,7 +104,7 @@ std::vector<catalog::PlacedPlane> PeerQuestion::planes(std::string_view layout) 
 PeerVerdict verify_by_peer(const PeerCheck& check)
 {
     const catalog::Routine& routine = *catalog::find(check.routine);
-    PeerQuestion question{check.peer, check.asked, routine.from, routine.to, {}, noise_width, noise_height};
+    PeerQuestion question{check.peer, check.asked, routine.from->name, routine.to->name, {}, noise_width, noise_height};
     Bytes ours = through_routine(routine, &question);
     if (check.direction == PeerCheck::back) {
         std::swap(question.from, question.to);

@@ -19,7 +19,7 @@ inline void to_c(const Extents& extents, tntvt_checked_extents& query)
 
 inline tntvt_checked_result to_c(const Status& error)
 {
-    if (error) return {TNTVT_CHECKED_OK, {}, error.routine, "", "", "", 0, 0, 0, {0, 0}, 0, nullptr};
+    if (error.ok()) return {TNTVT_CHECKED_OK, {}, error.routine, "", "", "", 0, 0, 0, {0, 0}, 0, nullptr};
     return {static_cast<tntvt_checked_code>(error.code),
             static_cast<tntvt_checked_refusal>(error.refusal),
             error.routine,

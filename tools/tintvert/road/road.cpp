@@ -99,7 +99,8 @@ Place after(const Place& before, const Step& step, Size size)
     if (step.wraps) lose(wrapped, "colours outside the RGB cube wrap");
     fit(into, step.chroma_by, place, words);
     if (step.alpha_0) place.picture.alpha_0 = true;
-    place.road.stretches.push_back({&routine, step.from.empty() ? routine.from->name : step.from, to, std::move(words)});
+    place.road.stretches.push_back(
+        {&routine, step.from.empty() ? routine.from->name : step.from, to, std::move(words)});
     return place;
 }
 

@@ -14,6 +14,7 @@ enum class Matrix { none, bt601, by_size };
 enum class ChromaLoss { none, filtered, dropped, averaged };
 
 struct Step {
+    int rank = 0;                                 // of several paths that lose the same, the lower rank is preferred
     const Layout *from = nullptr, *to = nullptr;  // where they differ from those of the record
     Matrix matrix = Matrix::none;
     ChromaLoss chroma = ChromaLoss::none;

@@ -11,7 +11,7 @@ constinit const Routine records::tntvt_yuv422_rgb24 = record<RoutineId::tntvt_yu
      .refuses = refusals::no_scale,
      .quirks = {"keeps_form_by_stride"},
      .peers = {near(zimg("BT.601 of 8 bits"), Peer::within1), near(libyuv("UYVYToARGB"))},
-     .steps = {{.matrix = Matrix::bt601}},
+     .steps = {{.rank = 7, .matrix = Matrix::bt601}},
      .summary = "4:2:2 to 24 or 32-bit RGB by tables, reduced by 1, 2 or 4."});
 
 constinit const Routine records::tntvt_yuv422_rgb16 = record<RoutineId::tntvt_yuv422_rgb16, shapes::strided_scale>(
@@ -32,7 +32,7 @@ constinit const Routine records::tntvt_v210_rgb24 = record<RoutineId::tntvt_v210
      .quirks = {"keeps_form_by_stride"},
      .peers = {near(gstreamer<"v210", "BGRA", " chroma-mode=none chroma-resampler=nearest ">),
                near(zimg("BT.601 of 8 bits"), Peer::within1)},
-     .steps = {{.matrix = Matrix::bt601}},
+     .steps = {{.rank = 8, .matrix = Matrix::bt601}},
      .summary = "10-bit 4:2:2 to 24 or 32-bit RGB by 8-bit tables, reduced by 1, 2 or 4."});
 
 constinit const Routine records::tntvt_v210_rgb16 = record<RoutineId::tntvt_v210_rgb16, shapes::strided_scale>(
@@ -80,7 +80,7 @@ constinit const Routine records::tntvt_yuv422_10_rgb32 =
          .extents = extents::yuv422_10_rgb32,
          .refuses = refusals::by_matrix_or_scale,
          .companions = {"GetMatrixBySize", "cycbcr_012v_to_rgb32"},
-         .steps = {{.matrix = Matrix::by_size}},
+         .steps = {{.rank = 4, .matrix = Matrix::by_size}},
          .summary = "v210 to 32-bit RGB, by libycbcr or reduced by tables."});
 
 constinit const Routine records::tntvt_yuv422_8_rgb24 = record<RoutineId::tntvt_yuv422_8_rgb24, shapes::strided_scale>(
@@ -102,7 +102,7 @@ constinit const Routine records::tntvt_yuv422_8_rgb32 = record<RoutineId::tntvt_
      .refuses = refusals::by_matrix_or_scale,
      .companions = {"GetMatrixBySize", "cycbcr_uyvy_to_rgb32"},
      .peers = {near(libyuv("UYVYToARGB"))},
-     .steps = {{.matrix = Matrix::by_size}},
+     .steps = {{.rank = 3, .matrix = Matrix::by_size}},
      .summary = "4:2:2 to 32-bit RGB, by libycbcr or reduced by tables."});
 
 constinit const Routine records::tntvt_i420_rgb32 = record<RoutineId::tntvt_i420_rgb32, shapes::packed_420>(
@@ -113,7 +113,7 @@ constinit const Routine records::tntvt_i420_rgb32 = record<RoutineId::tntvt_i420
      .refuses = refusals::planes_to_rgb32,
      .companions = {"GetMatrixBySize", "cycbcr_i420_to_rgb32"},
      .peers = {near(libyuv("I420ToARGB"))},
-     .steps = {{.matrix = Matrix::by_size}},
+     .steps = {{.rank = 5, .matrix = Matrix::by_size}},
      .summary = "4:2:0 to 32-bit RGB by libycbcr, Cb plane first."});
 
 constinit const Routine records::tntvt_yv12_rgb32 = record<RoutineId::tntvt_yv12_rgb32, shapes::packed_420>(
@@ -123,7 +123,7 @@ constinit const Routine records::tntvt_yv12_rgb32 = record<RoutineId::tntvt_yv12
      .extents = extents::yuv420_rgb32,
      .refuses = refusals::planes_to_rgb32,
      .companions = {"GetMatrixBySize", "cycbcr_yv12_to_rgb32"},
-     .steps = {{.matrix = Matrix::by_size}},
+     .steps = {{.rank = 6, .matrix = Matrix::by_size}},
      .summary = "4:2:0 to 32-bit RGB by libycbcr, Cr plane first."});
 
 constinit const Routine records::tntvt_yuvijg_rgb32 = record<RoutineId::tntvt_yuvijg_rgb32, shapes::strided>(
@@ -133,7 +133,7 @@ constinit const Routine records::tntvt_yuvijg_rgb32 = record<RoutineId::tntvt_yu
      .extents = extents::yuvijg_rgb32,
      .quirks = {"keeps_wrap_outside_the_cube", "keeps_alpha_0_of_yuvijg"},
      .peers = {near(ffmpeg<"yuv444p", "bgra", " -vf scale=in_range=full:flags=accurate_rnd ">)},
-     .steps = {{.matrix = Matrix::bt601, .wraps = true, .alpha_0 = true}},
+     .steps = {{.rank = 9, .matrix = Matrix::bt601, .wraps = true, .alpha_0 = true}},
      .summary = "4:4:4 to 32-bit RGB with the JPEG coefficients, unclamped."});
 
 }  // namespace tintvert::catalog

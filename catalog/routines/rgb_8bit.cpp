@@ -30,7 +30,7 @@ constinit const Routine records::tntvt_rgba32_rgb24 = record<RoutineId::tntvt_rg
      .extents = extents::narrowed_frame,
      .in_place = {as_apart, in_place_rules::words_shrink},
      .peers = {ffmpeg<"bgra", "bgr24">, libyuv("ARGBToRGB24")},
-     .steps = {Step{}},
+     .steps = {{.rank = 27}},
      .summary = "32-bit pixels cut down to their first three bytes."});
 
 constinit const Routine records::tntvt_rgb32_rgb24_inplace =
@@ -75,7 +75,7 @@ constinit const Routine records::tntvt_rgb32_bgr24_inplace =
          .alias_of = &tntvt_rgba32_bgr24_inplace,
          .quirks = {"keeps_guard_of_first_pixel_only"},
          .peers = {ffmpeg<"bgra", "rgb24">, libyuv("ARGBToRAW")},
-         .steps = {Step{}},
+         .steps = {{.rank = 28}},
          .summary = "32-bit pixels cut down to their first three bytes, reversed."});
 
 constinit const Routine records::tntvt_rgba32_rgb24_invert =
@@ -132,7 +132,7 @@ constinit const Routine records::tntvt_rgb24_rgb32 =
                                                            .alias_of = &tntvt_rgb24_rgba32,
                                                            .quirks = {"keeps_ascending_writes_in_place"},
                                                            .peers = {ffmpeg<"bgr24", "bgra">, libyuv("RGB24ToARGB")},
-                                                           .steps = {Step{}},
+                                                           .steps = {{.rank = 29}},
                                                            .summary = "24-bit pixels with an alpha of 255 added."});
 
 constinit const Routine records::tntvt_rgb24_bgra32_inplace =
@@ -156,7 +156,7 @@ constinit const Routine records::tntvt_rgb24_bgr32_inplace =
          .alias_of = &tntvt_rgb24_bgra32_inplace,
          .quirks = {"keeps_descending_writes_in_place"},
          .peers = {ffmpeg<"bgr24", "rgba">, libyuv("RAWToARGB")},
-         .steps = {Step{}, {.from = &layout::bgr24, .to = &layout::rgb32}},
+         .steps = {{.rank = 30}, {.rank = 31, .from = &layout::bgr24, .to = &layout::rgb32}},
          .summary = "24-bit pixels reversed, with an alpha of 255 added."});
 
 constinit const Routine records::tntvt_rgb16_rgba32_inplace =
@@ -202,7 +202,7 @@ constinit const Routine records::tntvt_rgb16_rgb32 = record<RoutineId::tntvt_rgb
      .alias_of = &tntvt_rgb16_rgba32,
      .quirks = {"keeps_low_bits_of_rgb16_clear"},
      .peers = {near(gstreamer<"rgb15", "BGRA">), back(gstreamer<"bgra", "RGB15">), near(libyuv("ARGB1555ToARGB"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 39}},
      .summary = "15-bit RGB to 32 bits, five bits at the top of each byte, alpha 255."});
 
 constinit const Routine records::tntvt_macbgr24_macargb32_inplace =
@@ -213,7 +213,7 @@ constinit const Routine records::tntvt_macbgr24_macargb32_inplace =
          .extents = extents::widened_alpha_first,
          .in_place = {as_apart, in_place_rules::tight_24_to_32},
          .peers = {ffmpeg<"rgb24", "argb">},
-         .steps = {{.from = &layout::bgr24, .to = &layout::abgr32}},
+         .steps = {{.rank = 32, .from = &layout::bgr24, .to = &layout::abgr32}},
          .summary = "24-bit pixels with an alpha of 255 in front."});
 
 constinit const Routine records::tntvt_rgba24_rgb32_invert =

@@ -50,7 +50,7 @@ constinit const Routine records::argb2rgba =
                                                     .extents = extents::words_run,
                                                     .in_place = {as_apart, in_place_rules::always},
                                                     .peers = {ffmpeg<"rgba", "argb">, libyuv("ARGBToRGBA")},
-                                                    .steps = {Step{}},
+                                                    .steps = {{.rank = 38}},
                                                     .summary = "Words rotated left by 8 bits: b3, b0, b1, b2."});
 
 constinit const Routine records::abgr2bgra =
@@ -120,7 +120,7 @@ constinit const Routine records::tntvt_rgba32_bgra32_inplace =
          .extents = extents::words_frame,
          .in_place = {as_apart, in_place_rules::words},
          .peers = {ffmpeg<"bgra", "rgba">, libyuv("ARGBToABGR")},
-         .steps = {Step{}, {.from = &layout::bgra32, .to = &layout::rgb32}},
+         .steps = {{.rank = 33}, {.rank = 34, .from = &layout::bgra32, .to = &layout::rgb32}},
          .summary = "Bytes 0 and 2 exchanged."});
 
 constinit const Routine records::tntvt_rgb32_bgr32_inplace =
@@ -142,7 +142,7 @@ constinit const Routine records::tntvt_rgba32_abgr32_inplace =
          .extents = extents::words_frame,
          .in_place = {as_apart, in_place_rules::words},
          .peers = {ffmpeg<"bgra", "argb">, libyuv("ARGBToBGRA")},
-         .steps = {Step{}, {.from = &layout::abgr32, .to = &layout::rgb32}},
+         .steps = {{.rank = 35}, {.rank = 36, .from = &layout::abgr32, .to = &layout::rgb32}},
          .summary = "The four bytes reversed."});
 
 constinit const Routine records::tntvt_rgba32_argb32 =
@@ -152,7 +152,7 @@ constinit const Routine records::tntvt_rgba32_argb32 =
                                                              .extents = extents::words_frame,
                                                              .in_place = {as_apart, in_place_rules::words},
                                                              .peers = {ffmpeg<"argb", "rgba">, libyuv("RGBAToARGB")},
-                                                             .steps = {Step{}},
+                                                             .steps = {{.rank = 37}},
                                                              .summary = "Words rotated right by 8 bits."});
 
 constinit const Routine records::tntvt_argb32_rgba32 = record<RoutineId::tntvt_argb32_rgba32, shapes::strided>(

@@ -29,7 +29,7 @@ constinit const Routine records::tntvt_rgb10_rgba32 = record<RoutineId::tntvt_rg
      .quirks = {"keeps_flip_sense_by_byte_order"},
      .peers = {near(command("ffmpeg -f rawvideo -c:v r10k -s WxH -i in -f rawvideo -pix_fmt bgra out")),
                near(libyuv("AR30ToARGB"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 41}},
      .summary = "10-bit words to the top 8 bits of each field, opaque alpha."});
 
 constinit const Routine records::tntvt_rgb12_bgr48 = record<RoutineId::tntvt_rgb12_bgr48, shapes::strided>(
@@ -38,7 +38,7 @@ constinit const Routine records::tntvt_rgb12_bgr48 = record<RoutineId::tntvt_rgb
      .to = &layout::bgr48,
      .extents = extents::rgb12_bgr48,
      .peers = {back(oiiotool("dpx"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 42}},
      .summary = "Packed 12-bit samples to 16-bit words, in the order of the stream."});
 
 constinit const Routine records::tntvt_rgb12_rgb48 = record<RoutineId::tntvt_rgb12_rgb48, shapes::strided>(
@@ -65,7 +65,7 @@ constinit const Routine records::tntvt_rgb48_12_rgb12 = record<RoutineId::tntvt_
      .refuses = refusals::packed_lines,
      .quirks = {"keeps_bits_behind_the_limit", "keeps_two_bit_orders"},
      .peers = {by_bytes(oiiotool("tiff"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 44}},
      .summary = "The low 12 bits of 16-bit words to packed samples, highest bit first."});
 
 constinit const Routine records::tntvt_rgb48_rgb12 = record<RoutineId::tntvt_rgb48_rgb12, shapes::strided>(
@@ -76,7 +76,7 @@ constinit const Routine records::tntvt_rgb48_rgb12 = record<RoutineId::tntvt_rgb
      .refuses = refusals::packed_lines,
      .quirks = {"keeps_bits_behind_the_limit", "keeps_two_bit_orders"},
      .peers = {by_bytes(oiiotool("tiff"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 43}},
      .summary = "The upper 12 bits of 16-bit words to packed samples, highest bit first."});
 
 constinit const Routine records::tntvt_rgb48_12_rgba32 = record<RoutineId::tntvt_rgb48_12_rgba32, shapes::strided>(

@@ -55,7 +55,7 @@ constinit const Routine records::tntvt_2vuy_v210 = record<RoutineId::tntvt_2vuy_
      .refuses = refusals::widened_2vuy,
      .quirks = {"keeps_lines_of_64_bytes", "keeps_last_line_first_without_guard"},
      .peers = {gstreamer<"uyvy", "v210">},
-     .steps = {Step{}},
+     .steps = {{.rank = 24}},
      .summary = "8-bit to 10-bit 4:2:2, samples times 4."});
 
 constinit const Routine records::tntvt_v210_2vuy = record<RoutineId::tntvt_v210_2vuy, shapes::strided_to_packed>(
@@ -66,7 +66,7 @@ constinit const Routine records::tntvt_v210_2vuy = record<RoutineId::tntvt_v210_
      .refuses = refusals::narrowed_v210,
      .quirks = {"keeps_unrounded_lines", "keeps_double_length_lines"},
      .peers = {gstreamer<"v210", "UYVY">},
-     .steps = {Step{}},
+     .steps = {{.rank = 25}},
      .summary = "10-bit to 8-bit 4:2:2, low bits dropped; lines run to twice their length."});
 
 constinit const Routine records::tntvt_yuv422_8_yuv422_10 =
@@ -109,7 +109,7 @@ constinit const Routine records::tntvt_YCbCr10Packed_to_v210 =
                                                                       .refuses = refusals::packed10,
                                                                       .quirks = {"keeps_pair_past_odd_width"},
                                                                       .peers = {gstreamer<"uyvp", "v210">},
-                                                                      .steps = {Step{}},
+                                                                      .steps = {{.rank = 26}},
                                                                       .summary = "A packed 10-bit frame to v210."});
 
 constinit const Routine records::tntvt_v210_frame_to_rtp_4175 =

@@ -10,7 +10,7 @@ constinit const Routine records::argb_to_2vuy = record<RoutineId::argb_to_2vuy, 
      .extents = extents::argb_run_to_2vuy,
      .in_place = {as_apart, in_place_rules::always},
      .quirks = {"keeps_truncation_of_grey"},
-     .steps = {{.from = &layout::abgr32, .matrix = Matrix::bt601, .chroma = ChromaLoss::filtered}},
+     .steps = {{.rank = 2, .from = &layout::abgr32, .matrix = Matrix::bt601, .chroma = ChromaLoss::filtered}},
      .summary = "RGB to 4:2:2, BT.601 video range, one run of pixels."});
 
 constinit const Routine records::bgra_to_2vuy = record<RoutineId::bgra_to_2vuy, shapes::line>(
@@ -42,7 +42,7 @@ constinit const Routine records::tntvt_rgb32_2vuy = record<RoutineId::tntvt_rgb3
      .in_place = {as_apart, in_place_rules::always},
      .quirks = {"keeps_one_run_whatever_the_strides"},
      .peers = {near(gstreamer<"bgra", "UYVY">), near(libyuv("ARGBToUYVY"))},
-     .steps = {{.matrix = Matrix::bt601, .chroma = ChromaLoss::filtered}},
+     .steps = {{.rank = 1, .matrix = Matrix::bt601, .chroma = ChromaLoss::filtered}},
      .summary = "RGB to 4:2:2, BT.601 video range, the frame as one run."});
 
 constinit const Routine records::yuv2_to_2vuy = record<RoutineId::yuv2_to_2vuy, shapes::line>(
@@ -71,7 +71,7 @@ constinit const Routine records::tntvt_yuv2_2vuy = record<RoutineId::tntvt_yuv2_
      .refuses = refusals::run_of_pixels,
      .in_place = {as_apart, in_place_rules::always},
      .quirks = {"keeps_zero_chroma_like_one"},
-     .steps = {Step{}},
+     .steps = {{.rank = 10}},
      .summary = "Full-range 4:2:2 with signed chroma to video range, the frame as one run."});
 
 constinit const Routine records::tntvt_yuvu_2vuy = record<RoutineId::tntvt_yuvu_2vuy, shapes::unstrided>(
@@ -93,7 +93,7 @@ constinit const Routine records::tntvt_yuvs_2vuy = record<RoutineId::tntvt_yuvs_
      .refuses = refusals::run_of_pixels,
      .in_place = {as_apart, in_place_rules::always},
      .quirks = {"keeps_zero_chroma_like_one"},
-     .steps = {Step{}},
+     .steps = {{.rank = 11}},
      .summary = "Full-range 4:2:2 to video range, the frame as one run."});
 
 constinit const Routine records::tntvt_yuv444_yuv422_8 = record<RoutineId::tntvt_yuv444_yuv422_8, shapes::packed_run>(
@@ -105,7 +105,7 @@ constinit const Routine records::tntvt_yuv444_yuv422_8 = record<RoutineId::tntvt
      .in_place = {fails},
      .quirks = {"keeps_frames_of_444_unbroken", "keeps_store_before_load_of_444"},
      .peers = {gstreamer<"v308", "UYVY", " chroma-mode=none ">},
-     .steps = {{.chroma = ChromaLoss::dropped}},
+     .steps = {{.rank = 12, .chroma = ChromaLoss::dropped}},
      .summary = "4:4:4 to 4:2:2, the chroma of odd pixels dropped."});
 
 constinit const Routine records::tntvt_yuv422_yuv444_8 = record<RoutineId::tntvt_yuv422_yuv444_8, shapes::packed_run>(
@@ -117,7 +117,7 @@ constinit const Routine records::tntvt_yuv422_yuv444_8 = record<RoutineId::tntvt
      .in_place = {fails},
      .quirks = {"keeps_frames_of_444_unbroken", "keeps_store_before_load_of_444"},
      .peers = {gstreamer<"uyvy", "v308", " chroma-mode=none ">},
-     .steps = {Step{}},
+     .steps = {{.rank = 13}},
      .summary = "4:2:2 to 4:4:4, chroma repeated."});
 
 constinit const Routine records::tntvt_yuv411_yuv422_8 = record<RoutineId::tntvt_yuv411_yuv422_8, shapes::packed_empty>(

@@ -10,7 +10,7 @@ constinit const Routine records::tntvt_planar_2vuy = record<RoutineId::tntvt_pla
      .extents = extents::join_planes,
      .quirks = {"keeps_planes_without_lines"},
      .peers = {ffmpeg<"yuv422p", "uyvy422">, libyuv("I422ToUYVY")},
-     .steps = {Step{}},
+     .steps = {{.rank = 14}},
      .summary = "4:2:2 planes to packed 4:2:2, unbroken runs."});
 
 constinit const Routine records::tntvt_2vuy_planar = record<RoutineId::tntvt_2vuy_planar, shapes::part_planes>(
@@ -20,7 +20,7 @@ constinit const Routine records::tntvt_2vuy_planar = record<RoutineId::tntvt_2vu
      .extents = extents::part_planes,
      .quirks = {"keeps_planes_without_lines"},
      .peers = {ffmpeg<"uyvy422", "yuv422p">, libyuv("UYVYToI422")},
-     .steps = {Step{}},
+     .steps = {{.rank = 15}},
      .summary = "Packed 4:2:2 to planes, unbroken runs."});
 
 constinit const Routine records::tntvt_planarfields_2vuy =
@@ -31,7 +31,7 @@ constinit const Routine records::tntvt_planarfields_2vuy =
          .extents = extents::join_fields,
          .refuses = refusals::no_groups,
          .quirks = {"keeps_planes_without_lines", "keeps_fault_of_no_groups"},
-         .steps = {Step{}},
+         .steps = {{.rank = 16}},
          .summary = "Two fields of 4:2:2 planes woven into one packed frame."});
 
 constinit const Routine records::tntvt_i420_2vuy = record<RoutineId::tntvt_i420_2vuy, shapes::packed>(
@@ -42,7 +42,7 @@ constinit const Routine records::tntvt_i420_2vuy = record<RoutineId::tntvt_i420_
      .refuses = refusals::planes_420,
      .quirks = {"keeps_long_luma_lines_of_odd_width"},
      .peers = {gstreamer<"i420", "UYVY", " chroma-mode=none ">, libyuv("I420ToUYVY")},
-     .steps = {Step{}},
+     .steps = {{.rank = 17}},
      .summary = "4:2:0 to 4:2:2, chroma lines repeated."});
 
 constinit const Routine records::tntvt_2vuy_i420 =
@@ -53,7 +53,7 @@ constinit const Routine records::tntvt_2vuy_i420 =
                                                         .refuses = refusals::planes_420,
                                                         .quirks = {"keeps_slack_as_pixels"},
                                                         .peers = {near(libyuv("UYVYToI420"))},
-                                                        .steps = {{.chroma = ChromaLoss::dropped}},
+                                                        .steps = {{.rank = 18, .chroma = ChromaLoss::dropped}},
                                                         .summary = "4:2:2 to 4:2:0, the chroma of odd lines dropped."});
 
 constinit const Routine records::tntvt_yv12_2vuy = record<RoutineId::tntvt_yv12_2vuy, shapes::packed_interlaced>(
@@ -64,7 +64,7 @@ constinit const Routine records::tntvt_yv12_2vuy = record<RoutineId::tntvt_yv12_
      .refuses = refusals::planes_420,
      .quirks = {"keeps_long_luma_lines_of_odd_width", "keeps_interlaced_line_order"},
      .peers = {gstreamer<"yv12", "UYVY", " chroma-mode=none ">, libyuv("I420ToUYVY, Cr first")},
-     .steps = {Step{}},
+     .steps = {{.rank = 19}},
      .summary = "4:2:0, Cr first, to 4:2:2, in order or in the interlaced line order."});
 
 constinit const Routine records::tntvt_2vuy_yv12 = record<RoutineId::tntvt_2vuy_yv12, shapes::packed>(
@@ -74,7 +74,7 @@ constinit const Routine records::tntvt_2vuy_yv12 = record<RoutineId::tntvt_2vuy_
      .extents = extents::planes_420_from_2vuy,
      .refuses = refusals::planes_420,
      .quirks = {"keeps_slack_as_pixels"},
-     .steps = {{.chroma = ChromaLoss::dropped}},
+     .steps = {{.rank = 20, .chroma = ChromaLoss::dropped}},
      .summary = "4:2:2 to 4:2:0, Cr first, the chroma of odd lines dropped."});
 
 constinit const Routine records::YUY2toYV12 = record<RoutineId::YUY2toYV12, shapes::pitches>(
@@ -84,7 +84,7 @@ constinit const Routine records::YUY2toYV12 = record<RoutineId::YUY2toYV12, shap
      .extents = extents::yuy2_to_planes,
      .quirks = {"keeps_drift_of_odd_width"},
      .peers = {libyuv("YUY2ToI420")},
-     .steps = {{.to = &layout::i420, .chroma = ChromaLoss::averaged}},
+     .steps = {{.rank = 21, .to = &layout::i420, .chroma = ChromaLoss::averaged}},
      .summary = "4:2:2 to three 4:2:0 planes, chroma averaged over two lines."});
 
 constinit const Routine records::tntvt_alphay_to_2yuv = record<RoutineId::tntvt_alphay_to_2yuv, shapes::strided>(
@@ -94,7 +94,7 @@ constinit const Routine records::tntvt_alphay_to_2yuv = record<RoutineId::tntvt_
      .extents = extents::alphay_to_2yuv,
      .in_place = {as_apart, in_place_rules::luma_grows},
      .quirks = {"keeps_lines_at_end_of_stride"},
-     .steps = {{.to = &layout::_2vuy}},
+     .steps = {{.rank = 22, .to = &layout::_2vuy}},
      .summary = "A luma plane to 4:2:2 with neutral chroma; may run in place."});
 
 constinit const Routine records::tntvt_2yuv_to_alphay = record<RoutineId::tntvt_2yuv_to_alphay, shapes::strided>(
@@ -105,7 +105,7 @@ constinit const Routine records::tntvt_2yuv_to_alphay = record<RoutineId::tntvt_
      .in_place = {as_apart, in_place_rules::luma_shrinks},
      .quirks = {"keeps_one_line_more"},
      .peers = {near(ffmpeg<"uyvy422", "gray">)},
-     .steps = {{.from = &layout::_2vuy, .chroma = ChromaLoss::dropped}},
+     .steps = {{.rank = 23, .from = &layout::_2vuy, .chroma = ChromaLoss::dropped}},
      .summary = "The luma of 4:2:2 as a plane, height + 1 lines."});
 
 constinit const Routine records::tntvt_alpha_to_rgba = record<RoutineId::tntvt_alpha_to_rgba, shapes::alpha_in>(
@@ -115,7 +115,7 @@ constinit const Routine records::tntvt_alpha_to_rgba = record<RoutineId::tntvt_a
      .extents = extents::alpha_to_rgba,
      .in_place = {fails},
      .peers = {near(libyuv("ARGBCopyYToAlpha"))},
-     .steps = {Step{}},
+     .steps = {{.rank = 40}},
      .summary = "An alpha plane in all four bytes of each pixel."});
 
 constinit const Routine records::tntvt_rgba_to_alpha =

@@ -125,7 +125,7 @@ TEST(CheckedBuffers, messages_tell_where)
               "dst: 4143360 bytes, needs 4147200 (bytes 0-4147199)");
     // One line of `yuv` is read behind the frame.
     EXPECT_EQ(checked::tntvt_2yuv_to_alphay(rgb, 1920, yuv, 3840, 1920, 1080).message(),
-              "src: 4147200 bytes, needs 4151040 (from 1 to 4151040)");
+              "src: 4147200 bytes, needs 4151040 (bytes 1-4151039)");
     // Lines in front of `dst`.
     EXPECT_EQ(checked::tntvt_rgba32_rgb24_invert(rgb, 30, rgb, 40, 10, -2).message(),
               "dst: 8294400 bytes, needs 120 (bytes -120 to -61)");

@@ -56,7 +56,7 @@ RoutineJob routine_job(const Routine& routine, const RoutineOptions& options, Si
     const std::string_view to = routine.name == "tntvt_rgb10_rgb48" ? "bgr48" : routine.to->name;
     job.to = form(to, reduces ? Size{size.width / reduction, size.height / reduction} : size,
                   reads_stride && routine.to->name != "none" ? std::initializer_list<Arg>{Arg::dstStride}
-                                                       : std::initializer_list<Arg>{Arg::dstStride, Arg::stride});
+                                                             : std::initializer_list<Arg>{Arg::dstStride, Arg::stride});
     Conversion conversion(routine, call);
     job.from.parts = sizes_of(conversion.inputs());
     job.to.parts = sizes_of(conversion.outputs());

@@ -127,7 +127,7 @@ int main(int argc, char** argv)
 
     for (const catalog::Routine& routine : catalog::routines()) {
         // The scratch pair moves nothing, and its blocks would pile up; one group of samples is no picture.
-        if (routine.chapter == "frame" || routine.shape == "split_group") continue;
+        if (routine.chapter == "frame" || routine.shape->name == "split_group") continue;
         for (const Size& size : sizes) add(routine, size);
     }
     Collected collected;

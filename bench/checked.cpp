@@ -99,17 +99,17 @@ bool call_one(const Prepared& prepared)
 using Call = bool (*)(const Prepared&);
 
 constexpr std::array<Call, routine_count> without_checks = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) call_one<&::name>,
+#define TNTVT_ROUTINE(name) call_one<&::name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };
 constexpr std::array<Call, routine_count> in_cxx = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) call_one<&checked::name>,
+#define TNTVT_ROUTINE(name) call_one<&checked::name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };
 constexpr std::array<Call, routine_count> in_c = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) call_one<&checked_##name>,
+#define TNTVT_ROUTINE(name) call_one<&checked_##name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };

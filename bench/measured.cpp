@@ -38,7 +38,7 @@ std::vector<uint8_t> coded_picture(const Size& picture)
 Measured::Measured(const Routine& routine, const Size& picture)
     : call(plain_call(routine, geometry_of(routine, picture))), size(picture)
 {
-    const bool coded = routine.from == "rle8";
+    const bool coded = routine.from->name == "rle8";
     if (coded) {
         stream_ = coded_picture(picture);
         call[Arg::src] = reinterpret_cast<int64_t>(stream_.data());

@@ -1,107 +1,59 @@
-// What each routine takes and touches, as data. Made from the three lists beside this header; the tests,
-// the benchmarks and the tool stand on it, the library does not.
+// What is known of each routine: one record, in routines/<chapter>.cpp. The checked calls, the tests, the benchmarks
+// and the tool use the catalogue; the library does not.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
-#include <new>
 #include <span>
 #include <string_view>
 
+#include "arguments.h"
+#include "few.h"
+#include "in_place.h"
+#include "layouts.h"
+#include "peers.h"
+#include "refusals.h"
+#include "shape.h"
+#include "steps.h"
+#include "table.h"
+
 namespace tintvert::catalog {
-
-enum class Arg {
-#define TNTVT_ARGUMENT(name, kind, meaning) name,
-#include "arguments.def"
-#undef TNTVT_ARGUMENT
-};
-
-inline constexpr size_t argument_count = 0
-#define TNTVT_ARGUMENT(name, kind, meaning) +1
-#include "arguments.def"
-#undef TNTVT_ARGUMENT
-    ;
-
-struct Argument {
-    enum Kind { number, buffer };
-    std::string_view name;
-    Kind kind;
-    std::string_view meaning;
-};
-
-const Argument& describe(Arg argument);
-
-// The values of one call, by argument name; a buffer's value is its address.
-class Arguments {
-public:
-    int64_t& operator[](Arg argument) { return values_[static_cast<size_t>(argument)]; }
-    int64_t operator[](Arg argument) const { return values_[static_cast<size_t>(argument)]; }
-
-    template <class Type>
-    Type as(Arg argument) const
-    {
-        if constexpr (std::is_pointer_v<Type>)
-            return reinterpret_cast<Type>((*this)[argument]);
-        else
-            return static_cast<Type>((*this)[argument]);
-    }
-
-private:
-    std::array<int64_t, argument_count> values_{};
-};
-
-// Bytes [begin, end) from the pointer that was passed; begin may be negative. Empty if nothing is touched.
-struct Range {
-    int64_t begin = 0, end = 0;
-    bool empty() const { return begin >= end; }
-    bool operator==(const Range&) const = default;
-};
-
-// From the lowest to the highest byte of both.
-inline Range join(Range one, Range other)
-{
-    if (one.empty()) return other;
-    if (other.empty()) return one;
-    return {one.begin < other.begin ? one.begin : other.begin, one.end > other.end ? one.end : other.end};
-}
-
-// From the lowest to the highest byte that a call reads and writes in one buffer.
-struct Touch {
-    Arg buffer{};
-    Range read, written;
-    Range touched = join(read, written);
-};
-
-// One entry for each buffer that the call touches. Entries that are not there are not cleared either.
-class Extents {
-public:
-    Extents() : count_(0) {}
-
-    void add(Arg buffer, Range read, Range written) { new (&touches_[count_++]) Touch{buffer, read, written}; }
-    const Touch* begin() const { return touches_; }
-    const Touch* end() const { return touches_ + count_; }
-
-private:
-    union {
-        Touch touches_[8];
-    };
-    size_t count_;
-};
 
 enum class RoutineId : size_t;  // routine_id.h
 
-struct Routine {
+namespace extents {
+Extents untouched(const Arguments&);
+}
+
+// What a record states.
+struct Facts {
+    std::string_view chapter = {};
+    const Layout* from = &layout::none;  // `none` also for routines that take any layout
+    const Layout* to = &layout::none;
+    Extents (*extents)(const Arguments&) = extents::untouched;
+    Reason (*refuses)(const Arguments&) = nullptr;  // beyond what every routine refuses, sizes larger than memory
+    InPlaceUse in_place = {};
+    const Routine* alias_of = nullptr;         // the routine of which this one is a second name
+    Few<std::string_view, 12> quirks = {};     // names of docs/quirks.md
+    Few<std::string_view, 4> companions = {};  // functions of the companion libraries that it calls
+    Few<Peer, 4> peers = {};                   // who does the same work, the nearest command first
+    Few<Step, 2> steps = {};                   // what it is good for in a conversion path, if anything
+    std::string_view summary = {};
+};
+
+// A record, and what follows from the routine's declaration.
+struct Routine : Facts {
     RoutineId id;
-    std::string_view chapter, name, shape, from, to, summary;
+    std::string_view name;
+    const Shape* shape;
     std::span<const Arg> arguments;
-    Extents (*extents)(const Arguments&);
+    bool (*fits_in_memory)(const Arguments&);
     int64_t (*call)(const Arguments&);  // 0 from a routine that returns nothing
     std::string_view result;            // C types: of what is returned, and of each argument
     std::span<const std::string_view> types;
+
+    bool takes(Arg argument) const;
 };
 
-std::span<const Routine> routines();
+Table<Routine> routines();
 const Routine* find(std::string_view name);  // null if there is none
 
 }  // namespace tintvert::catalog

@@ -1,14 +1,25 @@
-// How far a call reaches: one rule a family, named in routines.def. Each rule says, from the arguments
-// alone, the lowest and the highest byte that the routine reads and writes in each of its buffers.
+// Which bytes a call accesses: one rule a family. Each rule computes, from the arguments alone, the lowest and the
+// highest byte that the routine reads and writes in each of its buffers.
 #pragma once
 
-#include "catalog.h"
+#include "arguments.h"
 
 namespace tintvert::catalog::extents {
 
-#define TNTVT_RULE(name) Extents name(const Arguments& call);
-#include "extents.def"
-#undef TNTVT_RULE
+using Rule = Extents(const Arguments&);
+Rule untouched, scratch_new, scratch_free, argb_run_to_2vuy, bgra_run_to_2vuy, either_run_to_2vuy, bgra_frame_to_2vuy,
+    pixel_run_to_2vuy, pixel_frame_to_2vuy, yuv444_to_422, yuv422_to_444, join_planes, part_planes, join_fields,
+    planes_420_to_2vuy, planes_420_from_2vuy, yuy2_to_planes, alphay_to_2yuv, alphay_from_2yuv, strip_chroma,
+    alpha_to_rgba, rgba_to_alpha, rgba_setalpha, rgba_addalpha, average_2y, scaled_groups, yuv422_rgb24, yuv422_rgb16,
+    st2084_bytes, yuv2_to_st2084, st2084_to_yuv2, st2084_v210, rfc4175_payload, packed10_to_v210, rfc4175_packet,
+    rgb10_rgba64, rgb10_rgb48, rgb10_rgba32, rgb12_bgr48, rgb12_rgb48, rgb12_rgba32, rgb48_rgb12, rgb48_12_rgba32,
+    rle8_rgb24, rle8_rgb32, rgba_full, words_run, words_frame, narrowed_frame, narrowed_upside_down, widened_from_24,
+    widened_from_16, widened_alpha_first, widened_upside_down, reduced_from_48, reduced_from_48_one_line_off,
+    reduced_from_64, widened_to_48, widened_to_48_one_line_off, widened_to_64, swapped_to_64, swapped_to_48,
+    swapped_to_32, swapped_to_24, change_field_rgb, change_field_yuv, deinterlace, flip_vert, flip_vert_flags,
+    flip_horz, fields_to_frame, frame_to_fields, copy_interleaved, copy_dissolve, v210_rgb24, v210_rgb16, one_group,
+    v210_run_to_rgb, rgb32_v210, argb_line_to_v210, bgra_line_to_v210, two_bytes_each, widened_2vuy, narrowed_v210,
+    yuv422_10_rgb24, yuv422_10_rgb32, yuv422_8_rgb24, yuv422_8_rgb32, yuv420_rgb32, yuvijg_rgb32;
 
 // Parts that rules are made of.
 

@@ -9,8 +9,8 @@
 
 namespace tintvert::catalog {
 
-// The routine that this one is a second name of; null if it stands for itself.
-const Routine* alias_of(const Routine& routine);
+// The routine that this one is a second name of; null if it has a body of its own.
+inline const Routine* alias_of(const Routine& routine) { return routine.alias_of; }
 
 // Takes its arguments and does nothing.
 bool is_empty_entry(const Routine& routine);
@@ -21,11 +21,7 @@ std::vector<std::string_view> quirks_of(const Routine& routine);
 // Functions of the companion libraries.
 std::vector<std::string_view> companions_of(const Routine& routine);
 
-struct Peer {
-    enum Agreement { exact, near } agreement;  // the same bytes; the same work by other rules
-    std::string_view command;                  // for frames of W x H pixels
-};
-
+// The nearest command.
 std::optional<Peer> peer_of(const Routine& routine);
 
 }  // namespace tintvert::catalog

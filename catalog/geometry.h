@@ -1,4 +1,4 @@
-// A routine over a picture: the arguments of a plain call, and what each of its buffers holds as a picture.
+// A routine over a picture: the arguments of a plain call, and which bytes of its buffers are the picture.
 #pragma once
 
 #include <string_view>
@@ -15,7 +15,7 @@ struct Geometry {
     std::string_view layout = "rgb32";  // of the frames of routines that take any
 };
 
-// Tight lines, and every option at its commonest value. The caller supplies the buffers.
+// Tight lines, and every option at its most common value. The caller supplies the buffers.
 Arguments plain_call(const Routine& routine, const Geometry& geometry);
 
 // One buffer of a call as a file would hold it: `bytes` from `origin` on, counted from the pointer.

@@ -4,9 +4,11 @@
 
 #include <string_view>
 
-#include "catalog.h"
+#include "arguments.h"
 
 namespace tintvert::catalog {
+
+struct Routine;
 
 enum class Refusal {
     none,

@@ -8,7 +8,7 @@
 namespace tintvert::catalog {
 
 enum class RoutineId : size_t {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) name,
+#define TNTVT_ROUTINE(name) name,
 #include "routines.def"
 #undef TNTVT_ROUTINE
     count
@@ -16,7 +16,20 @@ enum class RoutineId : size_t {
 
 inline constexpr size_t routine_count = static_cast<size_t>(RoutineId::count);
 
-inline const Routine& routine_at(RoutineId id) { return routines()[static_cast<size_t>(id)]; }
+// The record of each, under its name.
+namespace records {
+#define TNTVT_ROUTINE(name) extern const Routine name;
+#include "routines.def"
+#undef TNTVT_ROUTINE
+
+inline constexpr const Routine* all[] = {
+#define TNTVT_ROUTINE(name) &name,
+#include "routines.def"
+#undef TNTVT_ROUTINE
+};
+}  // namespace records
+
+inline const Routine& routine_at(RoutineId id) { return *records::all[static_cast<size_t>(id)]; }
 inline RoutineId id_of(const Routine& routine) { return routine.id; }
 
 }  // namespace tintvert::catalog

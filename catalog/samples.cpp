@@ -2,28 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 
 namespace tintvert::catalog {
 namespace {
-
-enum Order { little, big };
-
-struct Row {
-    std::string_view layout, form;
-    int across, down, field, word_bytes;
-    Order order;
-    std::string_view fields;
-};
-
-constexpr Row rows[] = {
-#define TNTVT_PLANE(layout, form, across, down, field, bytes, order, fields) \
-    {#layout, #form, across, down, field, bytes, order, fields},
-#include "samples.def"
-#undef TNTVT_PLANE
-};
 
 int take_number(std::string_view* text, int otherwise)
 {
@@ -33,7 +16,7 @@ int take_number(std::string_view* text, int otherwise)
     return number;
 }
 
-// COMPONENT[PIXEL][:BITS[s]]; where it stands in its word is still open.
+// COMPONENT[PIXEL][:BITS[s]], without its place in its word.
 Sample sample_of(std::string_view text)
 {
     const size_t letters = std::min(text.find_first_of("0123456789:"), text.size());
@@ -49,9 +32,9 @@ Sample sample_of(std::string_view text)
     return sample;
 }
 
-Plane plane_of(const Row& row)
+Plane plane_of(const Layout& layout, const PlanePicture& row)
 {
-    Plane plane{row.across, row.down, row.field, row.word_bytes, 0, row.order == big, {}};
+    Plane plane{row.across, row.down, row.field, row.word_bytes, 0, row.big_endian, {}};
     int word = 0, free = row.word_bytes * 8;
     for (std::string_view rest = row.fields; !rest.empty();) {
         const std::string_view text = rest.substr(0, rest.find(' '));
@@ -59,7 +42,7 @@ Plane plane_of(const Row& row)
         if (text.empty()) continue;
         Sample sample = sample_of(text);
         free -= sample.bits;
-        if (free < 0) throw std::logic_error(std::string(row.layout) + ": a field crosses a word");
+        if (free < 0) throw std::logic_error(std::string(layout.name) + ": a field crosses a word");
         sample.word = word;
         sample.low = free;
         plane.fields.push_back(sample);
@@ -67,19 +50,20 @@ Plane plane_of(const Row& row)
         ++word;
         free = row.word_bytes * 8;
     }
-    if (free != row.word_bytes * 8) throw std::logic_error(std::string(row.layout) + ": a word is not filled");
+    if (free != row.word_bytes * 8) throw std::logic_error(std::string(layout.name) + ": a word is not filled");
     plane.unit_bytes = word * row.word_bytes;
     return plane;
 }
 
-std::vector<SampleForm> forms_of_rows()
+std::vector<SampleForm> forms_of_layouts()
 {
     std::vector<SampleForm> forms;
-    for (const Row& row : rows) {
-        if (forms.empty() || forms.back().layout != row.layout || forms.back().form != row.form)
-            forms.push_back({row.layout, row.form, {}});
-        forms.back().planes.push_back(plane_of(row));
-    }
+    for (const Layout& layout : layouts())
+        for (const PlanePicture& picture : layout.samples) {
+            if (forms.empty() || forms.back().layout != layout.name || forms.back().form != picture.form)
+                forms.push_back({layout.name, picture.form, {}});
+            forms.back().planes.push_back(plane_of(layout, picture));
+        }
     return forms;
 }
 
@@ -97,7 +81,7 @@ uint64_t load_word(const Plane& plane, const uint8_t* at)
 
 std::span<const SampleForm> sample_forms()
 {
-    static const std::vector<SampleForm> forms = forms_of_rows();
+    static const std::vector<SampleForm> forms = forms_of_layouts();
     return forms;
 }
 

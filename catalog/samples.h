@@ -1,4 +1,4 @@
-// The samples of the layouts, as data: what a bit of a frame belongs to. Made from samples.def.
+// The samples of the layouts, as data: which sample each bit of a frame belongs to. Made from the records.
 #pragma once
 
 #include <cstdint>
@@ -48,7 +48,7 @@ struct PlacedPlane {
     int64_t offset, stride, lines;
     int64_t line_bytes;  // without slack
 
-    // Whether the line has room for it: an odd width cuts the last pair in half.
+    // Whether the line has room for it: with an odd width only half of the last pair is there.
     bool holds(const Sample& sample, int64_t unit, int64_t width) const
     {
         const int64_t end = unit * plane->unit_bytes + (sample.word + 1) * plane->word_bytes;

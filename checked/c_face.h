@@ -10,16 +10,16 @@ namespace tintvert::checked {
 
 inline tntvt_checked_range to_c(Range range) { return {range.from, range.to}; }
 
-inline void to_c(const Extents& extents, tntvt_checked_extents& told)
+inline void to_c(const Extents& extents, tntvt_checked_extents& query)
 {
-    told.count = 0;
+    query.count = 0;
     for (const Touch& touch : extents)
-        told.touches[told.count++] = {touch.buffer, to_c(touch.read), to_c(touch.written)};
+        query.touches[query.count++] = {touch.buffer, to_c(touch.read), to_c(touch.written)};
 }
 
-inline tntvt_checked_result to_c(const Error& error)
+inline tntvt_checked_result to_c(const Status& error)
 {
-    if (error) return {TNTVT_CHECKED_OK, {}, error.routine, "", "", "", 0, 0, 0, {0, 0}, 0, nullptr};
+    if (error.ok()) return {TNTVT_CHECKED_OK, {}, error.routine, "", "", "", 0, 0, 0, {0, 0}, 0, nullptr};
     return {static_cast<tntvt_checked_code>(error.code),
             static_cast<tntvt_checked_refusal>(error.refusal),
             error.routine,
@@ -37,12 +37,12 @@ inline tntvt_checked_result to_c(const Error& error)
 template <class Value>
 tntvt_checked_result to_c(const Result<Value>& result)
 {
-    tntvt_checked_result told = to_c(static_cast<const Error&>(result));
+    tntvt_checked_result in_c = to_c(static_cast<const Status&>(result));
     if constexpr (std::is_pointer_v<Value>)
-        told.pointer = result.value;
+        in_c.pointer = result.value;
     else if constexpr (!std::is_void_v<Value>)
-        told.value = result.value;
-    return told;
+        in_c.value = result.value;
+    return in_c;
 }
 
 template <class Value, catalog::Arg... arguments, class... Values>
@@ -58,7 +58,7 @@ tntvt_checked_result run_in_c(catalog::RoutineId id, const tntvt_checked_options
         to_c(extents, *options->query);
         return to_c(result);
     } catch (...) {
-        Error error;
+        Status error;
         error.code = Code::failed;
         error.routine = catalog::routine_at(id).name.data();
         return to_c(error);

@@ -25,13 +25,13 @@ static_assert(refusal_of(catalog::Refusal::overruns_scratch) == Refusal::overrun
 // An argument's name ends with a 0.
 const char* name_of(Arg argument) { return describe(argument).name.data(); }
 
-Range told(catalog::Range range) { return {range.begin, range.end}; }
+Range range_of(catalog::Range range) { return {range.begin, range.end}; }
 
-void tell(const catalog::Extents& extents, Extents& query)
+void report(const catalog::Extents& extents, Extents& query)
 {
     query = {};
     for (const catalog::Touch& touch : extents)
-        query.add({name_of(touch.buffer), told(touch.read), told(touch.written)});
+        query.add({name_of(touch.buffer), range_of(touch.read), range_of(touch.written)});
 }
 
 catalog::Range common(catalog::Range one, catalog::Range other)
@@ -48,45 +48,45 @@ bool knows(const catalog::Extents& extents, Arg buffer)
 
 }  // namespace
 
-bool Call::may_be_made(const Options& options, Error& error)
+bool Call::may_be_made(const Options& options, Status& error)
 {
     error.routine = routine_.name.data();
     if (refused(numbers_, error)) return false;
     const catalog::Extents extents = routine_.extents(numbers_);
     if (options.query != nullptr) {
-        tell(extents, *options.query);
+        report(extents, *options.query);
         return true;
     }
     for (const catalog::Touch& touch : extents)
-        if (lacks_room(touch, error)) return false;
+        if (is_too_small(touch, error)) return false;
     if (null_frames_ > 0 && (touches_one_null_frame(error) || interpolates_null(error))) return false;
     return options.allow_overlap || !overlaps(extents, error);
 }
 
 // Two null pointers are two buffers to the rules and one frame to the routine.
-bool Call::touches_one_null_frame(Error& error) const
+bool Call::touches_one_null_frame(Status& error) const
 {
     if (null_frames_ < 2) return false;
     catalog::Arguments in_place = numbers_;
     in_place[Arg::dst] = in_place[Arg::src] = 1;
     if (refused(in_place, error)) return true;
     return std::ranges::any_of(routine_.extents(in_place),
-                               [&](const catalog::Touch& touch) { return lacks_room(touch, error); });
+                               [&](const catalog::Touch& touch) { return is_too_small(touch, error); });
 }
 
 // To the rules a null is a buffer that is still to come. Mode 11 makes something else of it: where either frame is
 // null it copies the second line of `src` to the first of `dst`, whatever the height.
-bool Call::interpolates_null(Error& error) const
+bool Call::interpolates_null(Status& error) const
 {
     if (id_of(routine_) != catalog::RoutineId::tntvt_change_field_rgb) return false;
     if (numbers_.as<uint32_t>(Arg::mode) != 11) return false;
     const int64_t dst_pitch = numbers_.as<uint32_t>(Arg::dstStride), given = numbers_.as<uint32_t>(Arg::srcStride);
     const int64_t pitch = given == 0 ? dst_pitch : given;
     if (address(Arg::src) + pitch == address(Arg::dst) + dst_pitch) return false;
-    return lacks_room({Arg::src, {pitch, 2 * pitch}, {}}, error) || lacks_room({Arg::dst, {}, {0, pitch}}, error);
+    return is_too_small({Arg::src, {pitch, 2 * pitch}, {}}, error) || is_too_small({Arg::dst, {}, {0, pitch}}, error);
 }
 
-bool Call::refused(const catalog::Arguments& numbers, Error& error) const
+bool Call::refused(const catalog::Arguments& numbers, Status& error) const
 {
     const catalog::Reason reason = catalog::reason(routine_, numbers);
     if (reason.refusal == catalog::Refusal::none) return false;
@@ -96,7 +96,7 @@ bool Call::refused(const catalog::Arguments& numbers, Error& error) const
     return true;
 }
 
-bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
+bool Call::is_too_small(const catalog::Touch& touch, Status& error) const
 {
     const catalog::Range& all = touch.touched;
     if (all.empty()) return false;
@@ -108,12 +108,12 @@ bool Call::lacks_room(const catalog::Touch& touch, Error& error) const
     error.has = room.size;
     error.front = room.front;
     error.needs = static_cast<uint64_t>(std::max<int64_t>(all.end, 0) - std::min<int64_t>(all.begin, 0));
-    error.where = told(all);
+    error.where = range_of(all);
     return true;
 }
 
 // What is written in one buffer and touched in another. A frame in place is known to some rules as `dst` alone.
-inline bool Call::overlaps(const catalog::Extents& extents, Error& error) const
+inline bool Call::overlaps(const catalog::Extents& extents, Status& error) const
 {
     if (catalog::extents::in_place(numbers_) && knows(extents, Arg::dst)) {
         if (promised_in_place(routine_, numbers_)) return false;
@@ -136,7 +136,7 @@ inline bool Call::overlaps(const catalog::Extents& extents, Error& error) const
 }
 
 // If both are written, what the first reads counts as well.
-bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const
+bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Status& error) const
 {
     const int64_t distance = address(other.buffer) - address(one.buffer);
     const catalog::Range read = moved(other.read, distance), written = moved(other.written, distance);
@@ -148,7 +148,7 @@ bool Call::overlap(const catalog::Touch& one, const catalog::Touch& other, Error
     error.other = name_of(other.buffer);
     error.has = room_of(one.buffer).size;
     error.front = room_of(one.buffer).front;
-    error.where = told(both);
+    error.where = range_of(both);
     return true;
 }
 

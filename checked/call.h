@@ -41,8 +41,8 @@ public:
         set(argument, buffer.pointer, {buffer.size, buffer.front});
     }
 
-    // Whether the call may be made. What speaks against it is told in `error`.
-    bool may_be_made(const Options& options, Error& error);
+    // Whether the call may be made. Otherwise `error` says why not.
+    bool may_be_made(const Options& options, Status& error);
 
     template <class Value>
     Value make() const
@@ -67,15 +67,15 @@ private:
                 static_cast<int64_t>(room.size - std::min(room.size, static_cast<size_t>(room.front)));
     }
 
-    // Every buffer that the extents tell has been set.
+    // Every buffer of the extents has been set.
     const Room& room_of(catalog::Arg argument) const { return rooms_[static_cast<size_t>(argument)]; }
     int64_t address(catalog::Arg argument) const { return numbers_[argument]; }
-    bool refused(const catalog::Arguments& numbers, Error& error) const;
-    bool touches_one_null_frame(Error& error) const;
-    bool interpolates_null(Error& error) const;
-    bool lacks_room(const catalog::Touch& touch, Error& error) const;
-    bool overlaps(const catalog::Extents& extents, Error& error) const;
-    bool overlap(const catalog::Touch& one, const catalog::Touch& other, Error& error) const;
+    bool refused(const catalog::Arguments& numbers, Status& error) const;
+    bool touches_one_null_frame(Status& error) const;
+    bool interpolates_null(Status& error) const;
+    bool is_too_small(const catalog::Touch& touch, Status& error) const;
+    bool overlaps(const catalog::Extents& extents, Status& error) const;
+    bool overlap(const catalog::Touch& one, const catalog::Touch& other, Status& error) const;
 
     const catalog::Routine& routine_;
     catalog::Arguments numbers_;

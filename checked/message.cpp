@@ -10,8 +10,8 @@ struct Text {
     char words[96];
 };
 
-// "4149760 bytes", and how they lie about a pointer that is not the first of them.
-Text size_of(const Error& error)
+// "4149760 bytes", and where they begin about a pointer that is not to the first of them.
+Text size_of(const Status& error)
 {
     Text text;
     if (error.front == 0)
@@ -21,16 +21,16 @@ Text size_of(const Error& error)
     return text;
 }
 
-// "from -0 to 4149760": what is needed in front of the pointer, and behind it.
+// "bytes 0-4149759", or "bytes -120 to -61" where some lie before the pointer.
 Text place_of(Range range)
 {
     Text text;
-    const char* const sign = range.from == 0 ? "-" : "";
-    std::snprintf(text.words, sizeof text.words, "from %s%" PRId64 " to %" PRId64, sign, range.from, range.to);
+    const char* const to = range.from < 0 ? " to " : "-";
+    std::snprintf(text.words, sizeof text.words, "bytes %" PRId64 "%s%" PRId64, range.from, to, range.to - 1);
     return text;
 }
 
-int write(const Error& error, char* text, size_t size)
+int write(const Status& error, char* text, size_t size)
 {
     const Text place = place_of(error.where);
     switch (error.code) {
@@ -43,8 +43,8 @@ int write(const Error& error, char* text, size_t size)
             return std::snprintf(text, size, "%s: %s, needs %" PRIu64 " (%s)", error.buffer, size_of(error).words,
                                  error.needs, place.words);
         case Code::overlap:
-            return std::snprintf(text, size, "%s: shares bytes with %s (%s), which %s does not promise to bear",
-                                 error.buffer, error.other, place.words, error.routine);
+            return std::snprintf(text, size, "%s: shares bytes with %s (%s), which %s does not support", error.buffer,
+                                 error.other, place.words, error.routine);
         case Code::refused:
             return std::snprintf(text, size, "%s: %s", error.routine, error.why);
         case Code::failed:
@@ -55,9 +55,9 @@ int write(const Error& error, char* text, size_t size)
 
 }  // namespace
 
-size_t Error::message(char* text, size_t size) const { return static_cast<size_t>(write(*this, text, size)); }
+size_t Status::message(char* text, size_t size) const { return static_cast<size_t>(write(*this, text, size)); }
 
-std::string Error::message() const
+std::string Status::message() const
 {
     std::string text(message(nullptr, 0), '\0');
     message(text.data(), text.size() + 1);

@@ -135,7 +135,7 @@ private:
     {
         checked::Extents reported;
         const Answer answer = call_checked(id_, numbers_, buffers_, {false, &reported});
-        if (!answer.error) {
+        if (!answer.error.ok()) {
             must(answer.error.code == Code::refused, "a question is refused or answered", name());
             must(call_checked(id_, numbers_, buffers_, {}).error.code == Code::refused, "what is refused stays so",
                  name());
@@ -226,7 +226,7 @@ private:
         std::vector<Range> written;
         for (const Touch& touch : touches_) {
             const int64_t offset = offsets[static_cast<size_t>(touch.buffer)];
-            if (answer.error && !touch.written.empty())
+            if (answer.error.ok() && !touch.written.empty())
                 written.push_back({touch.written.begin + offset, touch.written.end + offset});
         }
         must(block.is_unchanged_beside(written), "nothing beside the extents is written", name());
@@ -238,10 +238,10 @@ private:
         for (size_t i = 0; i < blocks_.size(); ++i) {
             std::vector<Range> written;
             for (const Touch& touch : touches_)
-                if (answer.error && touch.buffer == owners_[i]) written.push_back(touch.written);
+                if (answer.error.ok() && touch.buffer == owners_[i]) written.push_back(touch.written);
             must(blocks_[i].is_unchanged_beside(written), "nothing beside the extents is written", name());
         }
-        if (answer.error && routine().name == "malloc_own_cache_lines") {
+        if (answer.error.ok() && routine().name == "malloc_own_cache_lines") {
             void* raw = nullptr;
             std::memcpy(&raw, buffers_[static_cast<size_t>(Arg::raw)].pointer(), sizeof raw);
             ZKFree(raw);

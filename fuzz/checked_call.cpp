@@ -54,7 +54,7 @@ Answer run(const Values& values)
 }
 
 constexpr std::array<Answer (*)(const Values&), catalog::routine_count> runs = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) run<&checked::name>,
+#define TNTVT_ROUTINE(name) run<&checked::name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };

@@ -12,7 +12,7 @@ namespace tintvert::fuzz {
 using Buffers = std::array<checked::Buffer, catalog::argument_count>;  // by argument; null if not set
 
 struct Answer {
-    checked::Error error;
+    checked::Status error;
     int64_t value = 0;
 };
 

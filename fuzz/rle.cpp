@@ -33,7 +33,7 @@ Block decoded(RoutineId id, const catalog::Arguments& numbers, const catalog::Rl
     buffers[static_cast<size_t>(Arg::palette)] = palette.buffer();
     buffers[static_cast<size_t>(Arg::dst)] = dst.buffer();
     const Answer answer = call_checked(static_cast<size_t>(id), numbers, buffers, {});
-    must(static_cast<bool>(answer.error), "a stream that ends is decoded", answer.error.message().c_str());
+    must(answer.error.ok(), "a stream that ends is decoded", answer.error.message().c_str());
     must(src.is_unchanged_beside({}) && palette.is_unchanged_beside({}), "the stream and the colours are read only");
     return dst;
 }

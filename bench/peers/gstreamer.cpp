@@ -17,7 +17,7 @@ namespace {
 GstVideoFormat format_of(std::string_view layout)
 {
     const Layout* found = find_layout(layout);
-    if (found == nullptr || found->gstreamer.empty() || found->planes == Planes::yuv422)
+    if (found == nullptr || found->gstreamer.empty() || found->planes() == Planes::yuv422)
         return GST_VIDEO_FORMAT_UNKNOWN;
     return gst_video_format_from_string(std::string{found->gstreamer}.c_str());
 }
@@ -72,7 +72,7 @@ private:
 void offer_gstreamer(const Routine& routine, const Measured& measured, std::vector<Peer>* peers)
 {
     static const bool ready = gst_init_check(nullptr, nullptr, nullptr) != FALSE;
-    const GstVideoFormat from = format_of(routine.from), to = format_of(routine.to);
+    const GstVideoFormat from = format_of(routine.from->name), to = format_of(routine.to->name);
     if (!ready || from == GST_VIDEO_FORMAT_UNKNOWN || to == GST_VIDEO_FORMAT_UNKNOWN || from == to) return;
     const auto converter = std::make_shared<Converter>(from, to, measured.size);
     peers->push_back({"GStreamer", [converter] { (*converter)(); }});

@@ -129,7 +129,7 @@ private:
 
 void offer_libav(const Routine& routine, const Measured& measured, std::vector<Peer>* peers)
 {
-    const Side from(routine.from), to(routine.to);
+    const Side from(routine.from->name), to(routine.to->name);
     if (from.format == AV_PIX_FMT_NONE || to.format == AV_PIX_FMT_NONE || from.format == to.format) return;
     if (measured.buffer(Arg::src) == nullptr || measured.buffer(Arg::dst) == nullptr) return;
     const auto road = std::make_shared<Road>(from, to, measured);
@@ -137,7 +137,7 @@ void offer_libav(const Routine& routine, const Measured& measured, std::vector<P
     const std::string name = from.coded ? "libavcodec + swscale" : to.coded ? "swscale + libavcodec" : "swscale";
     peers->push_back({name, [road] { (*road)(); }});
 #ifdef TINTVERT_PEER_LIBYUV
-    if (!from.coded || !routine.to.starts_with("rgb")) return;
+    if (!from.coded || !routine.to->name.starts_with("rgb")) return;
     const auto argb = std::make_shared<std::vector<uint8_t>>(measured.size.width * measured.size.height * 4);
     peers->push_back({"libavcodec + libyuv I210ToARGB", [road, argb] {
                           road->decode();

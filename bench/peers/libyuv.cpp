@@ -157,13 +157,13 @@ void offer_libyuv(const Routine& routine, const Measured& measured, std::vector<
 {
     for (const Function& function : functions) {
         const bool named = function.from.empty() && function.to == routine.name;
-        if (!named && (function.from != routine.from || function.to != routine.to)) continue;
+        if (!named && (function.from != routine.from->name || function.to != routine.to->name)) continue;
         const int width = static_cast<int>(measured.size.width), height = static_cast<int>(measured.size.height);
         const Frames frames{measured,
                             measured.buffer(Arg::dst),
                             measured.buffer(Arg::src),
-                            line_bytes(routine.to, width),
-                            line_bytes(routine.from, width),
+                            line_bytes(routine.to->name, width),
+                            line_bytes(routine.from->name, width),
                             width,
                             height};
         peers->push_back({"libyuv " + std::string{function.name}, [work = function.work, frames] { work(frames); }});

@@ -21,7 +21,7 @@ void offer_gstreamer(const catalog::Routine& routine, const Measured& measured, 
 inline std::vector<Peer> peers_of(const catalog::Routine& routine, const Measured& measured)
 {
     std::vector<Peer> peers;
-    if (routine.shape == "strided_crossed") return peers;  // its pointers stand behind their frames' first bytes
+    if (routine.shape->name == "strided_crossed") return peers;  // its pointers stand behind their frames' first bytes
     offer_libyuv(routine, measured, &peers);
     offer_libav(routine, measured, &peers);
     offer_gstreamer(routine, measured, &peers);

@@ -1,4 +1,5 @@
 #include "extents.h"
+#include "layouts.h"
 
 namespace tintvert::catalog::extents {
 namespace {
@@ -22,7 +23,7 @@ Strides strides_10(const Arguments& call, int64_t pixel_bytes)
 {
     const int64_t width = call[Arg::width];
     return {or_default(call[Arg::dstStride], width * pixel_bytes),
-            or_default(call[Arg::srcStride], (width + 47) / 48 * 128)};
+            or_default(call[Arg::srcStride], v210_line_bytes(width))};
 }
 
 Strides strides_8(const Arguments& call, int64_t pixel_bytes)

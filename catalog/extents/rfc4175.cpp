@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "extents.h"
+#include "layouts.h"
 
 namespace tintvert::catalog::extents {
 namespace {
@@ -19,8 +20,6 @@ Groups pgroups_from_group_start(int64_t count)
     const int64_t read = left == 0 ? whole - 4 : written;  // the third one writes its last word whole
     return {{4, read}, {0, written}};
 }
-
-int64_t v210_line(uint32_t width) { return static_cast<uint32_t>((width + 47) / 48 * 48 * 8 / 3); }
 
 }  // namespace
 
@@ -49,7 +48,7 @@ Extents packed10_to_v210(const Arguments& call)
     const int64_t height = call.as<uint32_t>(Arg::height);
     const int64_t src_line = static_cast<uint32_t>(width * 20) >> 3, pairs = (static_cast<int64_t>(width) + 1) / 2;
     const int64_t read = std::min(pairs * 5, src_line);
-    result.add(Arg::dst, {}, lines(0, v210_line(width), height, pgroups_from_group_start(pairs).written.end));
+    result.add(Arg::dst, {}, lines(0, v210_line_bytes(width), height, pgroups_from_group_start(pairs).written.end));
     result.add(Arg::src, lines(0, src_line, height, read), {});
     return result;
 }
@@ -63,7 +62,7 @@ Extents rfc4175_packet(const Arguments& call)
     const bool formed = width != 0 && height != 0;
     const int64_t payload_end = 20 + std::min<int64_t>(width / 2, 275) * 5;
     const Range packet = formed ? Range{0, payload_end} : Range{1, 2};
-    result.add(Arg::packet, join(packet, formed ? lines(0, v210_line(width), height, 6) : Range{}), packet);
+    result.add(Arg::packet, join(packet, formed ? lines(0, v210_line_bytes(width), height, 6) : Range{}), packet);
     result.add(Arg::seq, {0, 2}, {0, 2});
     result.add(Arg::outA, {}, {0, 4});
     result.add(Arg::outB, {}, {0, 4});

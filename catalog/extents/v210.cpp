@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "extents.h"
+#include "layouts.h"
 
 namespace tintvert::catalog::extents {
 namespace {
@@ -35,7 +36,7 @@ Extents rgb32_v210(const Arguments& call)
     const int64_t width = call[Arg::width], pixels = std::abs(width), direction = width < 0 ? -1 : 1;
     const int64_t total = static_cast<int32_t>(call.as<uint32_t>(Arg::width) * call.as<uint32_t>(Arg::height));
     if (total < 1) return result;
-    const int64_t dst_stride = call[Arg::dstStride] == 0 ? (width + 47) / 48 * 128 : call[Arg::dstStride];
+    const int64_t dst_stride = call[Arg::dstStride] == 0 ? v210_line_bytes(width) : call[Arg::dstStride];
     const int64_t src_stride = call[Arg::srcStride] == 0 ? width * 4 : call[Arg::srcStride];
     const int64_t repeats_after = pixels % 6 == 0 ? 1 : pixels % 3 == 0 ? 2 : pixels % 2 == 0 ? 3 : 6;
     Range read, written;

@@ -1,4 +1,4 @@
-// What one family of routines is not called with: one rule a family, named in refusals.def.
+// What one family of routines is not called with: one rule a family.
 #pragma once
 
 #include <cstdint>
@@ -7,9 +7,11 @@
 
 namespace tintvert::catalog::refusals {
 
-#define TNTVT_REFUSES(routine, rule) Reason rule(const Arguments& call);
-#include "refusals.def"
-#undef TNTVT_REFUSES
+using Rule = Reason(const Arguments&);
+Rule negative_size, run_of_pixels, run_of_triples, no_groups, planes_420, negative_width, no_scale, by_matrix_or_scale,
+    planes_to_rgb32, run_to_rgb, widened_2vuy, narrowed_v210, payload, packed10, packets, packed_lines, frame_copy,
+    counted_down, field_change_rgb, field_change_yuv, flip, flip_placed, mirror, woven, interleaved, pitch_pair,
+    pitches;
 
 constexpr int64_t most_signed = 0x7FFFFFFF, most_unsigned = 0xFFFFFFFF;
 

@@ -1,4 +1,5 @@
 // Decoders, `v210` and packets.
+#include "layouts.h"
 #include "refusals/rules.h"
 
 namespace tintvert::catalog::refusals {
@@ -73,7 +74,7 @@ Reason packed10(const Arguments& call)
 {
     const int64_t width = call[Arg::width];
     if (above(most_unsigned, width, 20)) return line_wraps;
-    return above(most_unsigned, (width + 47) / 48 * 128, call[Arg::height]) ? frame_wraps : Reason{};
+    return above(most_unsigned, v210_line_bytes(width), call[Arg::height]) ? frame_wraps : Reason{};
 }
 
 Reason packets(const Arguments& call)
@@ -81,7 +82,7 @@ Reason packets(const Arguments& call)
     const int64_t width = call[Arg::width];
     if (width % 2 != 0) return {Refusal::never_returns, "an odd `width` never returns"};
     if (above(most_unsigned, width + 47, 8)) return line_wraps;
-    return above(most_unsigned, (width + 47) / 48 * 128, call[Arg::height]) ? frame_wraps : Reason{};
+    return above(most_unsigned, v210_line_bytes(width), call[Arg::height]) ? frame_wraps : Reason{};
 }
 
 }  // namespace tintvert::catalog::refusals

@@ -11,7 +11,7 @@
  *         puts(text);
  *     }
  *
- * Every routine of <tintvert.h> stands in tintvert/checked_c_routines.h with `checked_` in front of its name. */
+ * Every routine of <tintvert.h> is in tintvert/checked_c_routines.h with `checked_` before its name. */
 #ifndef TINTVERT_CHECKED_C_H
 #define TINTVERT_CHECKED_C_H
 
@@ -25,10 +25,10 @@ extern "C" {
 typedef struct tntvt_checked_buffer {
     void* pointer;   /* what the routine is given */
     size_t size;     /* bytes of the memory that it points into */
-    ptrdiff_t front; /* how many of them lie in front of the pointer: commonly 0 */
+    ptrdiff_t front; /* how many of them are before the pointer: usually 0 */
 } tntvt_checked_buffer;
 
-/* Bytes [from, to), counted from the pointer. `from` is negative in front of it. */
+/* Bytes [from, to), counted from the pointer. `from` is negative before it. */
 typedef struct tntvt_checked_range {
     int64_t from, to;
 } tntvt_checked_range;
@@ -46,7 +46,7 @@ typedef struct tntvt_checked_extents {
 
 typedef struct tntvt_checked_options {
     int allow_overlap;            /* buffers may overlap in ways that the routine does not promise */
-    tntvt_checked_extents* query; /* if not NULL: tell the extents here and call nothing */
+    tntvt_checked_extents* query; /* if not NULL: report the extents here and call nothing */
 } tntvt_checked_options;
 
 typedef enum tntvt_checked_code {
@@ -77,14 +77,14 @@ typedef struct tntvt_checked_result {
     const char* other;         /* overlap: the other buffer */
     const char* why;           /* refused: a sentence */
     uint64_t has;              /* bytes of the buffer */
-    int64_t front;             /* how many of them lie in front of the pointer */
+    int64_t front;             /* how many of them are before the pointer */
     uint64_t needs;            /* bytes from `where.from`, or the pointer if that is lower, to `where.to` */
     tntvt_checked_range where; /* what would be touched */
     int value;                 /* what a routine that returns an int returned */
     void* pointer;             /* what a routine that returns a pointer returned */
 } tntvt_checked_result;
 
-/* "dst: 4147200 bytes, needs 4149760 (from -0 to 4149760)" into `text`, cut to `size` bytes with the 0 at its
+/* "dst: 4147200 bytes, needs 4149760 (bytes 0-4149759)" into `text`, cut to `size` bytes with the 0 at its
  * end. Answers the length of the whole. */
 size_t tntvt_checked_message(const tntvt_checked_result* result, char* text, size_t size);
 

@@ -30,11 +30,11 @@ void need_sound_stream(bool is_24, const catalog::Arguments& call, const CodedPi
 
 }  // namespace
 
-bool decodes_rle8(const catalog::Routine& routine) { return routine.from == "rle8"; }
+bool decodes_rle8(const catalog::Routine& routine) { return routine.from->name == "rle8"; }
 
 std::vector<uint8_t> decode_rle8(const catalog::Routine& routine, catalog::Arguments call, const CodedPicture& picture)
 {
-    const bool is_24 = routine.to == "rgb24";
+    const bool is_24 = routine.to->name == "rgb24";
     call[Arg::streamSize] = static_cast<int64_t>(picture.stream.size());
     call[Arg::src] = reinterpret_cast<int64_t>(picture.stream.data());
     need_sound_stream(is_24, call, picture);

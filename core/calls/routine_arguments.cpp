@@ -17,8 +17,8 @@ bool takes(const Routine& routine, Arg argument)
 
 std::string_view layout_of_stride(const Routine& routine, const GivenArguments& options)
 {
-    if (routine.from == "i420" || routine.from == "yv12") return routine.to;
-    return routine.from == "none" ? options.layout : routine.from;
+    if (routine.from->name == "i420" || routine.from->name == "yv12") return routine.to->name;
+    return routine.from->name == "none" ? options.layout : routine.from->name;
 }
 
 catalog::Arguments arguments_of(const Routine& routine, const GivenArguments& options, int64_t width, int64_t height,

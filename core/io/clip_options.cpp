@@ -75,7 +75,7 @@ int64_t stride_of(const std::string& text, std::string_view layout, Size size)
     if (text.empty()) return 0;
     const catalog::Layout& about = *catalog::find_layout(layout);
     const int64_t least = packed_line(layout, size.width);
-    if (about.planes != catalog::Planes::packed || least == 0)
+    if (about.planes() != catalog::Planes::packed || least == 0)
         throw Failure(Exit::usage, "{} has no lines to take at a --stride", layout);
     if (text == "packed") return least;
     if (text == "auto64") return ((layout == "v210" ? size.width * 16 / 6 : least) + 63) / 64 * 64;

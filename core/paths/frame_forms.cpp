@@ -30,7 +30,10 @@ FrameForm form_of(const RoutineCall& call, const std::string& layout, Size size,
 }
 
 // `stride` is the packed side's of a pair, and both sides' of routines that take any layout.
-bool reads_stride(const catalog::Routine& routine) { return routine.from == "2vuy" || routine.from == "none"; }
+bool reads_stride(const catalog::Routine& routine)
+{
+    return routine.from->name == "2vuy" || routine.from->name == "none";
+}
 
 std::string named(std::string_view layout, const std::string& any_layout)
 {
@@ -42,11 +45,11 @@ std::string named(std::string_view layout, const std::string& any_layout)
 FrameForm input_form(const RoutineCall& call, const std::string& any_layout, Size size)
 {
     const catalog::Routine& routine = *call.routine;
-    const std::string layout = named(routine.from, any_layout);
+    const std::string layout = named(routine.from->name, any_layout);
     FrameForm form = reads_stride(routine) ? form_of(call, layout, size, {Arg::srcStride, Arg::stride})
                                            : form_of(call, layout, size, {Arg::srcStride});
     form.parts = call.input_sizes();
-    form.unbroken = routine.shape == "run_to_rgb";
+    form.unbroken = routine.shape->name == "run_to_rgb";
     return form;
 }
 
@@ -54,10 +57,10 @@ FrameForm output_form(const RoutineCall& call, const std::string& any_layout, Si
 {
     const catalog::Routine& routine = *call.routine;
     // This one writes red first.
-    const std::string layout = named(routine.name == "tntvt_rgb10_rgb48" ? "bgr48" : routine.to, any_layout);
+    const std::string layout = named(routine.name == "tntvt_rgb10_rgb48" ? "bgr48" : routine.to->name, any_layout);
     const int64_t scale = takes(routine, Arg::scale) ? std::max<int64_t>(call.arguments[Arg::scale], 1) : 1;
     const Size reduced{size.width / scale, size.height / scale};
-    FrameForm form = reads_stride(routine) && routine.to != "none"
+    FrameForm form = reads_stride(routine) && routine.to->name != "none"
                          ? form_of(call, layout, reduced, {Arg::dstStride})
                          : form_of(call, layout, reduced, {Arg::dstStride, Arg::stride});
     form.parts = call.output_sizes();

@@ -76,7 +76,7 @@ void fit(const Capacity& into, std::string_view chroma_by, Place& place, std::ve
 Place after(const Place& before, const StepRule& step, Size size)
 {
     const catalog::Routine& routine = *catalog::find(step.routine);
-    const std::string_view to = step.to.empty() ? routine.to : step.to;
+    const std::string_view to = step.to.empty() ? routine.to->name : step.to;
     const Capacity& into = capacity_of(to);
     const bool to_rgb =
         into.bytes.find("rgb") != std::string_view::npos || into.bytes.find("bgr") != std::string_view::npos;
@@ -99,7 +99,7 @@ Place after(const Place& before, const StepRule& step, Size size)
     if (step.wraps) lose(wrapped, "colours outside the RGB cube wrap");
     fit(into, step.chroma_by, place, words);
     if (step.alpha_0) place.picture.alpha_0 = true;
-    place.path.steps.push_back({&routine, step.from.empty() ? routine.from : step.from, to, std::move(words)});
+    place.path.steps.push_back({&routine, step.from.empty() ? routine.from->name : step.from, to, std::move(words)});
     return place;
 }
 
@@ -115,7 +115,7 @@ std::vector<Place> walk(const Start& start)
     for (size_t i = 0; i < places.size(); ++i) {
         if (i > 0 && places[i].bytes == "rgb12") continue;
         for (const StepRule& step : steps()) {
-            const std::string_view from = step.from.empty() ? catalog::find(step.routine)->from : step.from;
+            const std::string_view from = step.from.empty() ? catalog::find(step.routine)->from->name : step.from;
             if (capacity_of(from).bytes != places[i].bytes) continue;
             Place next = after(places[i], step, start.size);
             const auto is_known = [&](const Place& known) { return known.is_same(next); };

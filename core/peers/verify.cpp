@@ -44,7 +44,7 @@ Bytes through_routine(const catalog::Routine& routine, PeerQuestion* question)
     const RoutineCall call = plan_call(routine, catalog::plain_call(routine, {noise_width, noise_height}));
     const std::vector<int64_t> sizes = call.input_sizes();
     question->frame = noise(static_cast<size_t>(std::accumulate(sizes.begin(), sizes.end(), int64_t{0})));
-    if (routine.from != "none") clear_unused(question);
+    if (routine.from->name != "none") clear_unused(question);
     return convert_frame(call, question->frame);
 }
 
@@ -94,7 +94,7 @@ std::vector<catalog::PlacedPlane> PeerQuestion::planes(std::string_view layout) 
 PeerVerdict verify_by_peer(const PeerCheck& check)
 {
     const catalog::Routine& routine = *catalog::find(check.routine);
-    PeerQuestion question{check.peer, check.asked, routine.from, routine.to, {}, noise_width, noise_height};
+    PeerQuestion question{check.peer, check.asked, routine.from->name, routine.to->name, {}, noise_width, noise_height};
     Bytes ours = through_routine(routine, &question);
     if (check.direction == PeerCheck::back) {
         std::swap(question.from, question.to);

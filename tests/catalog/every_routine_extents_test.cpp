@@ -19,7 +19,7 @@ constexpr int rounds = 1000;
 // of the lowest eight of an `rgb10` word goes into 16 bits a channel.
 int64_t idle_bytes(const catalog::Routine& routine, const catalog::Arguments& call)
 {
-    if (routine.from == "rgb10") return routine.to != "rgba32" ? 1 : 0;
+    if (routine.from->name == "rgb10") return routine.to->name != "rgba32" ? 1 : 0;
     const uint32_t shift = (call.as<uint32_t>(Arg::bits) - 8) & 31;
     return takes(routine, Arg::bits) && (shift == 8 || shift == 0) ? 1 : 0;
 }

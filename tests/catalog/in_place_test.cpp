@@ -115,7 +115,7 @@ TEST(InPlace, is_untold_without_two_frames)
 {
     for (const catalog::Routine& routine : catalog::routines())
         if (!takes(routine, Arg::dst) || !takes(routine, Arg::src)) {
-            EXPECT_EQ(in_place(routine), catalog::InPlace::untold) << routine.name;
+            EXPECT_EQ(in_place(routine), catalog::InPlace::unspecified) << routine.name;
         }
 }
 

@@ -170,8 +170,8 @@ TEST_P(MovedSamples, stand_where_the_list_says)
     call.fill(source);
     call.run();
 
-    const auto& from = *catalog::find_samples(routine.from, route.from_form);
-    const auto& to = *catalog::find_samples(routine.to, route.to_form);
+    const auto& from = *catalog::find_samples(routine.from->name, route.from_form);
+    const auto& to = *catalog::find_samples(routine.to->name, route.to_form);
     const auto read = samples_of(from, source, width, height);
     const auto written = samples_of(to, call.frame(false), width, height);
     size_t met = 0;

@@ -19,7 +19,7 @@ TEST(CheckedInC, converts_and_refuses)
     unsigned char yuv[4] = {};
     char text[80];
     EXPECT_FALSE(convert_in_c(yuv, 3, text, sizeof text));
-    EXPECT_STREQ(text, "dst: 3 bytes, needs 4 (from -0 to 4)");
+    EXPECT_STREQ(text, "dst: 3 bytes, needs 4 (bytes 0-3)");
     EXPECT_EQ(yuv[0], 0);
     EXPECT_TRUE(convert_in_c(yuv, 4, text, sizeof text));
     EXPECT_STREQ(text, "ok");

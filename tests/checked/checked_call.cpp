@@ -69,7 +69,7 @@ Answer answer_of(const checked::Result<Value>& result)
 
 Answer answer_of(const tntvt_checked_result& reported)
 {
-    checked::Error error;
+    checked::Status error;
     error.code = static_cast<checked::Code>(reported.code);
     error.refusal = static_cast<checked::Refusal>(reported.refusal);
     error.routine = reported.routine;
@@ -92,12 +92,12 @@ Answer run(const Values& values)
 using Run = Answer (*)(const Values&);
 
 constexpr std::array<Run, catalog::routine_count> runs = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) run<&checked::name>,
+#define TNTVT_ROUTINE(name) run<&checked::name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };
 constexpr std::array<Run, catalog::routine_count> runs_in_c = {
-#define TNTVT_ROUTINE(chapter, name, shape, from, to, rule, summary) run<&checked_##name>,
+#define TNTVT_ROUTINE(name) run<&checked_##name>,
 #include "routines.def"
 #undef TNTVT_ROUTINE
 };

@@ -20,7 +20,7 @@ struct Given {
 };
 
 struct Answer {
-    checked::Error error;
+    checked::Status error;
     int64_t value = 0;
 };
 

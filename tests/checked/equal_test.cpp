@@ -25,7 +25,7 @@ void expect_equal(Checked call, uint64_t seed)
             catalog::Arguments numbers = random_call(random, routine);
             CallMemory memory(random, routine, numbers, margin), bare = memory;
             const Answer answer = call(routine, numbers, exact_buffers(memory), {});
-            ASSERT_TRUE(answer.error) << text_of(routine, numbers) << '\n' << answer.error.message();
+            ASSERT_TRUE(answer.error.ok()) << text_of(routine, numbers) << '\n' << answer.error.message();
             bare.point(numbers);
             const int64_t value = routine.call(numbers);
             ASSERT_TRUE(memory == bare) << text_of(routine, numbers);
@@ -58,7 +58,7 @@ TEST(CheckedCall, equals_the_bare_routine_in_place)
             CallBuffer one(random, range), other = one;
             const checked::Buffer buffer = exactly(one.pointer(), range);
             const Answer answer = call_checked(routine, numbers, {{Arg::dst, buffer}, {Arg::src, buffer}});
-            ASSERT_TRUE(answer.error) << text_of(routine, numbers) << '\n' << answer.error.message();
+            ASSERT_TRUE(answer.error.ok()) << text_of(routine, numbers) << '\n' << answer.error.message();
             numbers[Arg::dst] = numbers[Arg::src] = other.address();
             ASSERT_EQ(answer.value, routine.call(numbers));
             ASSERT_EQ(one.bytes(), other.bytes()) << text_of(routine, numbers);
@@ -74,13 +74,13 @@ TEST(CheckedCall, obtains_and_releases_scratch_memory)
 {
     void *raw = nullptr, *aligned = nullptr;
     const checked::Buffer raw_buffer(&raw, sizeof raw), aligned_buffer(&aligned, sizeof aligned);
-    ASSERT_TRUE(checked::malloc_own_cache_lines(100, raw_buffer, aligned_buffer));
+    ASSERT_TRUE(checked::malloc_own_cache_lines(100, raw_buffer, aligned_buffer).ok());
     EXPECT_NE(raw, nullptr);
     EXPECT_EQ(reinterpret_cast<uintptr_t>(aligned) % 32, 0u);
-    ASSERT_TRUE(checked::free_own_cache_lines(raw_buffer, aligned_buffer));
+    ASSERT_TRUE(checked::free_own_cache_lines(raw_buffer, aligned_buffer).ok());
     EXPECT_EQ(raw, nullptr);
     EXPECT_EQ(checked::malloc_own_cache_lines(100, raw_buffer, checked::Buffer(&aligned, 7)).message(),
-              "aligned: 7 bytes, needs 8 (from -0 to 8)");
+              "aligned: 7 bytes, needs 8 (bytes 0-7)");
     EXPECT_EQ(raw, nullptr);
 }
 

@@ -49,7 +49,7 @@ TEST(CheckedExamples, compile_and_print_what_they_say)
 {
     const std::vector<std::string> found = examples();
     ASSERT_EQ(found.size(), 2u);
-    EXPECT_EQ(run(found[0]), "dst: 4143360 bytes, needs 4147200 (from -0 to 4147200)\n");
+    EXPECT_EQ(run(found[0]), "dst: 4143360 bytes, needs 4147200 (bytes 0-4147199)\n");
     EXPECT_EQ(run("#include <tintvert/checked.h>\n#include <cstdio>\nnamespace checked = tintvert::checked;\n"
                   "int main() {\n" +
                   found[1] + "}\n"),

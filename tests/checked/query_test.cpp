@@ -19,7 +19,7 @@ TEST(CheckedQuery, reports_the_extents_and_touches_nothing)
             const CallMemory before = memory;
             for (const auto call : {call_checked, call_checked_in_c}) {
                 checked::Extents reported;
-                ASSERT_TRUE(call(routine, numbers, exact_buffers(memory), {.query = &reported}).error);
+                ASSERT_TRUE(call(routine, numbers, exact_buffers(memory), {.query = &reported}).error.ok());
                 ASSERT_TRUE(memory == before);
                 const catalog::Extents extents = routine.extents(numbers);
                 ASSERT_EQ(reported.end() - reported.begin(), extents.end() - extents.begin());
@@ -38,7 +38,7 @@ TEST(CheckedQuery, reports_the_extents_and_touches_nothing)
 TEST(CheckedQuery, needs_no_buffers)
 {
     checked::Extents needs;
-    ASSERT_TRUE(checked::tntvt_2vuy_v210({}, {}, 1280, 720, 0, {.query = &needs}));
+    ASSERT_TRUE(checked::tntvt_2vuy_v210({}, {}, 1280, 720, 0, {.query = &needs}).ok());
     EXPECT_EQ(needs.begin()[0].written.to, 719 * 3456 + 3424);
 }
 

@@ -17,9 +17,9 @@ run_all() {
   expect 'B 18 G 174 R 7' "$1/green"
   expect 'B 20 G 168 R 0' env LD_LIBRARY_PATH="$2" "$1/green"
   expect 'done
-src: 2457360 bytes, needs 2488278 (from -0 to 2488278)
+src: 2457360 bytes, needs 2488278 (bytes 0-2488277)
 tntvt_v210_rgb24: a `scale` of 0 divides by zero' "$1/checked"
-  expect 'dst: 95 bytes, needs 96 (from -0 to 96)' "$1/checked_in_c"
+  expect 'dst: 95 bytes, needs 96 (bytes 0-95)' "$1/checked_in_c"
 
   # The picture's header is 12 bytes, a bar 12 pixels: one pixel from the middle of each bar.
   "$1/bars" 96 2 >"$work/bars.v210"

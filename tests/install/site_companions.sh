@@ -52,7 +52,7 @@ B 225 G 16 R 0' "$work/theirs"
 # Checked calls link the site's libzkutil by its place.
 read -ra flags <<<"$(PKG_CONFIG_PATH=$work/theirs/lib/pkgconfig pkg-config --cflags --libs tintvert-checked)"
 "$cc" -std=c11 "$project/examples/checked_in_c.c" -o "$work/checked" "${flags[@]}" -Wl,-rpath,"$work/theirs/lib:$work/site/lib"
-expect 'dst: 95 bytes, needs 96 (from -0 to 96)' "$work/checked"
+expect 'dst: 95 bytes, needs 96 (bytes 0-95)' "$work/checked"
 
 cmake --install "$build" --prefix "$work/ours" >/dev/null
 prints 'B 24 G 195 R 13' "$work/ours"

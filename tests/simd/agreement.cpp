@@ -143,7 +143,7 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
         c[Arg::srcStride] = width * any_of(random, {3, 4, 4, 8});
     }
     // A flip of fields keeps a line of the source in a scratch line of the destination's length.
-    if (routine.shape == "field_change") c[Arg::srcStride] = std::min(c[Arg::srcStride], c[Arg::dstStride]);
+    if (routine.shape->name == "field_change") c[Arg::srcStride] = std::min(c[Arg::srcStride], c[Arg::dstStride]);
     c[Arg::stride] += any_of(random, {0, 0, 4, 6, 64});
     c[Arg::bits] = any_of(random, {16, 16, 12, 10, 8, 14, 9, 7});
     c[Arg::order] = random.between(0, 3);
@@ -157,7 +157,7 @@ bool random_call(Random& random, const Routine& routine, int64_t width, Argument
     c[Arg::softness] = any_of(random, {0, 5, 200});
     c[Arg::fourcc] = any_of(random, {c[Arg::fourcc], 0x30313276, 0x79757632});
     c[Arg::bytes] = width;
-    const bool signed_height = routine.chapter == "rgb" && routine.shape.starts_with("strided");
+    const bool signed_height = routine.chapter == "rgb" && routine.shape->name.starts_with("strided");
     if (signed_height && random.between(0, 3) == 0) c[Arg::height] = -c[Arg::height];
     if (!refusal(routine, c).empty()) return false;
     for (const Touch& touch : routine.extents(c))

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "shapes.h"
 #include "simd/agreement.h"
 
 namespace tintvert::test {
@@ -96,8 +97,9 @@ bool caught(bool together)
     static constexpr Arg arguments[] = {Arg::src, Arg::dst, Arg::pixels};
     Routine routine{};
     routine.name = "add_one";
-    routine.shape = "line";
-    routine.from = routine.to = "alpha";
+    routine.shape = &catalog::shapes::line;
+    routine.from = routine.to = &catalog::layout::alpha;
+    routine.fits_in_memory = [](const Arguments&) { return true; };
     routine.arguments = arguments;
     routine.extents = [](const Arguments& call) {
         Extents extents;

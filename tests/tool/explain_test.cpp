@@ -37,7 +37,7 @@ TEST_F(Explain, text)
 TEST_F(Explain, extents_are_those_of_the_catalogue)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
-        if (routine.from == "rle8") continue;  // as far as the stream says
+        if (routine.from->name == "rle8") continue;  // as far as the stream says
         const Json told = explained({std::string(routine.name), "--size", "96x6"});
         const catalog::Arguments call = catalog::plain_call(routine, {96, 6});
         for (const catalog::Touch& touch : routine.extents(call)) {

@@ -22,7 +22,7 @@ TEST(Layouts, page_in_the_docs_is_the_one_that_the_tool_makes)
 TEST(Layouts, hold_every_name_of_the_catalogue)
 {
     for (const catalog::Routine& routine : catalog::routines())
-        for (const std::string_view name : {routine.from, routine.to})
+        for (const std::string_view name : {routine.from->name, routine.to->name})
             EXPECT_TRUE(name == "none" || name == "rtp4175" || catalog::find_layout(name) != nullptr) << name;
 }
 

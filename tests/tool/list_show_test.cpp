@@ -28,8 +28,8 @@ void expect_same(const json& told, const catalog::Routine& routine)
     EXPECT_EQ(told["name"], routine.name);
     EXPECT_EQ(told["chapter"], routine.chapter);
     EXPECT_EQ(told["summary"], routine.summary);
-    EXPECT_EQ(told["reads"], layout(routine.from));
-    EXPECT_EQ(told["writes"], layout(routine.to));
+    EXPECT_EQ(told["reads"], layout(routine.from->name));
+    EXPECT_EQ(told["writes"], layout(routine.to->name));
     const catalog::Routine* const alias = catalog::alias_of(routine);
     EXPECT_EQ(told["alias_of"], alias == nullptr ? json() : json(alias->name));
     EXPECT_EQ(told["empty"], catalog::is_empty_entry(routine));

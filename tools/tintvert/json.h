@@ -21,8 +21,8 @@ inline Json to_json(const catalog::Routine& routine)
     return {{"name", routine.name},
             {"chapter", routine.chapter},
             {"summary", routine.summary},
-            {"reads", layout_to_json(routine.from)},
-            {"writes", layout_to_json(routine.to)}};
+            {"reads", layout_to_json(routine.from->name)},
+            {"writes", layout_to_json(routine.to->name)}};
 }
 
 }  // namespace tintvert::tool

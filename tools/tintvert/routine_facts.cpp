@@ -21,7 +21,7 @@ InPlaceWords in_place_of(const catalog::Routine& routine)
             return {"as_apart", "yes: the same bytes as with two frames"};
         case catalog::InPlace::in_its_way:
             return {"in_its_way", "in its own way, see the header"};
-        case catalog::InPlace::untold:
+        case catalog::InPlace::unspecified:
             break;
     }
     return {"untold", ""};

@@ -5,9 +5,9 @@
 //     namespace checked = tintvert::checked;
 //     std::vector<unsigned char> rgb(1920 * 1080 * 4), yuv(1920 * 1080 * 2);
 //     const auto done = checked::tntvt_rgb32_2vuy(yuv, 1920 * 2, rgb, 1920 * 4, 1920, 1080);
-//     if (!done) std::puts(done.message().c_str());
+//     if (!done.ok()) std::puts(done.message().c_str());
 //
-// Every routine of <tintvert.h> stands in checked_routines.h under its own name, with a Buffer for each pointer.
+// Every routine of <tintvert.h> is in checked_routines.h under its own name, with a Buffer for each pointer.
 // Nothing is allocated but by message() and by the routines themselves. An exception of a companion library
 // passes through, as it does through the routine.
 #ifndef TINTVERT_CHECKED_H
@@ -27,7 +27,7 @@ concept NumbersInMemory = std::ranges::contiguous_range<Memory> && std::ranges::
     std::is_arithmetic_v<std::remove_reference_t<std::ranges::range_reference_t<Memory>>>;
 
 // Memory, and the pointer into it that the routine is given: its first byte, unless at() says otherwise.
-// Routines that write in front of their pointer need some of the memory there:
+// Routines that write before their pointer need some of the memory there:
 //
 //     checked::Buffer frame(memory, bytes);
 //     checked::tntvt_rgba24_rgb32_invert(src.at(srcStride), ..., frame.at(dstStride), ...);
@@ -52,7 +52,7 @@ public:
 
     void* pointer() const { return pointer_; }
     size_t size() const { return size_; }
-    ptrdiff_t front() const { return front_; }  // bytes in front of the pointer
+    ptrdiff_t front() const { return front_; }  // bytes before the pointer
 
 private:
     void* pointer_ = nullptr;
@@ -60,7 +60,7 @@ private:
     ptrdiff_t front_ = 0;
 };
 
-// Bytes [from, to), counted from the pointer. `from` is negative in front of it.
+// Bytes [from, to), counted from the pointer. `from` is negative before it.
 struct Range {
     int64_t from = 0, to = 0;
     bool empty() const { return from >= to; }
@@ -86,7 +86,7 @@ private:
 
 struct Options {
     bool allow_overlap = false;  // buffers may overlap in ways that the routine does not promise
-    Extents* query = nullptr;    // tell the extents here and call nothing; null buffers are then taken as two
+    Extents* query = nullptr;    // report the extents here and call nothing; null buffers are then taken as two
 };
 
 enum class Code {
@@ -109,7 +109,7 @@ enum class Refusal {
     overruns_scratch,   // a copy longer than the routine's own scratch line
 };
 
-struct Error {
+struct Status {
     Code code = Code::ok;
     Refusal refusal = Refusal::none;
     const char* routine = "";
@@ -117,13 +117,13 @@ struct Error {
     const char* other = "";   // overlap: the other buffer
     const char* why = "";     // refused: a sentence
     uint64_t has = 0;         // bytes of the buffer
-    int64_t front = 0;        // how many of them lie in front of the pointer
+    int64_t front = 0;        // how many of them are before the pointer
     uint64_t needs = 0;       // bytes from `where.from`, or the pointer if that is lower, to `where.to`
     Range where;              // what would be touched; overlap: what both would touch, from the pointer of `buffer`
 
-    explicit operator bool() const { return code == Code::ok; }
+    bool ok() const { return code == Code::ok; }
 
-    // "dst: 4147200 bytes, needs 4149760 (from -0 to 4149760)"
+    // "dst: 4147200 bytes, needs 4149760 (bytes 0-4149759)"
     std::string message() const;
 
     // The same into `text`, cut to `size` bytes with the 0 at its end. Answers the length of the whole.
@@ -131,11 +131,11 @@ struct Error {
 };
 
 template <class Value>
-struct [[nodiscard]] Result : Error {
+struct [[nodiscard]] Result : Status {
     Value value{};  // what the routine returned
 };
 template <>
-struct [[nodiscard]] Result<void> : Error {};
+struct [[nodiscard]] Result<void> : Status {};
 
 }  // namespace tintvert::checked
 

@@ -96,8 +96,8 @@ void print_text(const RoutineCall& plan, Size size)
 {
     const catalog::Routine& routine = *plan.routine;
     fmt::print("{}\n  {}\n\n", call_text(plan), routine.summary);
-    const std::string_view from = routine.from == "none" ? "as it is" : routine.from;
-    const std::string_view to = routine.to == "none" ? "as it is" : routine.to;
+    const std::string_view from = routine.from->name == "none" ? "as it is" : routine.from->name;
+    const std::string_view to = routine.to->name == "none" ? "as it is" : routine.to->name;
     fmt::print("reads    {:>12} bytes, {}\nwrites   {:>12} bytes, {}\n", bytes_of(plan, &PlannedBuffer::in), from,
                bytes_of(plan, &PlannedBuffer::out), to);
     if (decodes_rle8(routine))

@@ -52,8 +52,8 @@ void print_text(const catalog::Routine& routine, const Declaration& declaration)
     for (const catalog::Arg place : routine.arguments)
         fmt::print("  {:<10}  {}\n", catalog::describe(place).name, catalog::describe(place).meaning);
     fmt::print("\nchapter     {}\n", routine.chapter);
-    if (routine.from != "none") fmt::print("reads       {}\n", routine.from);
-    if (routine.to != "none") fmt::print("writes      {}\n", routine.to);
+    if (routine.from->name != "none") fmt::print("reads       {}\n", routine.from->name);
+    if (routine.to->name != "none") fmt::print("writes      {}\n", routine.to->name);
     fmt::print("{}\n", facts_to_text(routine));
     print_indented(declaration.documentation);
 }

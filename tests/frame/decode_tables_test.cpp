@@ -104,6 +104,18 @@ TEST(V210Tables, filled_once_by_the_decoder)
     init_v210_to_rgb();
 }
 
+// Also one whose low byte is 0.
+TEST(V210Tables, every_byte_of_the_guard_counts)
+{
+    for (const int32_t guard : {0x100, 0x10000, INT32_MIN}) {
+        spoil_v210_tables(guard);
+        _v210_to_rgb(nullptr, nullptr, 0, 0, 0, 1);
+        EXPECT_EQ(v210_Atab[0], 77) << guard;
+        EXPECT_EQ(_v210_to_rgb_initted, guard);
+    }
+    init_v210_to_rgb();
+}
+
 TEST(Quirks, keeps_filling_on_every_call)
 {
     init_v210_to_rgb();

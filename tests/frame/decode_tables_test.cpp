@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
 
 #include "decode/tables.h"
 #include "decode/v210_tables.h"
+#include "support/sanitized.h"
 
 namespace tintvert::test {
 namespace {
@@ -63,6 +66,24 @@ TEST(DecodeTables, filled_once)
         decoder(nullptr, 0, nullptr, 0, 0, 0, 1);
         expect_shared_tables();
     }
+}
+
+// In a process of its own, which ends at the division.
+TEST(DecodeTablesDeathTest, filled_before_a_scale_of_0_divides)
+{
+    if (sanitized) GTEST_SKIP() << "sanitizers report the division in their own way";
+    for (const Decoder decoder : {&tntvt_yuv422_rgb24, &tntvt_v210_rgb24})
+        EXPECT_EXIT(
+            {
+                spoil_shared_tables(0);
+                std::signal(SIGFPE, [](int) {
+                    expect_shared_tables();
+                    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+                });
+                decoder(nullptr, 0, nullptr, 0, 2, 1, 0);
+                std::_Exit(2);
+            },
+            testing::ExitedWithCode(0), "");
 }
 
 void expect_v210_tables()

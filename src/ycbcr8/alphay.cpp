@@ -1,6 +1,8 @@
 // One plane of samples as the luma of a `2yuv` frame, and back.
 #include <tintvert/ycbcr8.h>
 
+#include <climits>
+
 #include "frame/walk.h"
 #include "ycbcr8/groups_simd.h"
 
@@ -41,6 +43,9 @@ struct StripChroma {
 // An odd last pixel is dropped.
 long pairs_in(long width) { return width >> 1; }
 
+// Lines 0 to `height`, the last included. The greatest number has none after it.
+long lines_to(long height) { return height == LONG_MAX ? height : height + 1; }
+
 }  // namespace
 
 // QUIRK (keeps_lines_at_end_of_stride): with pitches wider than the pixels, both lines end where their
@@ -55,12 +60,12 @@ int tntvt_alphay_to_2yuv(void* dst, long dstStride, void* src, long srcStride, l
 // is one line, and -1 is none.
 int tntvt_2yuv_to_alphay(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
-    walk_forward<Alphay>({dst, dstStride, src, srcStride}, pairs_in(width), height + 1);
+    walk_forward<Alphay>({dst, dstStride, src, srcStride}, pairs_in(width), lines_to(height));
     return 0;
 }
 
 int tntvt_2yuv_strip_chroma(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
-    walk_forward<StripChroma>({dst, dstStride, src, srcStride}, pairs_in(width), height + 1);
+    walk_forward<StripChroma>({dst, dstStride, src, srcStride}, pairs_in(width), lines_to(height));
     return 0;
 }

@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
 
 #include "decode/tables.h"
 #include "decode/v210_tables.h"
+#include "support/sanitized.h"
 
 namespace tintvert::test {
 namespace {
@@ -65,6 +68,24 @@ TEST(DecodeTables, filled_once)
     }
 }
 
+// In a process of its own, which ends at the division.
+TEST(DecodeTablesDeathTest, filled_before_a_scale_of_0_divides)
+{
+    if (sanitized) GTEST_SKIP() << "sanitizers report the division in their own way";
+    for (const Decoder decoder : {&tntvt_yuv422_rgb24, &tntvt_v210_rgb24})
+        EXPECT_EXIT(
+            {
+                spoil_shared_tables(0);
+                std::signal(SIGFPE, [](int) {
+                    expect_shared_tables();
+                    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+                });
+                decoder(nullptr, 0, nullptr, 0, 2, 1, 0);
+                std::_Exit(2);
+            },
+            testing::ExitedWithCode(0), "");
+}
+
 void expect_v210_tables()
 {
     for (int c = 0; c < 1024; ++c) {
@@ -101,6 +122,18 @@ TEST(V210Tables, filled_once_by_the_decoder)
     _v210_to_rgb(nullptr, nullptr, 0, 0, 0, 1);
     EXPECT_EQ(v210_Atab[0], 77);
     EXPECT_EQ(_v210_to_rgb_initted, 2);
+    init_v210_to_rgb();
+}
+
+// Also one whose low byte is 0.
+TEST(V210Tables, every_byte_of_the_guard_counts)
+{
+    for (const int32_t guard : {0x100, 0x10000, INT32_MIN}) {
+        spoil_v210_tables(guard);
+        _v210_to_rgb(nullptr, nullptr, 0, 0, 0, 1);
+        EXPECT_EQ(v210_Atab[0], 77) << guard;
+        EXPECT_EQ(_v210_to_rgb_initted, guard);
+    }
     init_v210_to_rgb();
 }
 

@@ -91,5 +91,26 @@ TEST_F(Scratch, lets_exceptions_through)
     EXPECT_THROW(free_own_cache_lines(&raw, &aligned), Thrown);
 }
 
+// Both pointers are stored after the call that gives or takes the block.
+TEST_F(Scratch, pointers_stay_where_a_call_throws)
+{
+    void *const old_raw = raw = memory + 1, *const old_aligned = aligned = memory + 32;
+    for (const char* const import : {"ZKAlloc", "ZKFree"}) {
+        calls().throw_at(import, 1);
+        EXPECT_THROW((import == std::string{"ZKAlloc"} ? malloc_own_cache_lines(1, &raw, &aligned)
+                                                       : free_own_cache_lines(&raw, &aligned)),
+                     Thrown);
+        EXPECT_EQ(raw, old_raw) << import;
+        EXPECT_EQ(aligned, old_aligned) << import;
+    }
+}
+
+TEST_F(Scratch, aligned_pointer_is_stored_last)
+{
+    calls().allocate = [this](unsigned int) { return memory + 1; };
+    malloc_own_cache_lines(1, &raw, &raw);
+    EXPECT_EQ(raw, memory + 32);
+}
+
 }  // namespace
 }  // namespace tintvert::test

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/simd.h"
 #include "measured.h"
 #include "peers/peers.h"
+#include "simd/simd.h"
 #include "table.h"
 
 namespace tintvert {

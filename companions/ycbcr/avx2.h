@@ -1,7 +1,7 @@
 // Sixteen pixels at a time, with AVX2.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 #if defined(__x86_64__)
 

@@ -2,7 +2,7 @@
 // and pixels in their places. What a mask leaves out of a load or a store does not fault.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 #if defined(__x86_64__)
 

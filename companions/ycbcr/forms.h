@@ -9,7 +9,7 @@
 #include "matrix.h"
 
 #define TNTVT_STEPS "convert.inc"
-#include "frame/each_width.h"
+#include "simd/each_width.h"
 
 #include "avx2.h"
 #include "avx512.h"

@@ -17,7 +17,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "decode/tables.h"
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

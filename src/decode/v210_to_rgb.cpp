@@ -11,7 +11,7 @@
 #include "frame/first_use.h"
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;

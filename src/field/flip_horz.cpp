@@ -7,7 +7,7 @@
 #include <cstddef>
 
 #include "field/lines.h"
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 using namespace tintvert;
 

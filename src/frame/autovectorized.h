@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 #if defined(__clang__)
 #define TNTVT_PIXELS_APART _Pragma("clang loop vectorize(assume_safety)")

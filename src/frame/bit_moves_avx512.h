@@ -3,7 +3,7 @@
 
 #include "frame/moved_byte.h"
 #include "frame/state.h"
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 #if defined(__x86_64__)
 namespace tintvert {

@@ -4,7 +4,7 @@
 // null, as they are.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

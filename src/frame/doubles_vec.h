@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/doubles.h"
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 #if defined(__x86_64__)
 

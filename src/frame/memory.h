@@ -6,7 +6,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "frame/platform.h"
+#include "simd/platform.h"
 
 namespace tintvert {
 

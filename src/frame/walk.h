@@ -12,7 +12,7 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 namespace tintvert {
 

@@ -4,7 +4,7 @@
 //   word 1   34 .. 43, 54 .. 63
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

@@ -1,7 +1,7 @@
 // Three pgroups, 15 bytes, to a `v210` group, 16 bytes.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

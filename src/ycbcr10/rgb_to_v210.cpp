@@ -5,7 +5,7 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "ycbcr10/rgb_to_v210_simd.h"
 #include "ycbcr10/v210.h"
 

@@ -147,4 +147,4 @@ TNTVT_AVX512 inline void store_groups(uint8_t* dst, __m512i w0, __m512i w1, __m5
 }  // namespace tintvert
 
 #define TNTVT_STEPS "ycbcr10/rgb_to_v210_steps.inc"
-#include "frame/each_width.h"
+#include "simd/each_width.h"

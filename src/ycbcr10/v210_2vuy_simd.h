@@ -1,7 +1,7 @@
 // Groups of `2vuy`, 12 bytes, to groups of `v210`, 16 bytes, and back.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

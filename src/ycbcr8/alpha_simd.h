@@ -1,7 +1,7 @@
 // Alpha in and out of 32-bit pixels.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

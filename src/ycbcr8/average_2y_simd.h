@@ -5,7 +5,7 @@
 
 #include <bit>
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

@@ -1,7 +1,7 @@
 // Sixteen full-range pixels a step to video range.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 #include "ycbcr8/video_range.h"
 
 namespace tintvert {

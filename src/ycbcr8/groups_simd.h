@@ -1,7 +1,7 @@
 // Samples of 4:2:2 groups, four bytes each, to planes and back.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

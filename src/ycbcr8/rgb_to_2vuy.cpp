@@ -3,7 +3,7 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "ycbcr8/rgb_to_2vuy_simd.h"
 
 using namespace tintvert;

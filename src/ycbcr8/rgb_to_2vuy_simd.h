@@ -167,7 +167,7 @@ TNTVT_AVX512 inline void store_low_bytes(uint8_t* dst, __m512d cb, __m512d y0, _
 }  // namespace tintvert
 
 #define TNTVT_STEPS "ycbcr8/rgb_to_2vuy_steps.inc"
-#include "frame/each_width.h"
+#include "simd/each_width.h"
 
 namespace tintvert {
 

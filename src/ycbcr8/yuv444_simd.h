@@ -1,7 +1,7 @@
 // Groups of `yuv444`, 6 bytes, to groups of `2vuy`, 4 bytes, and back.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "catalog.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "support/random.h"
 
 namespace tintvert::test {

@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "support/random.h"
 
 namespace tintvert::test {

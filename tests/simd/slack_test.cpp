@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "catalog.h"
-#include "frame/simd.h"
 #include "geometry.h"
 #include "refusals.h"
+#include "simd/simd.h"
 #include "support/fence.h"
 
 namespace tintvert::test {

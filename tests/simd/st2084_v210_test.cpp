@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 namespace tintvert::test {
 namespace {

@@ -2,7 +2,7 @@
 // each_width.h). Words have 16 bits, ints 32. Doubles add and multiply by operators.
 #pragma once
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 #if defined(__x86_64__)
 

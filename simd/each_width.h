@@ -3,7 +3,7 @@
 // What a step does is often the same at both widths, but a function has one target, templates too: they cannot be
 // instantiated for either. So such steps are written once, on the types and functions of vec.h, in
 // `namespace tintvert::TNTVT_WIDTH` with the attribute TNTVT_TARGET.
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 #if defined(__x86_64__)
 

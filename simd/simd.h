@@ -21,7 +21,7 @@
 #include <cstdint>
 #include <initializer_list>
 
-#include "frame/platform.h"
+#include "simd/platform.h"
 
 #if defined(__x86_64__)
 #define TNTVT_AVX2 __attribute__((target("avx2")))

@@ -39,7 +39,6 @@ public:
     int yes = 1;                                  // what it answers then
     unsigned int matrix = 709;                    // of GetMatrixBySize
     int decoded = -7;                             // of the four decoders
-    bool copies = true;                           // whether CopyMemoryFast copies
 
     // The `nth` call of `function` from now on, counted from 1, is logged and throws Thrown.
     void throw_at(const std::string& function, int nth) { throws_[function] = nth; }

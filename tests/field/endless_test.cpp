@@ -82,9 +82,10 @@ TEST_F(Endless, heights_of_2_to_the_31_are_no_negative_numbers)
 {
     for (const unsigned int height : {0x80000000u, 0xFFFFFFFFu}) {
         for (const int mode : {0, 2, 16, 17})
-            EXPECT_TRUE(runs_on([=, this] { tntvt_deinterlace_rgb(dst, src, 1, height, 0, 0, 0, 0, mode); })) << mode;
-        EXPECT_TRUE(runs_on([=, this] { tntvt_fld_sep_to_mix32(dst, 0, src, src, 0, 1, height); })) << height;
-        EXPECT_TRUE(runs_on([=, this] { tntvt_fld_mix_to_sep32(dst, dst, 0, src, 0, 1, height); })) << height;
+            EXPECT_TRUE(runs_on([=, this] { tntvt_deinterlace_rgb(dst, src, 1, height, pitch, pitch, 0, 0, mode); }))
+                << mode;
+        EXPECT_TRUE(runs_on([=, this] { tntvt_fld_sep_to_mix32(dst, pitch, src, src, pitch, 1, height); })) << height;
+        EXPECT_TRUE(runs_on([=, this] { tntvt_fld_mix_to_sep32(dst, dst, pitch, src, pitch, 1, height); })) << height;
     }
 }
 
@@ -94,10 +95,10 @@ constexpr unsigned int every_class[] = {0x79757632, 0x30313276, 0x30313272, 0x41
 TEST_F(Endless, heights_of_64_bits)
 {
     constexpr long whole = 1l << 32;
-    EXPECT_TRUE(runs_on([this] { tntvt_copy_interleaved(dst, 0, src, 4, 0, whole); }));
+    EXPECT_TRUE(runs_on([this] { tntvt_copy_interleaved(dst, pitch, src, 4, 0, whole); }));
     EXPECT_TRUE(ends([] { tntvt_copy_interleaved(nullptr, 0, nullptr, 4, 0, 1 - whole); }));
     for (const unsigned int fourcc : every_class) {
-        EXPECT_TRUE(runs_on([=, this] { tntvt_copy_dissolve(dst, src, 0, 2, whole, fourcc); })) << fourcc;
+        EXPECT_TRUE(runs_on([=, this] { tntvt_copy_dissolve(dst, src, pitch, 2, whole, fourcc); })) << fourcc;
         EXPECT_TRUE(ends([=] { tntvt_copy_dissolve(nullptr, nullptr, 0, 2, 1 - whole, fourcc); })) << fourcc;
         EXPECT_TRUE(ends([=] { tntvt_copy_dissolve(nullptr, nullptr, 0, 2 - whole, 2, fourcc); })) << fourcc;
     }

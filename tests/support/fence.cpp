@@ -50,21 +50,25 @@ bool faults_with_fence(const Routine& routine, Arguments call, const Extents& ex
     for (const Touch& touch : extents) {
         const Range hull = touch.touched;
         const bool here = &touch == &fenced;
-        buffers.push_back(here ? std::make_unique<FencedBuffer>(hull, fence, side, closed)
-                               : std::make_unique<FencedBuffer>(hull, hull.end, Side::above, Closed::wholly));
+        const auto fill_this = [&](uint8_t* pointer) {
+            if (fill) fill(touch.buffer, pointer, hull);
+        };
+        buffers.push_back(here
+                              ? std::make_unique<FencedBuffer>(hull, fence, side, closed, fill_this)
+                              : std::make_unique<FencedBuffer>(hull, hull.end, Side::above, Closed::wholly, fill_this));
         const int64_t name = call[touch.buffer], address = reinterpret_cast<int64_t>(buffers.back()->pointer());
         for (const Arg argument : routine.arguments)
             if (name != 0 && describe(argument).kind == Argument::buffer && call[argument] == name)
                 call[argument] = address;
         call[touch.buffer] = address;
-        if (fill) faults([&] { fill(touch.buffer, buffers.back()->pointer(), hull); });
     }
     return faults([&] { routine.call(call); });
 }
 
 }  // namespace
 
-FencedBuffer::FencedBuffer(Range hull, int64_t fence, Side side, Closed closed)
+FencedBuffer::FencedBuffer(Range hull, int64_t fence, Side side, Closed closed,
+                           const std::function<void(uint8_t*)>& fill)
 {
     const int64_t below = floor_to_page(std::min<int64_t>(hull.begin - fence, 0)) - page;
     const int64_t above = ceil_to_page(std::max<int64_t>(hull.end - fence, 0)) + page;
@@ -72,11 +76,12 @@ FencedBuffer::FencedBuffer(Range hull, int64_t fence, Side side, Closed closed)
     map_ = static_cast<uint8_t*>(
         mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
     if (map_ == MAP_FAILED) throw std::bad_alloc();
-    uint8_t* const stands_at = map_ - below;
-    pointer_ = stands_at - fence;
+    uint8_t* const fence_at = map_ - below;
+    pointer_ = fence_at - fence;
+    if (fill) fill(pointer_);
     const int protection = closed == Closed::wholly ? PROT_NONE : PROT_READ;
     if (side == Side::above)
-        mprotect(stands_at, static_cast<size_t>(above), protection);
+        mprotect(fence_at, static_cast<size_t>(above), protection);
     else
         mprotect(map_, static_cast<size_t>(-below), protection);
 }
@@ -140,6 +145,11 @@ void expect_extents(Claim claim, const Routine& routine, Arguments call, const F
 void expect_exact_extents(const Routine& routine, Arguments call, const Fill& fill, int64_t idle)
 {
     expect_extents(Claim::exact, routine, call, fill, idle);
+}
+
+void fill_with_errors(uint8_t* line, Range hull)
+{
+    for (int64_t i = hull.begin; i < hull.end; ++i) line[i] = i % 4 == 3 ? 120 : 100;
 }
 
 void expect_within_extents(const Routine& routine, Arguments call)

@@ -67,7 +67,7 @@ public:
         const Extents extents = routine.extents(call);
         for (const Arg argument : routine.arguments) {
             if (describe(argument).kind != Argument::buffer) continue;
-            const Range touched = touched_in(extents, argument);
+            const Range touched = accessed_in(extents, argument);
             const bool written = std::ranges::any_of(
                 extents, [&](const Touch& touch) { return touch.buffer == argument && !touch.written.empty(); });
             const auto bytes = static_cast<size_t>(touched.end - touched.begin + 2 * margin);

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "ycbcr10/pgroup.h"
+#include "ycbcr10/rfc4175_packet_simd.h"
 #include "ycbcr10/v210.h"
 
 using namespace tintvert;
@@ -59,12 +60,22 @@ Pgroup load_pgroup(const uint8_t* group, uint32_t position)
     return {sample(0), sample(1), sample(2), sample(3)};
 }
 
+// A payload for an even `width`, which reads bytes 0 to 5 of `line`, all pixels of it in one packet. Past the 275th
+// pgroup nothing is stored. Returns whether the order of loads and stores left it to be filled at once.
+bool fill_payload(InstructionSet level, uint8_t* payload, const uint8_t* line, uint32_t width)
+{
+    const long count = std::min(packet_pixels, width) / 2;
+    return run_simd<RepeatPgroup>(level, {{payload, 5 * count}}, {{line, 6}}, payload, load_pgroup(line, 0), count) > 0;
+}
+
 // One packet; returns the pixel that it ended before.
 // QUIRK (keeps_place_in_line): every pass reads the same pair of pixels, the packet's first.
 // QUIRK (keeps_endless_odd_width): `width` less `pixel` steps over 0 for an odd `width`, and the passes
 // never end.
-uint32_t form_packet(BitCursor* bits, uint8_t* packet, const uint8_t* line, uint32_t start, uint32_t width)
+uint32_t form_packet(InstructionSet level, BitCursor* bits, uint8_t* packet, const uint8_t* line, uint32_t start,
+                     uint32_t width)
 {
+    if (start == 0 && width % 2 == 0 && fill_payload(level, packet + header_bytes, line, width)) return width;
     restart(bits, packet + header_bytes, packet + packet_bytes);
     const uint8_t* const group = line + start / 6 * 16;
     uint32_t pixel = start;
@@ -73,14 +84,14 @@ uint32_t form_packet(BitCursor* bits, uint8_t* packet, const uint8_t* line, uint
     return pixel;
 }
 
-void form_line(BitCursor* bits, uint8_t* packet, const uint8_t* line, Stream& stream, uint32_t line_number,
-               uint32_t width)
+void form_line(InstructionSet level, BitCursor* bits, uint8_t* packet, const uint8_t* line, Stream& stream,
+               uint32_t line_number, uint32_t width)
 {
     uint32_t start = 0;
     do {
         stamp_header(packet, stream, line_number, start, width);
         ++stream.sequence;
-        start = form_packet(bits, packet, line, start, width) + packet_pixels;
+        start = form_packet(level, bits, packet, line, start, width) + packet_pixels;
     } while (start < width);
 }
 
@@ -94,11 +105,12 @@ int tntvt_v210_frame_to_rtp_4175(void* packet, long packetSize, unsigned short* 
 {
     uint8_t* const frame = bytes(packet);
     const uint32_t line_bytes = v210_line_of_48(width);
+    const InstructionSet level = instruction_set();
     BitCursor* bits = obtain_bit_cursor();
     restart(bits, frame, advance(frame, packetSize));
     Stream stream{load<uint16_t>(seq), timestamp, ssrc, extSeq};
     for (uint32_t y = 0; y < height && width != 0; ++y)
-        form_line(bits, frame, frame + y * line_bytes, stream, y + 1, width);
+        form_line(level, bits, frame, frame + y * line_bytes, stream, y + 1, width);
     frame[1] |= 0x80;  // the marker of the last packet
     store(seq, static_cast<uint16_t>(stream.sequence));
     store(outA, uint32_t{0});

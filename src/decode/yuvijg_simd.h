@@ -14,7 +14,7 @@
 // -167.2 truncates to -167.
 #pragma once
 
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 
@@ -56,7 +56,7 @@ TNTVT_AVX512 inline bool any_equal(__m512i x, __m512i y) { return _mm512_cmpeq_e
 }  // namespace tintvert
 
 #define TNTVT_STEPS "decode/yuvijg_steps.inc"
-#include "frame/each_width.h"
+#include "simd/each_width.h"
 
 namespace tintvert {
 

@@ -9,7 +9,7 @@
 #include <array>
 
 #include "frame/memory.h"
-#include "frame/vec.h"
+#include "simd/vec.h"
 
 namespace tintvert {
 

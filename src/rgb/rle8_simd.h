@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/memory.h"
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 namespace tintvert {
 

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 #include "ycbcr10/pgroup.h"
 
 namespace tintvert {

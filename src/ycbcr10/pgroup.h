@@ -44,8 +44,8 @@ inline void write_pgroup(BitCursor* bits, const Pgroup& pgroup)
     write_sample(bits, pgroup.y1);
 }
 
-// Fields that a pgroup does not own are kept, so that different calls may fill one group. Bits 30 and 31 of
-// a word become 0, but for word 1 under pgroup 0.
+// Fields that a pgroup does not own are kept, so that different calls may fill one group, one after another: words are
+// read, masked and stored whole. Bits 30 and 31 of a word become 0, but for word 1 under pgroup 0.
 inline void store_pgroup_0(uint8_t* group, const Pgroup& p)
 {
     store(group, p.cb | p.y0 << 10 | p.cr << 20);

@@ -1,6 +1,7 @@
 // 8-bit 4:4:4 with the JPEG coefficients (ITU-R BT.601 at full range).
 #include <tintvert/decode.h>
 
+#include "decode/yuvijg_simd.h"
 #include "frame/number.h"
 #include "frame/walk.h"
 
@@ -12,6 +13,7 @@ namespace {
 // QUIRK (keeps_wrap_outside_the_cube): nothing is clamped; a blue of 480 is stored as 224.
 // QUIRK (keeps_alpha_0_of_yuvijg): the fourth byte is 0 and not 255.
 struct YuvijgToRgb32 {
+    using Simd = ConvertYuvijg<YuvijgToRgb32>;
     static constexpr long src_bytes = 3, dst_bytes = 4;
     static void pixel(uint8_t* dst, const uint8_t* src)
     {

@@ -88,7 +88,8 @@ TNTVT_VEC_OF_TWO(add_words, add_epi16, add_epi16)
 TNTVT_VEC_OF_TWO(add_words_saturating, adds_epi16, adds_epi16)
 TNTVT_VEC_OF_TWO(subtract_words, sub_epi16, sub_epi16)
 TNTVT_VEC_OF_TWO(multiply_low, mullo_epi16, mullo_epi16)
-TNTVT_VEC_OF_TWO(multiply_high, mulhi_epu16, mulhi_epu16)         // unsigned words
+TNTVT_VEC_OF_TWO(multiply_high, mulhi_epu16, mulhi_epu16)  // unsigned words
+TNTVT_VEC_OF_TWO(multiply_high_signed, mulhi_epi16, mulhi_epi16)
 TNTVT_VEC_OF_TWO(multiply_rounded, mulhrs_epi16, mulhrs_epi16)    // signed words, (x * y + 0x4000) >> 15
 TNTVT_VEC_OF_TWO(multiply_and_add_pairs, madd_epi16, madd_epi16)  // signed words to ints
 TNTVT_VEC_OF_TWO(pack_to_bytes, packus_epi16, packus_epi16)       // in each quarter, saturating
@@ -113,6 +114,7 @@ TNTVT_VEC_SHIFT(shift_words_right, srli_epi16)
 TNTVT_VEC_SHIFT(shift_signed_words_right, srai_epi16)
 TNTVT_VEC_SHIFT(shift_ints_left, slli_epi32)
 TNTVT_VEC_SHIFT(shift_ints_right, srli_epi32)
+TNTVT_VEC_SHIFT(shift_signed_ints_right, srai_epi32)
 
 #undef TNTVT_VEC_SHIFT
 

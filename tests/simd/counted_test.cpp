@@ -18,7 +18,7 @@ constexpr std::string_view scalar_routines[] = {
     "tntvt_copy_interleaved", "tntvt_deinterlace_rgb",   "tntvt_fld_mix_to_sep32", "tntvt_fld_sep_to_mix32",
     "tntvt_flip_vert",        "tntvt_flip_vert_flags",   "tntvt_i420_rgb32",       "tntvt_rgb48_12_rgba32",
     "tntvt_rgba_to_alpha",    "tntvt_yuv422_10_rgb32",   "tntvt_yuv422_8_rgb24",   "tntvt_yuv422_8_rgb32",
-    "tntvt_yuvijg_rgb32",     "tntvt_yv12_rgb32",
+    "tntvt_yv12_rgb32",
 };
 
 // Scalar code below AVX-512.

@@ -193,5 +193,14 @@ TEST_F(EveryCodeExhaustive, of_rgb24)
     });
 }
 
+TEST_F(EveryCodeExhaustive, of_yuvijg)
+{
+    over_every_colour(3, [&](Bytes& src, int run) {
+        expect_agreement(
+            src, colours * 4, [](uint8_t* dst, uint8_t* from) { tntvt_yuvijg_rgb32(dst, 0, from, 0, colours, 1); },
+            run);
+    });
+}
+
 }  // namespace
 }  // namespace tintvert::test

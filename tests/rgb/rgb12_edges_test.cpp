@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <tintvert.h>
+#include <unistd.h>
 
 #include <vector>
 
@@ -249,6 +251,25 @@ TEST(Rgb12Edges, keeps_one_byte_a_line_and_of_the_last_sample)
     expected[16] = 0x01;
     tntvt_rgb48_12_rgba32(dst.data() + 4, 12, src.data(), 32, 3, 2);
     EXPECT_EQ(dst, expected);
+}
+
+// Only the last sample stays, and all the same a page that cannot be read faults.
+TEST(Rgb12Edges, keeps_one_byte_a_line_and_reads_every_page)
+{
+    const long page = sysconf(_SC_PAGESIZE);
+    void* const map =
+        mmap(nullptr, static_cast<size_t>(3 * page), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(map, MAP_FAILED);
+    auto* const src = static_cast<uint8_t*>(map);
+    uint8_t dst[1] = {};
+    const auto call = [&] { tntvt_rgb48_12_rgba32(dst, 0, src, 0, page / 2, 1); };
+    EXPECT_FALSE(faults(call));
+    for (long n = 0; n < 3; ++n) {
+        mprotect(src + n * page, static_cast<size_t>(page), PROT_NONE);
+        EXPECT_TRUE(faults(call)) << n;
+        mprotect(src + n * page, static_cast<size_t>(page), PROT_READ | PROT_WRITE);
+    }
+    munmap(map, static_cast<size_t>(3 * page));
 }
 
 // Where the destination byte is on a sample to come, that sample is read as it was changed.

@@ -16,9 +16,8 @@ using namespace catalog;
 constexpr std::string_view scalar_routines[] = {
     "_v210_get_next_4words",  "tntvt_2yuv_strip_chroma", "tntvt_4175_to_v210",     "tntvt_change_field_yuv",
     "tntvt_copy_interleaved", "tntvt_deinterlace_rgb",   "tntvt_fld_mix_to_sep32", "tntvt_fld_sep_to_mix32",
-    "tntvt_flip_vert",        "tntvt_flip_vert_flags",   "tntvt_i420_rgb32",       "tntvt_rgb48_12_rgba32",
-    "tntvt_rgba_to_alpha",    "tntvt_yuv422_10_rgb32",   "tntvt_yuv422_8_rgb24",   "tntvt_yuv422_8_rgb32",
-    "tntvt_yv12_rgb32",
+    "tntvt_flip_vert",        "tntvt_flip_vert_flags",   "tntvt_i420_rgb32",       "tntvt_rgba_to_alpha",
+    "tntvt_yuv422_10_rgb32",  "tntvt_yuv422_8_rgb24",    "tntvt_yuv422_8_rgb32",   "tntvt_yv12_rgb32",
 };
 
 // Scalar code below AVX-512.

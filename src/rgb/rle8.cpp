@@ -9,6 +9,7 @@
 
 #include "frame/memory.h"
 #include "frame/number.h"
+#include "rgb/rle8_simd.h"
 
 using namespace tintvert;
 
@@ -39,22 +40,49 @@ uint8_t* put24(uint8_t* dst, const uint8_t* palette, uint8_t index)
     return dst + 3;
 }
 
+uint8_t* encoded_run32(InstructionSet level, uint8_t* dst, const uint8_t* palette, uint8_t index, long pixels)
+{
+    const uint8_t* const entry = palette + 4 * index;
+    const long made = run_simd<RepeatColour32>(level, {{dst, 4 * pixels}}, {{entry, 3}}, dst, entry, pixels);
+    dst += 4 * made;
+    for (long n = made; n < pixels; ++n) dst = put32(dst, palette, index);
+    return dst;
+}
+
+uint8_t* encoded_run24(InstructionSet level, uint8_t* dst, const uint8_t* palette, uint8_t index, long pixels)
+{
+    const uint8_t* const entry = palette + 3 * index;
+    const long made = run_simd<RepeatColour24>(level, {{dst, 3 * pixels}}, {{entry, 3}}, dst, entry, pixels);
+    dst += 3 * made;
+    for (long n = made; n < pixels; ++n) dst = put24(dst, palette, index);
+    return dst;
+}
+
+uint8_t* absolute_run32(InstructionSet level, uint8_t* dst, const uint8_t* indices, const uint8_t* palette, long pixels)
+{
+    const long made = run_simd<LookUpColours32>(level, {{dst, 4 * pixels}}, {{indices, pixels}, {palette, 4 * 256}},
+                                                dst, indices, palette, pixels);
+    dst += 4 * made;
+    for (long n = made; n < pixels; ++n) dst = put32(dst, palette, indices[n]);
+    return dst;
+}
+
 // One line, up to and with the code that ends it. Returns where the next one begins, or null after the code
 // that ends the bitmap.
-const uint8_t* decode_line(uint8_t* dst, const uint8_t* src, const uint8_t* palette)
+const uint8_t* decode_line(InstructionSet level, uint8_t* dst, const uint8_t* src, const uint8_t* palette)
 {
     for (;;) {
         const uint8_t c = src[0], v = src[1];
         src += 2;
         if (c > 0) {
-            for (int i = 0; i < c; ++i) dst = put32(dst, palette, v);
+            dst = encoded_run32(level, dst, palette, v, c);
         } else if (v == end_of_line) {
             return src;
         } else if (v == end_of_bitmap || v == delta) {
             return nullptr;
         } else {
-            for (int i = 0; i < v; ++i) dst = put32(dst, palette, *src++);
-            src += v & 1;
+            dst = absolute_run32(level, dst, src, palette, v);
+            src += v + (v & 1);
         }
     }
 }
@@ -66,11 +94,12 @@ const uint8_t* decode_line(uint8_t* dst, const uint8_t* src, const uint8_t* pale
 // writes before `dst`, from line `height` - 1 down.
 void tntvt_rle8_rgba32(void* dst, long dstStride, void* src, long, long, long height, void* palette)
 {
+    const InstructionSet level = instruction_set();
     const long lines = magnitude(height);
     uint8_t* const end = advance(bytes(dst), line_offset(height, dstStride));
     const uint8_t* codes = bytes(src);
     for (long i = 0; i < lines && codes != nullptr; ++i)
-        codes = decode_line(advance(end, line_offset(-1 - i, dstStride)), codes, bytes(palette));
+        codes = decode_line(level, advance(end, line_offset(-1 - i, dstStride)), codes, bytes(palette));
 }
 
 void tntvt_rle8_rgb32(void* dst, long dstStride, void* src, long srcStride, long width, long height, void* palette)
@@ -83,6 +112,7 @@ void tntvt_rle8_rgb32(void* dst, long dstStride, void* src, long srcStride, long
 // QUIRK (keeps_count_wrap): counting down from 0 wraps, and only an end of bitmap stops the decode.
 void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void* palette)
 {
+    const InstructionSet level = instruction_set();
     uint8_t* to = bytes(dst);
     const uint8_t* codes = bytes(src);
     unsigned long lines_left = static_cast<unsigned long>(height);
@@ -91,7 +121,7 @@ void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void*
         codes += 2;
         if (c > 0) {
             // QUIRK (keeps_one_pixel_more): a run is one pixel longer than c says, up to 256 pixels.
-            for (int i = 0; i <= c; ++i) to = put24(to, bytes(palette), v);
+            to = encoded_run24(level, to, bytes(palette), v, c + 1);
         } else if (v == end_of_line) {
             if (--lines_left == 0) return;
         } else if (v == end_of_bitmap || v == delta) {

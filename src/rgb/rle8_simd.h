@@ -1,0 +1,46 @@
+// Runs of pixels from a palette, a store for one pixel or two where the scalar code makes one for each byte. No more
+// than three bytes of an entry are read.
+#pragma once
+
+#include "frame/memory.h"
+#include "frame/simd.h"
+
+namespace tintvert {
+
+inline uint32_t colour_of(const uint8_t* entry) { return load<uint16_t>(entry) | uint32_t{entry[2]} << 16; }
+
+// One entry over and over, four bytes a pixel.
+struct RepeatColour32 {
+    static long sse2(uint8_t* dst, const uint8_t* entry, long pixels)
+    {
+        const uint32_t colour = colour_of(entry);
+        const uint64_t two = uint64_t{colour} << 32 | colour;
+        long n = 0;
+        for (; pixels - n >= 2; n += 2) store(dst + 4 * n, two);
+        if (n < pixels) store(dst + 4 * n, colour);
+        return pixels;
+    }
+};
+
+// The same, three bytes a pixel. A store of two pixels ends two bytes beyond them, which the next one then writes; it
+// leaves the last one or two to the scalar code.
+struct RepeatColour24 {
+    static long sse2(uint8_t* dst, const uint8_t* entry, long pixels)
+    {
+        const uint64_t colour = colour_of(entry), stored = colour | colour << 24 | colour << 48;
+        long n = 0;
+        for (; pixels - n >= 3; n += 2) store(dst + 3 * n, stored);
+        return n;
+    }
+};
+
+// An entry for each index, four bytes a pixel.
+struct LookUpColours32 {
+    static long sse2(uint8_t* dst, const uint8_t* indices, const uint8_t* palette, long pixels)
+    {
+        for (long n = 0; n < pixels; ++n) store(dst + 4 * n, colour_of(palette + 4 * indices[n]));
+        return pixels;
+    }
+};
+
+}  // namespace tintvert

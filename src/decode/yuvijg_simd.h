@@ -21,8 +21,8 @@ namespace tintvert {
 // In 32768ths: 0.772 is 25296.9, 0.402 is 13172.7. Over 128 the errors sum to less than a multiple.
 constexpr int blue_fraction = 25297, red_fraction = 13173;
 
-// In 2^-24ths, the upper and lower twelve bits multiplied apart. What is added keeps whole numbers from becoming lower.
-constexpr int green_of_cb = -5773711, green_of_cr = 4795935, green_error = 128;
+// In 2^-24ths, the upper and lower twelve bits multiplied apart.
+constexpr int green_of_cb = -5773711, green_of_cr = 4795935;
 
 // Cb and Cr of the pixels that are left to the doubles, as they are in an int of Y, Cb and Cr.
 constexpr int doubles_chroma = (128 + 100) << 16 | (128 - 100) << 8;

@@ -61,7 +61,8 @@ TEST(Outside, names_are_memory_and_exceptions)
 #endif
     const Names known = {"malloc",          "free",           "memcpy",
                          "memmove",         "memset",         "__cxa_begin_catch",
-                         "__cxa_end_catch", "_Unwind_Resume", "__gxx_personality_v0"};
+                         "__cxa_end_catch", "_Unwind_Resume", "__gxx_personality_v0",
+                         "__stack_chk_fail"};  // of -fstack-protector-strong
     for (const std::string& name : undefined_symbols(TINTVERT_LIBRARY)) {
         const size_t version = name.find('@');
         if (version == std::string::npos) continue;  // of a companion

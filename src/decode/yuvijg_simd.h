@@ -14,6 +14,8 @@
 // -167.2 truncates to -167.
 #pragma once
 
+#include <array>
+
 #include "simd/vec.h"
 
 namespace tintvert {
@@ -24,32 +26,26 @@ constexpr int blue_fraction = 25297, red_fraction = 13173;
 // In 2^-24ths, the upper and lower twelve bits multiplied apart.
 constexpr int green_of_cb = -5773711, green_of_cr = 4795935;
 
-// Cb and Cr of the pixels that are left to the doubles, as they are in an int of Y, Cb and Cr.
-constexpr int doubles_chroma = (128 + 100) << 16 | (128 - 100) << 8;
-
-// Words for cb and cr in an int.
-constexpr int chroma_pair(int cb, int cr) { return static_cast<int>(static_cast<uint32_t>(cr) << 16 | (cb & 0xFFFF)); }
+// Words in an int.
+constexpr int pair_of(int lower, int upper)
+{
+    return static_cast<int>(static_cast<uint32_t>(upper) << 16 | (static_cast<uint32_t>(lower) & 0xFFFF));
+}
 
 #if defined(__x86_64__)
 
-// Pixels as ints of Y, Cb, Cr and 0. Eight read 28 bytes.
-TNTVT_AVX2 inline __m256i ints_of_pixels_avx2(const uint8_t* src)
-{
-    const __m128i places = _mm_setr_epi8(0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1);
-    return _mm256_shuffle_epi8(load_halves(src, src + 12), _mm256_broadcastsi128_si256(places));
-}
-
-// At most sixteen.
-TNTVT_AVX512 inline __m512i ints_of_pixels_avx512(const uint8_t* src, long pixels)
-{
-    const __m512i quarters = _mm512_setr_epi32(0, 1, 2, 0, 3, 4, 5, 0, 6, 7, 8, 0, 9, 10, 11, 0);
-    const __m128i places = _mm_setr_epi8(0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1);
-    const __m512i bytes = _mm512_maskz_loadu_epi8(first_bytes(pixels * 3), src);
-    return _mm512_shuffle_epi8(_mm512_permutexvar_epi32(quarters, bytes), _mm512_broadcast_i32x4(places));
-}
-
 TNTVT_AVX2 inline bool any_equal(__m256i x, __m256i y) { return _mm256_movemask_epi8(_mm256_cmpeq_epi32(x, y)) != 0; }
 TNTVT_AVX512 inline bool any_equal(__m512i x, __m512i y) { return _mm512_cmpeq_epi32_mask(x, y) != 0; }
+
+// Bytes 0, 2, 4 ... of `even` and bytes 1, 3, 5 ... of `odd`.
+TNTVT_AVX2 inline __m256i alternate_bytes(__m256i even, __m256i odd)
+{
+    return _mm256_blendv_epi8(even, odd, _mm256_set1_epi16(static_cast<short>(0xFF00)));
+}
+TNTVT_AVX512 inline __m512i alternate_bytes(__m512i even, __m512i odd)
+{
+    return _mm512_mask_blend_epi8(0xAAAAAAAAAAAAAAAA, even, odd);
+}
 
 #endif
 
@@ -60,6 +56,43 @@ TNTVT_AVX512 inline bool any_equal(__m512i x, __m512i y) { return _mm512_cmpeq_e
 
 namespace tintvert {
 
+#if defined(__x86_64__)
+
+// Eight pixels; reads 28 bytes.
+TNTVT_AVX2 inline width_256::YuvijgWords load_yuvijg_avx2(const uint8_t* src)
+{
+    const __m128i y = _mm_setr_epi8(0, -1, 0, -1, 3, -1, 3, -1, 6, -1, 6, -1, 9, -1, 9, -1);
+    const __m128i chroma = _mm_setr_epi8(1, -1, 2, -1, 4, -1, 5, -1, 7, -1, 8, -1, 10, -1, 11, -1);
+    const __m256i bytes = load_halves(src, src + 12),
+                  chroma_words = _mm256_shuffle_epi8(bytes, width_256::in_every_quarter(chroma));
+    return {_mm256_shuffle_epi8(bytes, width_256::in_every_quarter(y)),
+            _mm256_sub_epi16(chroma_words, _mm256_set1_epi16(128))};
+}
+
+// Where the bytes of sixteen pixels go in words: Y twice, or Cb and Cr.
+constexpr std::array<uint8_t, 64> places_of_yuvijg(size_t first, size_t second)
+{
+    std::array<uint8_t, 64> result{};
+    for (size_t i = 0; i < 16; ++i) {
+        result[4 * i] = static_cast<uint8_t>(3 * i + first);
+        result[4 * i + 2] = static_cast<uint8_t>(3 * i + second);
+    }
+    return result;
+}
+alignas(64) inline constexpr std::array<uint8_t, 64> luma_places = places_of_yuvijg(0, 0);
+alignas(64) inline constexpr std::array<uint8_t, 64> chroma_places = places_of_yuvijg(1, 2);
+
+// Of the first 48 bytes.
+TNTVT_AVX512 inline width_512::YuvijgWords words_of_yuvijg_avx512(__m512i bytes)
+{
+    constexpr __mmask64 lower_bytes = 0x5555555555555555;
+    const __m512i y = _mm512_maskz_permutexvar_epi8(lower_bytes, _mm512_load_si512(&luma_places), bytes);
+    const __m512i chroma = _mm512_maskz_permutexvar_epi8(lower_bytes, _mm512_load_si512(&chroma_places), bytes);
+    return {y, _mm512_sub_epi16(chroma, _mm512_set1_epi16(128))};
+}
+
+#endif
+
 // `Form` has the doubles.
 template <class Form>
 struct ConvertYuvijg {
@@ -68,7 +101,7 @@ struct ConvertYuvijg {
     {
         long done = 0;
         for (; pixels - done >= 10; done += 8) {
-            const __m256i step = ints_of_pixels_avx2(src + done * 3);
+            const width_256::YuvijgWords step = load_yuvijg_avx2(src + done * 3);
             if (width_256::has_doubles_chroma(step))
                 convert_in_doubles(dst + done * 4, src + done * 3, 8);
             else
@@ -77,20 +110,30 @@ struct ConvertYuvijg {
         return done;
     }
 
+    // Sixteen pixels a step, 64 bytes loaded as long as the line has them.
     TNTVT_AVX512 static long avx512(uint8_t* dst, const uint8_t* src, long pixels, bool)
     {
-        for (long done = 0; done < pixels; done += 16) {
+        long done = 0;
+        for (; pixels - done >= 22; done += 16)
+            convert_avx512(dst + done * 4, src + done * 3, _mm512_loadu_si512(src + done * 3), 16);
+        for (; done < pixels; done += 16) {
             const long left = pixels - done < 16 ? pixels - done : 16;
-            const __m512i step = ints_of_pixels_avx512(src + done * 3, left);
-            if (width_512::has_doubles_chroma(step))
-                convert_in_doubles(dst + done * 4, src + done * 3, left);
-            else
-                _mm512_mask_storeu_epi8(dst + done * 4, first_bytes(left * 4), width_512::rgb32_of(step));
+            convert_avx512(dst + done * 4, src + done * 3,
+                           _mm512_maskz_loadu_epi8(first_bytes(left * 3), src + done * 3), left);
         }
         return pixels;
     }
 
 private:
+    TNTVT_AVX512 static void convert_avx512(uint8_t* dst, const uint8_t* src, __m512i bytes, long pixels)
+    {
+        const width_512::YuvijgWords step = words_of_yuvijg_avx512(bytes);
+        if (width_512::has_doubles_chroma(step))
+            convert_in_doubles(dst, src, pixels);
+        else
+            _mm512_mask_storeu_epi8(dst, first_bytes(pixels * 4), width_512::rgb32_of(step));
+    }
+
     static void convert_in_doubles(uint8_t* dst, const uint8_t* src, long pixels)
     {
         for (long x = 0; x < pixels; ++x) Form::pixel(dst + x * 4, src + x * 3);

@@ -11,14 +11,12 @@ namespace tintvert {
 struct RepeatPgroup {
     static long sse2(uint8_t* payload, const Pgroup& p, long count)
     {
-        constexpr long block_pgroups = 16;
+        constexpr long block = 16;
         const uint64_t bits = uint64_t{p.cb} << 30 | uint64_t{p.y0} << 20 | uint64_t{p.cr} << 10 | p.y1;
         const uint64_t pgroup = byte_reverse(bits << 24);
-        uint8_t block[5 * block_pgroups];
-        for (long n = 0; n < block_pgroups; ++n) put(block + 5 * n, pgroup);
         long done = 0;
-        for (; count - done >= block_pgroups; done += block_pgroups)
-            std::memcpy(payload + 5 * done, block, sizeof block);
+        for (; done < count && done < block; ++done) put(payload + 5 * done, pgroup);
+        for (; count - done >= block; done += block) std::memcpy(payload + 5 * done, payload, 5 * block);
         for (; done < count; ++done) put(payload + 5 * done, pgroup);
         return count;
     }

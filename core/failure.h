@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "printable.h"
+
 namespace tintvert::core {
 
 enum class Exit {
@@ -18,12 +20,12 @@ enum class Exit {
     interrupted = 130
 };
 
-// One line for stderr.
+// One line for stderr, of printable characters.
 class Failure : public std::runtime_error {
 public:
     template <class... Values>
     Failure(Exit code, fmt::format_string<Values...> text, Values&&... values)
-        : std::runtime_error(fmt::format(text, std::forward<Values>(values)...)), code_(code)
+        : std::runtime_error(printable(fmt::format(text, std::forward<Values>(values)...))), code_(code)
     {}
 
     Exit code() const { return code_; }

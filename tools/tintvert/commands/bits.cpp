@@ -148,7 +148,7 @@ void print_json(const SampledFrame& frame, const Point& point)
                                {"value", catalog::load_sample(plane, sample, frame.bytes.data() + unit.offset)}});
         }
     }
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"x", point.x}, {"y", point.y}, {"samples", samples}}.dump(2));
+    write_json({{"schema", json_schema}, {"x", point.x}, {"y", point.y}, {"samples", samples}});
 }
 
 Exit run(const Options& options)

@@ -6,6 +6,7 @@
 #include "capture/missing_picture.h"
 #include "capture_report.h"
 #include "commands.h"
+#include "diagnostics.h"
 #include "io/clip_options.h"
 #include "io/output_file.h"
 #include "io/pictures/png_file.h"
@@ -115,9 +116,9 @@ Exit run(const Options& options)
 {
     const capture::Report report = walk(options);
     if (options.json)
-        fmt::print("{}\n", to_json(report).dump(2, ' ', false, Json::error_handler_t::replace));
+        write_json(to_json(report));
     else
-        fmt::print(stderr, "{}", to_text(report));
+        print_error_lines(to_text(report));
     if (!report.stream) throw Failure(Exit::no_file, "{} has no RTP packet with 10-bit video", options.input);
     if (report.frames.written == 0)
         throw Failure(Exit::no_file, "{} has no {}frame of {}; nothing is written", options.input,

@@ -164,7 +164,7 @@ Exit run(const Options& options)
     if (result.picture) write_png(options.picture, *result.picture);
     const bool equal = !samples.first() && (!options.exact || result.different_bytes == 0);
     if (options.json)
-        fmt::print("{}\n", to_json(result, samples, equal).dump(2));
+        write_json(to_json(result, samples, equal));
     else
         print_text(options, result, samples);
     return equal ? Exit::done : Exit::differs;

@@ -10,6 +10,7 @@
 #include "capacity.h"
 #include "catalog.h"
 #include "commands.h"
+#include "diagnostics.h"
 #include "geometry.h"
 #include "io/frames.h"
 #include "io/pictures/bmp.h"
@@ -141,7 +142,7 @@ Json to_json(const paths::Path& path)
 
 void report(const Options& options, const paths::Path& path)
 {
-    if (!options.quiet && !options.json) fmt::print(stderr, "{}", to_text(path));
+    if (!options.quiet && !options.json) print_error_lines(to_text(path));
 }
 
 // The layouts that the caller wants, or else those that the file to be written can store.
@@ -177,7 +178,7 @@ Exit print_plan(const Options& options)
     const Size size = options.clip.size.empty() ? Size{} : size_of(options.clip.size);
     const std::string_view to[] = {options.to};
     const paths::Path path = paths::find_path({options.from, false, size}, to);
-    if (options.json) fmt::print("{}\n", to_json(path).dump(2));
+    if (options.json) write_json(to_json(path));
     report(options, path);
     return Exit::done;
 }
@@ -213,7 +214,7 @@ Exit convert_by_path(const Options& options)
         Json summary = to_json(path);
         summary["size"] = {clip.size().width, clip.size().height};
         summary["frames"] = frames;
-        fmt::print("{}\n", summary.dump(2));
+        write_json(summary);
     }
     return Exit::done;
 }

@@ -64,8 +64,7 @@ Exit run(const Options& options)
         fmt::print("{:>5.0f}  {:<12} {:<11} {:>6}  {}\n", guess.score(), name_of(*guess.form),
                    fmt::format("{}x{}", guess.width, guess.height), guess.frames, reasons_of(guess));
     }
-    if (options.json)
-        fmt::print("{}\n", Json{{"schema", json_schema}, {"bytes", file.size()}, {"guesses", list}}.dump(2));
+    if (options.json) write_json({{"schema", json_schema}, {"bytes", file.size()}, {"guesses", list}});
     return Exit::done;
 }
 

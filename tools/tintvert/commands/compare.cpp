@@ -183,7 +183,7 @@ Command add_compare(CLI::App& tool)
     app->add_option("--picture", options->picture, "a PNG of the first frame that differs: where, and how far");
     app->add_flag("--exact", options->exact, "every byte counts, those of no sample too");
     app->add_flag("--json", options->json, "JSON instead of text");
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->one, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -228,6 +228,15 @@ Exit run(const Options& options)
     return convert_by_path(options);
 }
 
+// The file that is read; empty for a path alone.
+std::string file_read(const Options& options)
+{
+    const bool by_routine = !options.words.empty() && catalog::find(options.words[0]) != nullptr;
+    if (by_routine && !options.planes.empty() && takes(*catalog::find(options.words[0]), Arg::dst))
+        return options.planes[0];
+    return options.words.size() > by_routine ? options.words[by_routine] : "";
+}
+
 }  // namespace
 
 Command add_convert(CLI::App& tool)
@@ -258,7 +267,7 @@ Command add_convert(CLI::App& tool)
         ->allow_extra_args(false);
     app->add_option("--palette", options->palette, "256 entries of four bytes, for a raw run-length coded stream");
     add_routine_options(*app, options->routine);
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(file_read(*options), [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

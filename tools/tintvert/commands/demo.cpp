@@ -146,7 +146,7 @@ Command add_demo(CLI::App& tool)
     const auto options = std::make_shared<Options>();
     app->add_option("-i,--input", options->input, "a PNG; without it, a test card of 1920 x 1080");
     app->add_option("-o,--output", options->output, "the folder to write to")->capture_default_str()->take_last();
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->input, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -78,7 +78,7 @@ Command add_guess(CLI::App& tool)
     app->add_option("file", options->file, "a file of raw frames")->required();
     app->add_option("--most", options->most, "how many answers")->capture_default_str()->check(CLI::Range(1, 1000));
     app->add_flag("--json", options->json, "JSON instead of text");
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->file, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

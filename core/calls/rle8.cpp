@@ -21,11 +21,11 @@ void need_sound_stream(bool is_24, const catalog::Arguments& call, const CodedPi
 {
     const auto scan = is_24 ? catalog::scan_rle8_rgb24(picture.stream, call[Arg::height])
                             : catalog::scan_rle8_rgb32(picture.stream, call[Arg::dstStride], call[Arg::height]);
-    if (!scan.ends) throw Failure(Exit::unsafe, "refused: the coded stream ends before byte {}", scan.wanted);
+    if (!scan.ends) throw Refusal("refused: the coded stream ends before byte {}", scan.wanted);
     const int64_t room = frame_bytes(is_24, call, picture);
     if (!scan.written.empty() && (scan.written.begin < 0 || scan.written.end > room))
-        throw Failure(Exit::unsafe, "refused: the coded stream writes bytes {}-{} of a picture of {} bytes",
-                      scan.written.begin, scan.written.end - 1, room);
+        throw Refusal("refused: the coded stream writes bytes {}-{} of a picture of {} bytes", scan.written.begin,
+                      scan.written.end - 1, room);
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ std::vector<int64_t> RoutineCall::output_sizes() const
 RoutineCall plan_call(const catalog::Routine& routine, const catalog::Arguments& arguments)
 {
     if (const auto [refusal, why] = catalog::reason(routine, arguments); refusal != catalog::Refusal::none)
-        throw Failure(Exit::unsafe, "refused: {} ({})", why, catalog::name_of(refusal));
+        throw Refusal("refused: {} ({})", why, catalog::name_of(refusal));
     RoutineCall call{&routine, arguments, {}};
     const catalog::Extents extents = routine.extents(arguments);
     const std::vector<catalog::Content> contents = catalog::contents(routine, arguments);

@@ -18,8 +18,8 @@ void need_whole_units(const catalog::SampleForm& form, Size size)
         down = std::max(down, plane.field == 0 ? plane.down : 2);
     }
     if (size.width % across != 0 || size.height % down != 0)
-        throw Failure(Exit::unsafe, "refused: {}x{} of {}, which takes {} x {} pixels together", size.width,
-                      size.height, form.layout, across, down);
+        throw Refusal("refused: {}x{} of {}, which takes {} x {} pixels together", size.width, size.height, form.layout,
+                      across, down);
 }
 
 }  // namespace

@@ -46,11 +46,9 @@ Size size_of(const std::string& text)
 
 void need_sane_size(Size size)
 {
-    if (size.width < 1 || size.height < 1)
-        throw Failure(Exit::unsafe, "refused: a picture of {}x{}", size.width, size.height);
+    if (size.width < 1 || size.height < 1) throw Refusal("refused: a picture of {}x{}", size.width, size.height);
     if (size.height > most_pixels / size.width)
-        throw Failure(Exit::unsafe, "refused: a picture of {}x{}, which is more than 2^28 pixels", size.width,
-                      size.height);
+        throw Refusal("refused: a picture of {}x{}, which is more than 2^28 pixels", size.width, size.height);
 }
 
 FrameRange frame_range_of(const std::string& text)
@@ -88,10 +86,9 @@ int64_t stride_of(const std::string& text, std::string_view layout, Size size)
     if (!bytes || !rest.empty())
         throw Failure(Exit::usage, "a stride is auto48, auto64, packed or bytes, and not '{}'", text);
     if (*bytes < least)
-        throw Failure(Exit::unsafe, "refused: lines of {} bytes; {} pixels of {} take {}", *bytes, size.width, layout,
-                      least);
+        throw Refusal("refused: lines of {} bytes; {} pixels of {} take {}", *bytes, size.width, layout, least);
     if (*bytes > most_bytes / size.height)
-        throw Failure(Exit::unsafe, "refused: {} lines of {} bytes are more than 2^31", size.height, *bytes);
+        throw Refusal("refused: {} lines of {} bytes are more than 2^31", size.height, *bytes);
     return *bytes;
 }
 

@@ -93,9 +93,10 @@ void Clip::expect(const FrameForm& form)
     form_ = form;
     const int64_t stride = stride_of(options_.stride, form.layout, size_);
     const int64_t all = source_->expect(form, stride);
-    if (all >= 0 && range_.end > all) throw Failure(Exit::unsafe, "there are {} frames, and not {}", all, range_.end);
+    if (all >= 0 && range_.end > all)
+        throw Failure(Exit::unsafe, "{} has {} frames, and not {}", name_, all, range_.end);
     if (all >= 0 && range_.end < 0 && range_.first >= all)
-        throw Failure(Exit::unsafe, "there are {} frames, and none from {} on", all, range_.first);
+        throw Failure(Exit::unsafe, "{} has {} frames, and none from {} on", name_, all, range_.first);
     const int64_t end = range_.end < 0 ? all : range_.end;
     frames_ = end < 0 ? -1 : end - range_.first;
 }
@@ -103,7 +104,7 @@ void Clip::expect(const FrameForm& form)
 void Clip::skip_to_first()
 {
     for (; at_ < range_.first; ++at_)
-        if (!source_->skip()) throw Failure(Exit::unsafe, "there are {} frames, and not {}", at_, range_.first + 1);
+        if (!source_->skip()) throw Failure(Exit::unsafe, "{} has {} frames, and not {}", name_, at_, range_.first + 1);
 }
 
 bool Clip::next(std::span<uint8_t> frame)
@@ -111,7 +112,7 @@ bool Clip::next(std::span<uint8_t> frame)
     skip_to_first();
     if (range_.end >= 0 && at_ == range_.end) return false;
     if (!source_->read(frame)) {
-        if (range_.end >= 0) throw Failure(Exit::unsafe, "there are {} frames, and not {}", at_, range_.end);
+        if (range_.end >= 0) throw Failure(Exit::unsafe, "{} has {} frames, and not {}", name_, at_, range_.end);
         return false;
     }
     ++at_;

@@ -5,12 +5,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <system_error>
 #include <utility>
 
 #include "failure.h"
-#include "io/interrupt.h"
 
 namespace tintvert::core {
 
@@ -28,34 +27,20 @@ bool is_written_as_it_is(const std::filesystem::path& path)
 
 OutputFile::OutputFile(std::filesystem::path target) : target_(std::move(target))
 {
-    if (target_ == "-")
+    if (target_ == "-") {
         descriptor_ = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
-    else if (is_written_as_it_is(target_))
+    } else if (is_written_as_it_is(target_)) {
         descriptor_ = open(target_.c_str(), O_WRONLY | O_CLOEXEC);
-    else
-        open_unfinished();
-    if (descriptor_ < 0) fail(errno);
-}
-
-// The name does not grow out of the target's, which may already be as long as a name can be.
-void OutputFile::open_unfinished()
-{
-    for (int attempt = 0;; ++attempt) {
-        unfinished_ = target_.parent_path() / fmt::format(".tintvert-{}-{}.part", getpid(), attempt);
-        set_unfinished(unfinished_.c_str());
-        descriptor_ = open(unfinished_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor_ >= 0) return;
-        const int error = errno;
-        set_unfinished(nullptr);
-        if (error != EEXIST || attempt == 99) fail(error);
+    } else {
+        or_fail([&] { replacement_ = std::make_unique<Replacement>(target_); });
+        descriptor_ = replacement_->descriptor();
     }
+    if (descriptor_ < 0) fail(errno);
 }
 
 OutputFile::~OutputFile()
 {
-    if (descriptor_ >= 0) close(descriptor_);
-    if (!unfinished_.empty()) unlink(unfinished_.c_str());
-    set_unfinished(nullptr);
+    if (!replacement_ && descriptor_ >= 0) close(descriptor_);
 }
 
 void OutputFile::write(const void* bytes, size_t count)
@@ -70,14 +55,40 @@ void OutputFile::write(const void* bytes, size_t count)
     }
 }
 
-// Some file systems report a full disk only when the file is closed.
 void OutputFile::commit()
 {
-    const int descriptor = descriptor_;
-    descriptor_ = -1;
-    if (close(descriptor) != 0) fail(errno);
-    if (!unfinished_.empty() && std::rename(unfinished_.c_str(), target_.c_str()) != 0) fail(errno);
-    unfinished_.clear();
+    store();
+    put_in_place();
+}
+
+void OutputFile::commit_together(std::span<const std::unique_ptr<OutputFile>> files)
+{
+    for (const auto& file : files) file->store();
+    const SignalsWait until_all_are_there;
+    for (const auto& file : files) file->put_in_place();
+}
+
+void OutputFile::store()
+{
+    if (replacement_)
+        or_fail([&] { replacement_->store(); });
+    else if (close(std::exchange(descriptor_, -1)) != 0)
+        fail(errno);
+}
+
+void OutputFile::put_in_place()
+{
+    if (replacement_) or_fail([&] { replacement_->put_in_place(); });
+}
+
+template <class Work>
+void OutputFile::or_fail(Work work) const
+{
+    try {
+        work();
+    } catch (const std::system_error& error) {
+        fail(error.code().value());
+    }
 }
 
 void OutputFile::fail(int error) const

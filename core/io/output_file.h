@@ -3,12 +3,15 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
+#include <span>
+
+#include "io/replacement.h"
 
 namespace tintvert::core {
 
-// Bytes go to a temporary file in the target's folder, which takes the target's name at commit() and is
-// removed if there is none. One at a time. Standard output (`-`), devices and pipes are written as they are.
-// Throws Failure.
+// Bytes go to a temporary file, which replaces the target at commit() and is removed if there is none. Standard output
+// (`-`), devices and pipes are written as they are. Throws Failure.
 class OutputFile {
 public:
     explicit OutputFile(std::filesystem::path target);
@@ -20,11 +23,18 @@ public:
     void commit();
     const std::filesystem::path& target() const { return target_; }
 
+    // All of them, or none if the bytes of one cannot be stored. A signal waits until all are there.
+    static void commit_together(std::span<const std::unique_ptr<OutputFile>> files);
+
 private:
     [[noreturn]] void fail(int error) const;
-    void open_unfinished();
+    template <class Work>
+    void or_fail(Work work) const;
+    void store();
+    void put_in_place();
 
-    std::filesystem::path target_, unfinished_;  // none for what is written as it is
+    std::filesystem::path target_;
+    std::unique_ptr<Replacement> replacement_;  // null for what is written as it is
     int descriptor_ = -1;
 };
 

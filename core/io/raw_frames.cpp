@@ -101,32 +101,28 @@ private:
     OutputFile file_;
 };
 
-// The planes wait in memory, so that the files appear one after the other and whole.
 class PlanesSink : public FrameSink {
 public:
-    PlanesSink(const FilePaths& paths, const FrameForm& form) : paths_(paths), parts_(form.parts), planes_(paths.size())
+    PlanesSink(const FilePaths& paths, const FrameForm& form) : parts_(form.parts)
     {
         if (parts_.size() != paths.size())
             throw Failure(Exit::usage, "{} files for the {} buffers that the routine writes", paths.size(),
                           parts_.size());
+        for (const auto& path : paths) files_.push_back(std::make_unique<OutputFile>(path));
     }
     void write(std::span<const uint8_t> frame) override
     {
         for (size_t i = 0; i < parts_.size(); ++i) {
-            const auto part = frame.first(static_cast<size_t>(parts_[i]));
-            planes_[i].insert(planes_[i].end(), part.begin(), part.end());
-            frame = frame.subspan(part.size());
+            const auto bytes = static_cast<size_t>(parts_[i]);
+            files_[i]->write(frame.data(), bytes);
+            frame = frame.subspan(bytes);
         }
     }
-    void commit() override
-    {
-        for (size_t i = 0; i < paths_.size(); ++i) write_file(paths_[i], planes_[i].data(), planes_[i].size());
-    }
+    void commit() override { OutputFile::commit_together(files_); }
 
 private:
-    FilePaths paths_;
     std::vector<int64_t> parts_;
-    std::vector<std::vector<uint8_t>> planes_;
+    std::vector<std::unique_ptr<OutputFile>> files_;
 };
 
 }  // namespace

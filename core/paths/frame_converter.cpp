@@ -14,9 +14,9 @@ void need_whole_groups(std::string_view layout, Size size)
     const Capacity& capacity = capacity_of(layout);
     const bool pairs = capacity.chroma == Chroma::c420 || capacity.chroma == Chroma::c422;
     if (pairs && size.width % 2 != 0)
-        throw Failure(Exit::unsafe, "refused: {} has pairs of pixels, and the width {} is odd", layout, size.width);
+        throw Refusal("refused: {} has pairs of pixels, and the width {} is odd", layout, size.width);
     if ((capacity.chroma == Chroma::c420 || layout == "field_planes") && size.height % 2 != 0)
-        throw Failure(Exit::unsafe, "refused: {} has pairs of lines, and the height {} is odd", layout, size.height);
+        throw Refusal("refused: {} has pairs of lines, and the height {} is odd", layout, size.height);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 #include "failure.h"
 #include "frame/memory.h"
@@ -24,13 +25,9 @@ public:
         const int descriptor = mkstemp(name_.data());
         if (descriptor < 0) throw Failure(Exit::no_file, "cannot make a file in {}", name_);
         close(descriptor);
-        set_unfinished(name_.c_str());
+        unfinished_.emplace(name_.c_str());
     }
-    ~OwnFile()
-    {
-        unlink(name_.c_str());
-        set_unfinished(nullptr);
-    }
+    ~OwnFile() { unlink(name_.c_str()); }
     OwnFile(const OwnFile&) = delete;
     OwnFile& operator=(const OwnFile&) = delete;
 
@@ -39,6 +36,7 @@ public:
 
 private:
     std::string name_;
+    std::optional<Unfinished> unfinished_;
 };
 
 // Words of 16 bits, three to a pixel. Each has its 12 bits at the top and their upper four again below: OpenImageIO

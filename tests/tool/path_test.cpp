@@ -15,22 +15,6 @@ namespace {
 using Json = nlohmann::json;
 using PathTest = ToolTest;
 
-Json plan(const std::string& from, const std::string& to, const std::string& size = "")
-{
-    std::vector<std::string> words{"convert", "--from", from, "--to", to, "--dry-run", "--json"};
-    if (!size.empty()) words.insert(words.end(), {"--size", size});
-    const Result result = run(words);
-    EXPECT_EQ(result.code, 0) << from << ' ' << to << ' ' << result.err;
-    return result.code == 0 ? Json::parse(result.out) : Json();
-}
-
-std::vector<std::string> routines_of(const Json& road)
-{
-    std::vector<std::string> names;
-    for (const Json& step : road["road"]) names.push_back(step["routine"]);
-    return names;
-}
-
 TEST_F(PathTest, suggests_the_nearest_layout)
 {
     const Result result = run({"convert", "--from", "v201", "--to", "rgb24", "--dry-run"});

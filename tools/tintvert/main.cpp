@@ -6,13 +6,16 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <new>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "commands.h"
+#include "diagnostics.h"
 #include "help.h"
 #include "io/interrupt.h"
 #include "names.h"
@@ -97,12 +100,13 @@ Exit run_and_flush(int argc, char** argv)
     const Exit code = run(argc, argv);
     std::cout.flush();
     if (!std::cout || std::fflush(stdout) != 0)
-        throw Failure(Exit::no_file, "cannot write the output: {}", std::strerror(errno));
+        throw Failure(Exit::no_file, "cannot write standard output: {}", std::strerror(errno));
     return code;
 }
 
 int main(int argc, char** argv)
 {
+    occupy_standard_descriptors();
     catch_interrupts();
     Exit code = Exit::no_file;
     std::string line;
@@ -113,10 +117,14 @@ int main(int argc, char** argv)
         line = failure.what();
     } catch (const std::bad_alloc&) {
         line = "there is not enough memory";
+    } catch (const std::filesystem::filesystem_error& error) {
+        line = error.what();
+    } catch (const std::system_error& error) {  // of fmt::print, which names no file
+        line = "cannot write standard output: " + error.code().message();
     } catch (const std::exception& error) {
         line = error.what();
     }
-    std::fprintf(stderr, "tintvert: %s\n", line.c_str());
+    print_error_line("tintvert: " + line);
     return static_cast<int>(code);
 }
 

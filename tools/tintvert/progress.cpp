@@ -4,8 +4,9 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <cstdio>
 #include <string>
+
+#include "diagnostics.h"
 
 namespace tintvert::tool {
 namespace {
@@ -20,7 +21,7 @@ Progress::Progress(int64_t frames, bool quiet)
 
 Progress::~Progress()
 {
-    if (shown_ && last_shown_ > 0) fmt::print(stderr, "\n");
+    if (shown_ && last_shown_ > 0) end_progress();
 }
 
 // Ten times a second, and at the end.
@@ -32,13 +33,12 @@ void Progress::done(int64_t frames)
     constexpr int64_t width = 40;
     const double seconds = time - begun_, rate = seconds > 0 ? static_cast<double>(frames) / seconds : 0;
     if (frames_ < 0) {
-        fmt::print(stderr, "\r{} frames  {:.0f} fps ", frames, rate);
+        show_progress(fmt::format("{} frames  {:.0f} fps ", frames, rate));
     } else {
         const std::string bar(static_cast<size_t>(width * frames / frames_), '#');
-        fmt::print(stderr, "\r[{:<40}] {}/{} frames  {:.0f} fps  {:.0f} s left ", bar, frames, frames_, rate,
-                   rate > 0 ? static_cast<double>(frames_ - frames) / rate : 0);
+        show_progress(fmt::format("[{:<40}] {}/{} frames  {:.0f} fps  {:.0f} s left ", bar, frames, frames_, rate,
+                                  rate > 0 ? static_cast<double>(frames_ - frames) / rate : 0));
     }
-    std::fflush(stderr);
 }
 
 }  // namespace tintvert::tool

@@ -45,7 +45,7 @@ Bmp read_header(InputFile& file)
     if (bmp.header < info_header) throw bmp.broken("a BMP with a header of OS/2");
     if (bmp.width < 1 || bmp.height < 1 || bmp.width > 1 << 20 || bmp.height > 1 << 20)
         throw bmp.broken("a BMP of impossible size");
-    need_sane_size({bmp.width, bmp.height});
+    naming(bmp.name, [&] { need_sane_size({bmp.width, bmp.height}); });
     if (file_header + bmp.header > bmp.bytes.size() || bmp.pixels_at > bmp.bytes.size())
         throw bmp.broken("a BMP that is cut short");
     return bmp;

@@ -146,7 +146,7 @@ std::unique_ptr<Picture> read_pnm(InputFile& file)
         throw broken(file, fmt::format("a PAM of {} samples a pixel, and not 3 or 4", header.depth));
     if (header.highest < 1 || header.highest > 65535)
         throw broken(file, fmt::format("a highest value of {}, and not of 1 to 65535", header.highest));
-    need_sane_size({header.width, header.height});
+    naming(file.name(), [&] { need_sane_size({header.width, header.height}); });
     return read_samples(file, header);
 }
 

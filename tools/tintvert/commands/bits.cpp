@@ -38,8 +38,7 @@ Point point_of(const std::string& text, const FrameShape& shape)
     if (!has_comma || y.ec != std::errc() || y.ptr != end)
         throw Failure(Exit::usage, "a pixel is X,Y, such as 0,0, and not '{}'", text);
     if (point.x < 0 || point.y < 0 || point.x >= shape.width || point.y >= shape.height)
-        throw Failure(Exit::unsafe, "refused: pixel {},{} of a picture of {}x{}", point.x, point.y, shape.width,
-                      shape.height);
+        throw Refusal("refused: pixel {},{} of a picture of {}x{}", point.x, point.y, shape.width, shape.height);
     return point;
 }
 
@@ -148,7 +147,7 @@ void print_json(const SampledFrame& frame, const Point& point)
                                {"value", catalog::load_sample(plane, sample, frame.bytes.data() + unit.offset)}});
         }
     }
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"x", point.x}, {"y", point.y}, {"samples", samples}}.dump(2));
+    write_json({{"schema", json_schema}, {"x", point.x}, {"y", point.y}, {"samples", samples}});
 }
 
 Exit run(const Options& options)
@@ -174,7 +173,7 @@ Command add_bits(CLI::App& tool)
     add_sample_options(*app, options->samples);
     app->add_flag("--json", options->json, "JSON instead of text");
     add_color_option(app, &options->color);
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->file, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -6,6 +6,7 @@
 #include "capture/missing_picture.h"
 #include "capture_report.h"
 #include "commands.h"
+#include "diagnostics.h"
 #include "io/clip_options.h"
 #include "io/output_file.h"
 #include "io/pictures/png_file.h"
@@ -25,9 +26,9 @@ capture::FrameSize parse_size(const std::string& size, capture::Scan scan)
 {
     const auto [width, height] = size_of(size);
     if (width > 32768 || height > (scan == capture::Scan::by_field ? 65536 : 32768))
-        throw Failure(Exit::unsafe, "--size {}: more than a payload header can number", size);
+        throw Refusal("refused: --size {}: more than a payload header can number", size);
     if (width % 2 != 0)
-        throw Failure(Exit::unsafe, "--size {}: RFC 4175 sends 4:2:2 in pairs of pixels, so no odd width", size);
+        throw Refusal("refused: --size {}: RFC 4175 sends 4:2:2 in pairs of pixels, so no odd width", size);
     return {width, height};
 }
 
@@ -115,9 +116,9 @@ Exit run(const Options& options)
 {
     const capture::Report report = walk(options);
     if (options.json)
-        fmt::print("{}\n", to_json(report).dump(2, ' ', false, Json::error_handler_t::replace));
+        write_json(to_json(report));
     else
-        fmt::print(stderr, "{}", to_text(report));
+        print_error_lines(to_text(report));
     if (!report.stream) throw Failure(Exit::no_file, "{} has no RTP packet with 10-bit video", options.input);
     if (report.frames.written == 0)
         throw Failure(Exit::no_file, "{} has no {}frame of {}; nothing is written", options.input,
@@ -145,7 +146,7 @@ Command add_capture(CLI::App& tool)
     app->add_option("--missing", options->missing,
                     "a PNG of the frame that misses most, in grey, with magenta where samples are missing");
     app->add_flag("--json", options->json, "the report on stdout as JSON instead of text on stderr");
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->input, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -164,7 +164,7 @@ Exit run(const Options& options)
     if (result.picture) write_png(options.picture, *result.picture);
     const bool equal = !samples.first() && (!options.exact || result.different_bytes == 0);
     if (options.json)
-        fmt::print("{}\n", to_json(result, samples, equal).dump(2));
+        write_json(to_json(result, samples, equal));
     else
         print_text(options, result, samples);
     return equal ? Exit::done : Exit::differs;
@@ -183,7 +183,7 @@ Command add_compare(CLI::App& tool)
     app->add_option("--picture", options->picture, "a PNG of the first frame that differs: where, and how far");
     app->add_flag("--exact", options->exact, "every byte counts, those of no sample too");
     app->add_flag("--json", options->json, "JSON instead of text");
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->one, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

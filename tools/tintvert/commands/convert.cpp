@@ -10,6 +10,7 @@
 #include "capacity.h"
 #include "catalog.h"
 #include "commands.h"
+#include "diagnostics.h"
 #include "geometry.h"
 #include "io/frames.h"
 #include "io/pictures/bmp.h"
@@ -141,7 +142,7 @@ Json to_json(const paths::Path& path)
 
 void report(const Options& options, const paths::Path& path)
 {
-    if (!options.quiet && !options.json) fmt::print(stderr, "{}", to_text(path));
+    if (!options.quiet && !options.json) print_error_lines(to_text(path));
 }
 
 // The layouts that the caller wants, or else those that the file to be written can store.
@@ -177,7 +178,7 @@ Exit print_plan(const Options& options)
     const Size size = options.clip.size.empty() ? Size{} : size_of(options.clip.size);
     const std::string_view to[] = {options.to};
     const paths::Path path = paths::find_path({options.from, false, size}, to);
-    if (options.json) fmt::print("{}\n", to_json(path).dump(2));
+    if (options.json) write_json(to_json(path));
     report(options, path);
     return Exit::done;
 }
@@ -213,7 +214,7 @@ Exit convert_by_path(const Options& options)
         Json summary = to_json(path);
         summary["size"] = {clip.size().width, clip.size().height};
         summary["frames"] = frames;
-        fmt::print("{}\n", summary.dump(2));
+        write_json(summary);
     }
     return Exit::done;
 }
@@ -225,6 +226,15 @@ Exit run(const Options& options)
     if (options.words.size() == 3 || (options.words.size() == 2 && !options.planes.empty()))
         routine_named(options.words[0]);  // says that there is none
     return convert_by_path(options);
+}
+
+// The file that is read; empty for a path alone.
+std::string file_read(const Options& options)
+{
+    const bool by_routine = !options.words.empty() && catalog::find(options.words[0]) != nullptr;
+    if (by_routine && !options.planes.empty() && takes(*catalog::find(options.words[0]), Arg::dst))
+        return options.planes[0];
+    return options.words.size() > by_routine ? options.words[by_routine] : "";
 }
 
 }  // namespace
@@ -257,7 +267,7 @@ Command add_convert(CLI::App& tool)
         ->allow_extra_args(false);
     app->add_option("--palette", options->palette, "256 entries of four bytes, for a raw run-length coded stream");
     add_routine_options(*app, options->routine);
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(file_read(*options), [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -82,7 +82,7 @@ std::string size_text(long width, long height) { return fmt::format("{} x {}", w
 
 void report_step(const std::string& step, long width, long height, double ns_a_pixel, const std::string& file)
 {
-    fmt::print("{:<22} {:>12} {:>8.2f}  {}\n", step, size_text(width, height), ns_a_pixel, file);
+    fmt::print("{:<22} {:>12} {:>8.2f}  {}\n", step, size_text(width, height), ns_a_pixel, printable(file));
 }
 
 Picture picture_in(const std::string& path)
@@ -101,7 +101,7 @@ Exit run(const Options& options)
     const double pixels = static_cast<double>(picture.width * picture.height);
     make_folder(folder);
 
-    fmt::print("{}, {}, {} bits a sample{}\n\n", own ? "built-in test card" : options.input,
+    fmt::print("{}, {}, {} bits a sample{}\n\n", own ? "built-in test card" : printable(options.input),
                size_text(given.width, given.height), given.depth * 8,
                given.depth == Picture::bits16 ? ", of which the upper 8 are used" : "");
 
@@ -146,7 +146,7 @@ Command add_demo(CLI::App& tool)
     const auto options = std::make_shared<Options>();
     app->add_option("-i,--input", options->input, "a PNG; without it, a test card of 1920 x 1080");
     app->add_option("-o,--output", options->output, "the folder to write to")->capture_default_str()->take_last();
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->input, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -135,16 +135,15 @@ void print_json(const RoutineCall& plan, Size size)
     for (const Quirk& quirk : quirks_at(*plan.routine, plan.arguments))
         quirks.push_back(
             {{"name", quirk.name}, {"what", quirk.what}, {"here", quirk.here.empty() ? Json() : Json(quirk.here)}});
-    fmt::print("{}\n", Json{{"schema", json_schema},
-                            {"routine", plan.routine->name},
-                            {"arguments", arguments},
-                            {"bytes_in", bytes_of(plan, &PlannedBuffer::in)},
-                            {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
-                            {"buffers", buffers},
-                            {"deliberate", quirks},
-                            {"peer", peer_to_json(*plan.routine, size.width, size.height)},
-                            {"call", c_program(plan)}}
-                           .dump(2));
+    write_json({{"schema", json_schema},
+                {"routine", plan.routine->name},
+                {"arguments", arguments},
+                {"bytes_in", bytes_of(plan, &PlannedBuffer::in)},
+                {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
+                {"buffers", buffers},
+                {"deliberate", quirks},
+                {"peer", peer_to_json(*plan.routine, size.width, size.height)},
+                {"call", c_program(plan)}});
 }
 
 // --stride is the argument of that name, or else the lines of the source.

@@ -64,8 +64,7 @@ Exit run(const Options& options)
         fmt::print("{:>5.0f}  {:<12} {:<11} {:>6}  {}\n", guess.score(), name_of(*guess.form),
                    fmt::format("{}x{}", guess.width, guess.height), guess.frames, reasons_of(guess));
     }
-    if (options.json)
-        fmt::print("{}\n", Json{{"schema", json_schema}, {"bytes", file.size()}, {"guesses", list}}.dump(2));
+    if (options.json) write_json({{"schema", json_schema}, {"bytes", file.size()}, {"guesses", list}});
     return Exit::done;
 }
 
@@ -79,7 +78,7 @@ Command add_guess(CLI::App& tool)
     app->add_option("file", options->file, "a file of raw frames")->required();
     app->add_option("--most", options->most, "how many answers")->capture_default_str()->check(CLI::Range(1, 1000));
     app->add_flag("--json", options->json, "JSON instead of text");
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->file, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -87,7 +87,7 @@ void print_json(const std::vector<Layout>& layouts)
                         {"note", layout.note},
                         {"picture", picture_of(layout, Painter(false))},
                         {"forms", forms_to_json(layout)}});
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"layouts", list}}.dump(2));
+    write_json({{"schema", json_schema}, {"layouts", list}});
 }
 
 constexpr std::string_view introduction = R"(# Layouts

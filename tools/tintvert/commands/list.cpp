@@ -45,7 +45,7 @@ void print_json(const std::vector<const catalog::Routine*>& routines)
         own.update(facts_to_json(*routine));
         list.push_back(own);
     }
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"routines", list}}.dump(2));
+    write_json({{"schema", json_schema}, {"routines", list}});
 }
 
 void print_text(const std::vector<const catalog::Routine*>& routines)

@@ -74,7 +74,7 @@ void print_json(const std::string& text, const std::vector<Name>& names)
 {
     Json list = Json::array();
     for (const Name& name : names) list.push_back({{"layout", name.layout}, {"who", name.who}, {"name", name.name}});
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"text", text}, {"names", list}}.dump(2));
+    write_json({{"schema", json_schema}, {"text", text}, {"names", list}});
 }
 
 // One line a layout.

@@ -34,7 +34,7 @@ void print_json(const catalog::Routine& routine, const Declaration& declaration)
     about["arguments"] = arguments;
     about.update(facts_to_json(routine));
     about["documentation"] = declaration.documentation;
-    fmt::print("{}\n", Json{{"schema", json_schema}, {"routine", about}}.dump(2));
+    write_json({{"schema", json_schema}, {"routine", about}});
 }
 
 void print_indented(std::string_view text)

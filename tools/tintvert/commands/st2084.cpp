@@ -66,8 +66,7 @@ void print_json(const Table& table)
         entries.push_back(table.entries()[code]);
         exact.push_back(curve(table, code));
     }
-    fmt::print("{}\n",
-               Json{{"schema", json_schema}, {"table", table.name}, {"entries", entries}, {"curve", exact}}.dump());
+    write_json({{"schema", json_schema}, {"table", table.name}, {"entries", entries}, {"curve", exact}}, -1);
 }
 
 // Sixty-four columns of sixteen lines: `#` the table, `.` the curve where the two part.

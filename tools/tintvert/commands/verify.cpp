@@ -36,13 +36,12 @@ Exit run(const Options& options)
                         {"why", verdict.why}});
         if (options.json) continue;
         fmt::print("{:<34}  {:<15}  {}{}{}\n", check.routine, check.peer, word, verdict.why.empty() ? "" : ": ",
-                   verdict.why);
+                   printable(verdict.why));
         std::fflush(stdout);
     }
     if (list.empty()) throw Failure(Exit::usage, "no peer is asked about {}", options.routine);
     if (options.json)
-        fmt::print("{}\n",
-                   Json{{"schema", json_schema}, {"checks", list}}.dump(2, ' ', false, Json::error_handler_t::replace));
+        write_json({{"schema", json_schema}, {"checks", list}});
     else
         fmt::print("\n{} equal, {} near, {} differ, {} skipped\n", counts[0], counts[1], counts[2], counts[3]);
     return counts[PeerVerdict::differs] == 0 ? Exit::done : Exit::differs;

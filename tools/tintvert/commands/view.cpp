@@ -61,7 +61,7 @@ Command add_view(CLI::App& tool)
         ->check(CLI::IsMember(drawings));
     app->add_option("-o,--output", options->output, "a PNG to write instead");
     add_color_option(app, &options->color);
-    return {app, [options] { return run(*options); }};
+    return {app, [options] { return naming(options->file, [&] { return run(*options); }); }};
 }
 
 }  // namespace tintvert::tool

@@ -45,7 +45,7 @@ std::string suggestion(std::string_view typed, std::span<const std::string_view>
     return fmt::format("; did you mean '{}'?", *nearest);
 }
 
-const catalog::Routine& routine_named(const std::string& name)
+const catalog::Routine& routine_named(std::string_view name)
 {
     if (const catalog::Routine* routine = catalog::find(name)) return *routine;
     std::vector<std::string_view> names;
@@ -53,7 +53,7 @@ const catalog::Routine& routine_named(const std::string& name)
     throw Failure(Exit::usage, "there is no routine '{}'{}", name, suggestion(name, names));
 }
 
-const catalog::Layout& layout_named(const std::string& name)
+const catalog::Layout& layout_named(std::string_view name)
 {
     if (const catalog::Layout* layout = catalog::find_layout(name)) return *layout;
     std::vector<std::string_view> names;

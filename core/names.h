@@ -15,7 +15,7 @@ namespace tintvert::core {
 std::string suggestion(std::string_view typed, std::span<const std::string_view> candidates);
 
 // Throw Failure if the catalogue has none of that name.
-const catalog::Routine& routine_named(const std::string& name);
-const catalog::Layout& layout_named(const std::string& name);
+const catalog::Routine& routine_named(std::string_view name);
+const catalog::Layout& layout_named(std::string_view name);
 
 }  // namespace tintvert::core

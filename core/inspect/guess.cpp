@@ -144,6 +144,7 @@ std::vector<Guess> guesses(InputFile& file)
         throw Failure(Exit::usage,
                       "guess needs the length of a file, and that of {} is not known: save it as a file first",
                       file.name());
+    if (file.size() == 0) return {};
     const NameHints hints = hints_of(std::filesystem::path(file.name()).filename().string());
     std::vector<uint8_t> head(static_cast<size_t>(std::min(file.size(), most_read)));
     file.read(head.data(), head.size());

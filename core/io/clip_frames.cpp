@@ -11,8 +11,8 @@ extern "C" {
 #include <algorithm>
 #include <cstring>
 
-#include "capacity.h"
 #include "failure.h"
+#include "names.h"
 
 namespace tintvert::core {
 namespace {
@@ -63,7 +63,7 @@ bool is_bottom_up(const AVCodecParameters& about)
 bool is_alike(std::string_view one, std::string_view other)
 {
     const auto bytes = [](std::string_view layout) {
-        const std::string_view name = capacity_of(layout).bytes;
+        const std::string_view name = layout_named(layout).bytes().name;
         return name == "YUY2" || name == "yuv2" ? std::string_view("yuvs") : name;
     };
     return bytes(one) == bytes(other);

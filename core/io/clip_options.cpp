@@ -22,13 +22,6 @@ std::optional<int64_t> leading_number(std::string_view& text)
     return number;
 }
 
-// The line of a layout with whole pixels, pairs or groups and no padding.
-int64_t packed_line(std::string_view layout, int64_t width)
-{
-    if (layout == "v210") return (width + 5) / 6 * 16;
-    return catalog::find_layout(layout)->line_bytes(width);
-}
-
 }  // namespace
 
 Size size_of(const std::string& text)
@@ -72,7 +65,7 @@ int64_t stride_of(const std::string& text, std::string_view layout, Size size)
 {
     if (text.empty()) return 0;
     const catalog::Layout& about = *catalog::find_layout(layout);
-    const int64_t least = packed_line(layout, size.width);
+    const int64_t least = about.tight_line_bytes(size.width);
     if (about.planes() != catalog::Planes::packed || least == 0)
         throw Failure(Exit::usage, "{} has no lines to take at a --stride", layout);
     if (text == "packed") return least;

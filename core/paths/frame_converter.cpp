@@ -2,20 +2,22 @@
 
 #include <algorithm>
 
-#include "capacity.h"
 #include "failure.h"
 #include "geometry.h"
+#include "names.h"
 
 namespace tintvert::core {
 namespace {
 
 void need_whole_groups(std::string_view layout, Size size)
 {
-    const Capacity& capacity = capacity_of(layout);
-    const bool pairs = capacity.chroma == Chroma::c420 || capacity.chroma == Chroma::c422;
+    using catalog::Chroma, catalog::Planes;
+    const catalog::Layout& about = layout_named(layout);
+    const Chroma chroma = about.chroma();
+    const bool pairs = chroma == Chroma::c420 || chroma == Chroma::c422;
     if (pairs && size.width % 2 != 0)
         throw Refusal("refused: {} has pairs of pixels, and the width {} is odd", layout, size.width);
-    if ((capacity.chroma == Chroma::c420 || layout == "field_planes") && size.height % 2 != 0)
+    if ((chroma == Chroma::c420 || about.planes() == Planes::fields422) && size.height % 2 != 0)
         throw Refusal("refused: {} has pairs of lines, and the height {} is odd", layout, size.height);
 }
 

@@ -6,13 +6,17 @@
 #include <deque>
 #include <optional>
 
-#include "capacity.h"
 #include "failure.h"
 #include "names.h"
-#include "paths/steps.h"
 
 namespace tintvert::core::paths {
 namespace {
+
+using catalog::Chroma;
+using catalog::ChromaLoss;
+using catalog::Layout;
+using catalog::Matrix;
+using catalog::Routine;
 
 // The weights of losses: each is worse than all milder ones together.
 enum Loss : unsigned {
@@ -36,7 +40,7 @@ struct Picture {
 };
 
 struct Place {
-    std::string_view bytes;
+    const Layout* bytes;
     Picture picture;
     unsigned lost = 0;
     Path path;
@@ -49,11 +53,54 @@ struct Place {
 
 bool needs_another_matrix(Size size) { return size.width > 1024 || size.height > 576; }
 
-// Takes from `picture` what a layout has no room for, and says so.
-void fit(const Capacity& into, std::string_view chroma_by, Place& place, std::vector<std::string>& words)
+std::string_view in_words(ChromaLoss loss)
 {
+    switch (loss) {
+        case ChromaLoss::filtered:
+            return " (averaged over neighbouring pixels)";
+        case ChromaLoss::dropped:
+            return " (dropped)";
+        case ChromaLoss::averaged:
+            return " (averaged over two lines)";
+        default:
+            return "";
+    }
+}
+
+// A step of the catalogue, with the layouts and the routine of its record.
+struct Known {
+    const Routine* routine;
+    const catalog::Step* step;
+
+    const Layout& from() const { return step->from == nullptr ? *routine->from : *step->from; }
+    const Layout& to() const { return step->to == nullptr ? *routine->to : *step->to; }
+};
+
+// In the order in which they are preferred.
+std::vector<Known> known_steps()
+{
+    std::vector<Known> known;
+    for (const Routine& routine : catalog::routines())
+        for (const catalog::Step& step : routine.steps) known.push_back({&routine, &step});
+    std::ranges::sort(known, {}, [](const Known& each) { return each.step->rank; });
+    return known;
+}
+
+Picture room_of(const Layout& layout) { return {layout.bits(), layout.chroma(), layout.alpha()}; }
+
+bool is_rgb(const Layout& layout)
+{
+    return std::ranges::any_of(layout.samples, [](const catalog::PlanePicture& plane) {
+        return plane.fields.find('R') != std::string_view::npos;
+    });
+}
+
+// Takes from `picture` what a layout has no room for, and says so.
+void fit(const Layout& layout, ChromaLoss chroma_loss, Place& place, std::vector<std::string>& words)
+{
+    const Picture into = room_of(layout);
     Picture& picture = place.picture;
-    const std::string by = chroma_by.empty() ? "" : fmt::format(" ({})", chroma_by);
+    const std::string by(in_words(chroma_loss));
     const auto lose = [&](Loss loss, std::string what) {
         place.lost |= loss;
         words.push_back(std::move(what));
@@ -73,33 +120,32 @@ void fit(const Capacity& into, std::string_view chroma_by, Place& place, std::ve
     picture.chroma = std::min(picture.chroma, into.chroma);
 }
 
-Place after(const Place& before, const StepRule& step, Size size)
+Place after(const Place& before, const Known& known, Size size)
 {
-    const catalog::Routine& routine = *catalog::find(step.routine);
-    const std::string_view to = step.to.empty() ? routine.to->name : step.to;
-    const Capacity& into = capacity_of(to);
-    const bool to_rgb =
-        into.bytes.find("rgb") != std::string_view::npos || into.bytes.find("bgr") != std::string_view::npos;
+    const auto& [routine, step] = known;
+    const Layout &from = known.from(), &to = known.to();
     Place place = before;
-    place.bytes = into.bytes;
+    place.bytes = &to.bytes();
     std::vector<std::string> words;
     const auto lose = [&](Loss loss, std::string what) {
         place.lost |= loss;
         words.push_back(std::move(what));
     };
-    if (step.from_full_range) lose(range, "full range to video range, rounded");
-    if (step.matrix != Matrix::none) {
-        const bool other = step.matrix == Matrix::bt601 && needs_another_matrix(size);
+    if (step->matrix == Matrix::none && from.full_range && !to.full_range)
+        lose(range, "full range to video range, rounded");
+    if (step->matrix != Matrix::none) {
+        const bool other = step->matrix == Matrix::bt601 && needs_another_matrix(size);
+        const bool to_rgb = is_rgb(to);
         lose(matrix, fmt::format("{} to {} by {}, rounded", to_rgb ? "YCbCr" : "RGB", to_rgb ? "RGB" : "YCbCr",
-                                 step.matrix == Matrix::by_size ? "the matrix for the size"
-                                 : other                        ? "BT.601, which is not the matrix for the size"
-                                                                : "BT.601"));
+                                 step->matrix == Matrix::by_size ? "the matrix for the size"
+                                 : other                         ? "BT.601, which is not the matrix for the size"
+                                                                 : "BT.601"));
         if (other) place.lost |= other_matrix;
     }
-    if (step.wraps) lose(wrapped, "colours outside the RGB cube wrap");
-    fit(into, step.chroma_by, place, words);
-    if (step.alpha_0) place.picture.alpha_0 = true;
-    place.path.steps.push_back({&routine, step.from.empty() ? routine.from->name : step.from, to, std::move(words)});
+    if (step->wraps) lose(wrapped, "colours outside the RGB cube wrap");
+    fit(to, step->chroma, place, words);
+    if (step->alpha_0) place.picture.alpha_0 = true;
+    place.path.steps.push_back({routine, from.name, to.name, std::move(words)});
     return place;
 }
 
@@ -107,16 +153,17 @@ Place after(const Place& before, const StepRule& step, Size size)
 // `rgb12` that is read, so no path goes on from it.
 std::vector<Place> walk(const Start& start)
 {
-    const Capacity& first = capacity_of(start.layout);
+    const Layout& first = layout_named(start.layout);
     std::vector<Place> places;
-    Place home{first.bytes, {first.bits, first.chroma, first.alpha && !start.opaque}, 0, {}};
+    Place home{&first.bytes(), room_of(first), 0, {}};
+    home.picture.alpha = home.picture.alpha && !start.opaque;
     home.path.from = start.layout;
     places.push_back(home);
+    const std::vector<Known> steps = known_steps();
     for (size_t i = 0; i < places.size(); ++i) {
-        if (i > 0 && places[i].bytes == "rgb12") continue;
-        for (const StepRule& step : steps()) {
-            const std::string_view from = step.from.empty() ? catalog::find(step.routine)->from->name : step.from;
-            if (capacity_of(from).bytes != places[i].bytes) continue;
+        if (i > 0 && places[i].bytes == &catalog::layout::rgb12) continue;
+        for (const Known& step : steps) {
+            if (&step.from().bytes() != places[i].bytes) continue;
             Place next = after(places[i], step, start.size);
             const auto is_known = [&](const Place& known) { return known.is_same(next); };
             if (std::ranges::none_of(places, is_known)) places.push_back(std::move(next));
@@ -126,11 +173,11 @@ std::vector<Place> walk(const Start& start)
 }
 
 // The place as a path to one layout: several names may share its bytes, and not all of them have alpha.
-Place at_layout(Place place, const Capacity& layout)
+Place at_layout(Place place, const Layout& layout)
 {
-    fit(layout, {}, place, place.path.other_losses);
-    if (layout.alpha && place.picture.alpha_0) place.path.other_losses.push_back("the alpha made is 0, transparent");
-    place.path.to = layout.layout;
+    fit(layout, ChromaLoss::none, place, place.path.other_losses);
+    if (layout.alpha() && place.picture.alpha_0) place.path.other_losses.push_back("the alpha made is 0, transparent");
+    place.path.to = layout.name;
     place.path.alpha = place.picture.alpha;
     return place;
 }
@@ -154,9 +201,9 @@ Path find_path(const Start& start, std::span<const std::string_view> to)
         return place.path.steps.size() < best->path.steps.size();
     };
     for (const std::string_view layout : to) {
-        const Capacity& wanted = capacity_of(layout);
+        const Layout& wanted = layout_named(layout);
         for (const Place& place : places) {
-            if (place.bytes != wanted.bytes) continue;
+            if (place.bytes != &wanted.bytes()) continue;
             Place there = at_layout(place, wanted);
             if (is_better(there)) best = std::move(there);
         }
@@ -170,8 +217,8 @@ std::vector<std::string_view> reachable(std::string_view from)
 {
     const std::vector<Place> places = walk({from});
     std::vector<std::string_view> names;
-    for (const Capacity& layout : capacities())
-        if (std::ranges::find(places, layout.bytes, &Place::bytes) != places.end()) names.push_back(layout.layout);
+    for (const Layout& layout : catalog::layouts())
+        if (std::ranges::find(places, &layout.bytes(), &Place::bytes) != places.end()) names.push_back(layout.name);
     return names;
 }
 

@@ -52,6 +52,13 @@ TEST_F(Guessing, picture_alone)
     }
 }
 
+// A length of 0 is 0 frames of any size: the name alone is no guess.
+TEST_F(Guessing, empty_file)
+{
+    save("clip_96x54.v210", "");
+    EXPECT_TRUE(guesses_of("clip_96x54.v210").empty());
+}
+
 TEST_F(Guessing, nothing_fits)
 {
     save("odd", std::string(7, 'a'));

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "calls/rle8.h"
-#include "capacity.h"
 #include "catalog.h"
 #include "commands.h"
 #include "diagnostics.h"
@@ -148,7 +147,7 @@ void report(const Options& options, const paths::Path& path)
 // The layouts that the caller wants, or else those that the file to be written can store.
 std::vector<std::string_view> wanted_layouts(const Options& options, const std::string& from, const std::string& format)
 {
-    if (!options.to.empty()) return {capacity_of(options.to).layout};
+    if (!options.to.empty()) return {layout_named(options.to).name};
     const auto fitting = layouts_of_format(format);
     if (fitting.empty())
         throw Failure(Exit::usage, "give --to LAYOUT: raw files can be of any layout, and {} is read", from);
@@ -164,9 +163,9 @@ bool is_picture(std::string_view format)
 void add_losses_of_pictures(const Options& options, const Clip& clip, const std::string& format, paths::Path& path)
 {
     const std::string held = clip.layout();
-    if (is_picture(format_of(clip.name())) && capacity_of(held).bits > capacity_of(path.from).bits)
+    if (is_picture(format_of(clip.name())) && layout_named(held).bits() > layout_named(path.from).bits())
         path.other_losses.push_back(fmt::format("{} bits of the picture read to {} by truncation",
-                                                capacity_of(held).bits, capacity_of(path.from).bits));
+                                                layout_named(held).bits(), layout_named(path.from).bits()));
     if (is_picture(format) && path.alpha && !options.sink.alpha)
         path.other_losses.push_back("alpha dropped, which --alpha keeps");
 }
@@ -190,8 +189,8 @@ Exit convert_by_path(const Options& options)
                       catalog::describe(options.routine.numbers.begin()->first).name);
     if (!options.planes.empty() || !options.palette.empty())
         throw Failure(Exit::usage, "--planes and --palette go with one routine, and not with a conversion path");
-    if (!options.from.empty()) capacity_of(options.from);
-    if (!options.to.empty()) capacity_of(options.to);
+    if (!options.from.empty()) layout_named(options.from);
+    if (!options.to.empty()) layout_named(options.to);
     if (options.words.empty() && options.dry_run) return print_plan(options);
     if (options.words.size() != 2) throw Failure(Exit::usage, "name the file to read and the file to write");
     const std::string &in = options.words[0], &out = options.words[1];

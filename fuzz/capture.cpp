@@ -1,7 +1,7 @@
 // A file as a capture, pcap or RFC 4571, down to frames.
 //
 //     half the width   height   scan   file
-#include "capture/source.h"
+#include "capture/packets/source.h"
 #include "capture/walker.h"
 #include "failure.h"
 #include "input.h"

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "capture/frame.h"
-#include "capture/rtp.h"
+#include "capture/packets/rtp.h"
 
 namespace tintvert::core::capture {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "capture/payload.h"
+#include "capture/packets/payload.h"
 
 namespace tintvert::core::capture {
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "capture/bytes.h"
+#include "capture/packets/bytes.h"
 
 namespace tintvert::core::capture {
 

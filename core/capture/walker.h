@@ -3,7 +3,7 @@
 
 #include "capture/assembler.h"
 #include "capture/order.h"
-#include "capture/source.h"
+#include "capture/packets/source.h"
 
 namespace tintvert::core::capture {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "capture/input.h"
+#include "capture/packets/input.h"
 
 namespace tintvert::core::capture {
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "capture/bytes.h"
+#include "capture/packets/bytes.h"
 
 namespace tintvert::core::capture {
 

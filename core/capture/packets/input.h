@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "capture/bytes.h"
+#include "capture/packets/bytes.h"
 
 namespace tintvert::core::capture {
 

@@ -1,7 +1,7 @@
-#include "capture/source.h"
+#include "capture/packets/source.h"
 
-#include "capture/framed.h"
-#include "capture/pcap.h"
+#include "capture/packets/framed.h"
+#include "capture/packets/pcap.h"
 #include "failure.h"
 
 namespace tintvert::core::capture {

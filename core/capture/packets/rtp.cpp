@@ -1,4 +1,4 @@
-#include "capture/rtp.h"
+#include "capture/packets/rtp.h"
 
 namespace tintvert::core::capture {
 

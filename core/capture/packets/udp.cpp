@@ -1,4 +1,4 @@
-#include "capture/udp.h"
+#include "capture/packets/udp.h"
 
 #include <algorithm>
 #include <optional>

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "capture/source.h"
+#include "capture/packets/source.h"
 
 namespace tintvert::core::capture {
 

@@ -1,8 +1,8 @@
-#include "capture/pcap.h"
+#include "capture/packets/pcap.h"
 
 #include <algorithm>
 
-#include "capture/udp.h"
+#include "capture/packets/udp.h"
 #include "failure.h"
 
 namespace tintvert::core::capture {

@@ -1,4 +1,4 @@
-#include "capture/payload.h"
+#include "capture/packets/payload.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "capture/bytes.h"
+#include "capture/packets/bytes.h"
 
 namespace tintvert::core::capture {
 

@@ -1,7 +1,7 @@
 // From a captured packet to what UDP carries in it.
 #pragma once
 
-#include "capture/bytes.h"
+#include "capture/packets/bytes.h"
 
 namespace tintvert::core::capture {
 

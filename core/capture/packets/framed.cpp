@@ -1,4 +1,4 @@
-#include "capture/framed.h"
+#include "capture/packets/framed.h"
 
 namespace tintvert::core::capture {
 

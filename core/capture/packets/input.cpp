@@ -1,4 +1,4 @@
-#include "capture/input.h"
+#include "capture/packets/input.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -96,8 +96,10 @@ public:
     {
         EXPECT_EQ(pipe(ends_), 0);
         process_.emplace(
-            std::vector<std::string>{"convert", "--from", "2vuy", "--to", "v210", "-", out, "-s", "8x4", "-q"},
-            [&] { dup2(ends_[0], STDIN_FILENO); });
+            std::vector<std::string>{"convert", "--from", "2vuy", "--to", "v210", "-", out, "-s", "8x4", "-q"}, [&] {
+                dup2(ends_[0], STDIN_FILENO);
+                close(ends_[1]);
+            });
         EXPECT_EQ(write(ends_[1], noise(1, 64).data(), 64), 64);
     }
     ~Waiting()

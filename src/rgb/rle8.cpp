@@ -40,28 +40,23 @@ uint8_t* put24(uint8_t* dst, const uint8_t* palette, uint8_t index)
     return dst + 3;
 }
 
-uint8_t* encoded_run32(InstructionSet level, uint8_t* dst, const uint8_t* palette, uint8_t index, long pixels)
+// Shorter encoded runs take longer by the SIMD version.
+constexpr long shortest_for_simd = 8;
+
+uint8_t* encoded_run(InstructionSet level, uint8_t* dst, const uint8_t* palette, uint8_t index, long pixels)
 {
     const uint8_t* const entry = palette + 4 * index;
-    const long made = run_simd<RepeatColour32>(level, {{dst, 4 * pixels}}, {{entry, 3}}, dst, entry, pixels);
-    dst += 4 * made;
-    for (long n = made; n < pixels; ++n) dst = put32(dst, palette, index);
+    long n = 0;
+    if (pixels >= shortest_for_simd)
+        n = run_simd<RepeatColour>(level, {{dst, 4 * pixels}}, {{entry, 3}}, dst, entry, pixels);
+    for (dst += 4 * n; n < pixels; ++n) dst = put32(dst, palette, index);
     return dst;
 }
 
-uint8_t* encoded_run24(InstructionSet level, uint8_t* dst, const uint8_t* palette, uint8_t index, long pixels)
+uint8_t* absolute_run(InstructionSet level, uint8_t* dst, const uint8_t* indices, const uint8_t* palette, long pixels)
 {
-    const uint8_t* const entry = palette + 3 * index;
-    const long made = run_simd<RepeatColour24>(level, {{dst, 3 * pixels}}, {{entry, 3}}, dst, entry, pixels);
-    dst += 3 * made;
-    for (long n = made; n < pixels; ++n) dst = put24(dst, palette, index);
-    return dst;
-}
-
-uint8_t* absolute_run32(InstructionSet level, uint8_t* dst, const uint8_t* indices, const uint8_t* palette, long pixels)
-{
-    const long made = run_simd<LookUpColours32>(level, {{dst, 4 * pixels}}, {{indices, pixels}, {palette, 4 * 256}},
-                                                dst, indices, palette, pixels);
+    const long made = run_simd<LookUpColours>(level, {{dst, 4 * pixels}}, {{indices, pixels}, {palette, 4 * 256}}, dst,
+                                              indices, palette, pixels);
     dst += 4 * made;
     for (long n = made; n < pixels; ++n) dst = put32(dst, palette, indices[n]);
     return dst;
@@ -75,13 +70,13 @@ const uint8_t* decode_line(InstructionSet level, uint8_t* dst, const uint8_t* sr
         const uint8_t c = src[0], v = src[1];
         src += 2;
         if (c > 0) {
-            dst = encoded_run32(level, dst, palette, v, c);
+            dst = encoded_run(level, dst, palette, v, c);
         } else if (v == end_of_line) {
             return src;
         } else if (v == end_of_bitmap || v == delta) {
             return nullptr;
         } else {
-            dst = absolute_run32(level, dst, src, palette, v);
+            dst = absolute_run(level, dst, src, palette, v);
             src += v + (v & 1);
         }
     }
@@ -112,7 +107,6 @@ void tntvt_rle8_rgb32(void* dst, long dstStride, void* src, long srcStride, long
 // QUIRK (keeps_count_wrap): counting down from 0 wraps, and only an end of bitmap stops the decode.
 void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void* palette)
 {
-    const InstructionSet level = instruction_set();
     uint8_t* to = bytes(dst);
     const uint8_t* codes = bytes(src);
     unsigned long lines_left = static_cast<unsigned long>(height);
@@ -121,7 +115,7 @@ void tntvt_rle8_rgb24(void* dst, long, void* src, long, long, long height, void*
         codes += 2;
         if (c > 0) {
             // QUIRK (keeps_one_pixel_more): a run is one pixel longer than c says, up to 256 pixels.
-            to = encoded_run24(level, to, bytes(palette), v, c + 1);
+            for (int i = 0; i <= c; ++i) to = put24(to, bytes(palette), v);
         } else if (v == end_of_line) {
             if (--lines_left == 0) return;
         } else if (v == end_of_bitmap || v == delta) {

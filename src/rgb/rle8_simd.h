@@ -9,8 +9,8 @@ namespace tintvert {
 
 inline uint32_t colour_of(const uint8_t* entry) { return load<uint16_t>(entry) | uint32_t{entry[2]} << 16; }
 
-// One entry over and over, four bytes a pixel.
-struct RepeatColour32 {
+// One entry over and over.
+struct RepeatColour {
     static long sse2(uint8_t* dst, const uint8_t* entry, long pixels)
     {
         const uint32_t colour = colour_of(entry);
@@ -22,20 +22,8 @@ struct RepeatColour32 {
     }
 };
 
-// The same, three bytes a pixel. A store of two pixels ends two bytes beyond them, which the next one then writes; it
-// leaves the last one or two to the scalar code.
-struct RepeatColour24 {
-    static long sse2(uint8_t* dst, const uint8_t* entry, long pixels)
-    {
-        const uint64_t colour = colour_of(entry), stored = colour | colour << 24 | colour << 48;
-        long n = 0;
-        for (; pixels - n >= 3; n += 2) store(dst + 3 * n, stored);
-        return n;
-    }
-};
-
-// An entry for each index, four bytes a pixel.
-struct LookUpColours32 {
+// An entry for each index.
+struct LookUpColours {
     static long sse2(uint8_t* dst, const uint8_t* indices, const uint8_t* palette, long pixels)
     {
         for (long n = 0; n < pixels; ++n) store(dst + 4 * n, colour_of(palette + 4 * indices[n]));

@@ -1,5 +1,5 @@
-// The run-length decoders at every level beside their scalar version: runs of every length, and runs over the palette
-// and over the indices that they are made of.
+// The 32-bit run-length decoder at every level beside its scalar version: runs of every length, and runs over the
+// palette and over the indices that they are made of.
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
@@ -12,7 +12,6 @@ namespace tintvert::test {
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-using Decoder = void (*)(void*, long, void*, long, long, long, void*);
 
 constexpr long room = 1 << 16, dst_stride = 4099;
 
@@ -31,34 +30,34 @@ protected:
         std::copy(bytes.begin(), bytes.end(), memory.begin() + at);
     }
 
-    static Bytes after(Decoder decode, Bytes memory, const Places& at, long height, InstructionSet level)
+    static Bytes after(Bytes memory, const Places& at, long height, InstructionSet level)
     {
         highest_instruction_set = level;
-        decode(&memory[static_cast<size_t>(at.dst)], dst_stride, &memory[static_cast<size_t>(at.src)], 0, 0, height,
-               &memory[static_cast<size_t>(at.palette)]);
+        tntvt_rle8_rgba32(&memory[static_cast<size_t>(at.dst)], dst_stride, &memory[static_cast<size_t>(at.src)], 0, 0,
+                          height, &memory[static_cast<size_t>(at.palette)]);
         return memory;
     }
 
     // Pixels that the SIMD versions make of it.
-    static long expect_agreement(Decoder decode, const Bytes& memory, const Places& at, long height = 1)
+    static long expect_agreement(const Bytes& memory, const Places& at, long height = 1)
     {
-        const Bytes expected = after(decode, memory, at, height, InstructionSet::scalar);
+        const Bytes expected = after(memory, at, height, InstructionSet::scalar);
         simd_units = 0;
         for (const InstructionSet level : levels())
-            EXPECT_TRUE(after(decode, memory, at, height, level) == expected)
+            EXPECT_TRUE(after(memory, at, height, level) == expected)
                 << "level " << static_cast<int>(level) << ", dst at " << at.dst << ", palette at " << at.palette;
         return simd_units;
     }
 
-    // Codes of three lines. Those of absolute runs, if there are any, have indices.
-    Bytes three_lines(long longest, bool absolute)
+    // Codes of three lines, absolute runs and their indices among them.
+    Bytes three_lines(long longest)
     {
         Bytes codes;
         for (int line = 0; line < 3; ++line) {
             for (int run = 0; run < 8; ++run) {
                 const long pixels = random.between(3, longest);
                 const Bytes more = random.bytes(static_cast<size_t>(pixels + (pixels & 1)));
-                const bool in_indices = absolute && random.between(0, 1) == 1;
+                const bool in_indices = random.between(0, 1) == 1;
                 codes.push_back(static_cast<uint8_t>(in_indices ? 0 : pixels));
                 codes.push_back(in_indices ? static_cast<uint8_t>(pixels) : more[0]);
                 if (in_indices) codes.insert(codes.end(), more.begin(), more.end());
@@ -74,13 +73,12 @@ protected:
 TEST_F(Rle8Simd, encoded_runs_of_every_length)
 {
     Bytes memory = random.bytes(4 * room);
-    for (int pixels = 1; pixels <= 255; ++pixels)
-        for (const Decoder decode : {tntvt_rle8_rgba32, tntvt_rle8_rgb24}) {
-            const auto index = static_cast<uint8_t>(random.next());
-            put(memory, apart.src, {static_cast<uint8_t>(pixels), index, 0, 1});
-            const long made = expect_agreement(decode, memory, {apart.dst + pixels % 64, apart.src, apart.palette});
-            EXPECT_EQ(made > 0, !levels().empty() && pixels > 1 - (decode == tntvt_rle8_rgba32)) << pixels;
-        }
+    for (int pixels = 1; pixels <= 255; ++pixels) {
+        const auto index = static_cast<uint8_t>(random.next());
+        put(memory, apart.src, {static_cast<uint8_t>(pixels), index, 0, 1});
+        const long made = expect_agreement(memory, {apart.dst + pixels % 64, apart.src, apart.palette});
+        EXPECT_EQ(made, pixels < 8 ? 0 : pixels * static_cast<long>(levels().size()));
+    }
 }
 
 TEST_F(Rle8Simd, absolute_runs_of_every_length)
@@ -89,8 +87,7 @@ TEST_F(Rle8Simd, absolute_runs_of_every_length)
     for (int pixels = 3; pixels <= 255; ++pixels) {
         put(memory, apart.src, {0, static_cast<uint8_t>(pixels)});
         put(memory, apart.src + 2 + pixels + pixels % 2, {0, 1});
-        const long made =
-            expect_agreement(tntvt_rle8_rgba32, memory, {apart.dst + pixels % 64, apart.src, apart.palette});
+        const long made = expect_agreement(memory, {apart.dst + pixels % 64, apart.src, apart.palette});
         EXPECT_EQ(made, pixels * static_cast<long>(levels().size()));
     }
 }
@@ -101,10 +98,8 @@ TEST_F(Rle8Simd, lines_of_runs)
     for (const long longest : {4, 20, 255})
         for (int round = 0; round < 50; ++round) {
             const Places places = {apart.dst + random.between(0, 63), apart.src, apart.palette + random.between(0, 63)};
-            put(memory, apart.src, three_lines(longest, true));
-            expect_agreement(tntvt_rle8_rgba32, memory, places, 3);
-            put(memory, apart.src, three_lines(longest, false));
-            expect_agreement(tntvt_rle8_rgb24, memory, places, 3);
+            put(memory, apart.src, three_lines(longest));
+            expect_agreement(memory, places, 3);
         }
 }
 
@@ -113,13 +108,12 @@ TEST_F(Rle8Simd, runs_over_the_palette)
 {
     Bytes memory = random.bytes(4 * room);
     for (long distance = -64; distance <= 64; ++distance)
-        for (const uint8_t pixels : Bytes{1, 2, 3, 7, 40}) {
+        for (const uint8_t pixels : Bytes{1, 2, 8, 11, 40}) {
             const Places places = {apart.palette + distance, apart.src, apart.palette};
             put(memory, apart.src, {pixels, static_cast<uint8_t>(random.between(0, 12)), 0, 1});
-            expect_agreement(tntvt_rle8_rgba32, memory, places);
-            expect_agreement(tntvt_rle8_rgb24, memory, places);
+            expect_agreement(memory, places);
             put(memory, apart.src, {0, 8, 3, 1, 4, 1, 5, 9, 2, 6, 0, 1});
-            expect_agreement(tntvt_rle8_rgba32, memory, places);
+            expect_agreement(memory, places);
         }
 }
 
@@ -132,26 +126,25 @@ TEST_F(Rle8Simd, runs_over_their_indices)
     codes[0] = 0, codes[1] = 40;
     for (long distance = -200; distance <= 64; ++distance) {
         put(memory, room / 2, codes);
-        expect_agreement(tntvt_rle8_rgba32, memory, {room / 2 + distance, room / 2, apart.palette});
+        expect_agreement(memory, {room / 2 + distance, room / 2, apart.palette});
     }
 }
 
 TEST_F(Rle8Simd, touches_nothing_outside_the_extents)
 {
     for (const InstructionSet level : levels())
-        for (const uint8_t pixels : Bytes{3, 4, 5, 16, 17, 80}) {
+        for (const uint8_t pixels : Bytes{3, 8, 9, 10, 17, 80}) {
             highest_instruction_set = level;
-            const auto decodes = [&](Decoder decode, Bytes codes, int64_t palette_bytes, int64_t dst_bytes) {
+            const auto decodes = [&](Bytes codes, int64_t palette_bytes, int64_t dst_bytes) {
                 const FencedBuffer palette({0, palette_bytes}, palette_bytes, Side::above, Closed::wholly);
                 const FencedBuffer dst({0, dst_bytes}, dst_bytes, Side::above, Closed::wholly);
-                return !faults([&] { decode(dst.pointer(), 0, codes.data(), 0, 0, 1, palette.pointer()); });
+                return !faults([&] { tntvt_rle8_rgba32(dst.pointer(), 0, codes.data(), 0, 0, 1, palette.pointer()); });
             };
             Bytes indices(2u + pixels + pixels % 2u, 255);
             indices[0] = 0, indices[1] = pixels;
             indices.insert(indices.end(), {0, 1});
-            EXPECT_TRUE(decodes(tntvt_rle8_rgba32, {pixels, 255, 0, 1}, 1023, 4 * pixels));
-            EXPECT_TRUE(decodes(tntvt_rle8_rgba32, indices, 1023, 4 * pixels));
-            EXPECT_TRUE(decodes(tntvt_rle8_rgb24, {pixels, 255, 0, 1}, 768, 3 * (pixels + 1)));
+            EXPECT_TRUE(decodes({pixels, 255, 0, 1}, 1023, 4 * pixels));
+            EXPECT_TRUE(decodes(indices, 1023, 4 * pixels));
         }
 }
 

@@ -51,14 +51,9 @@ bool declares(std::string_view prototype, std::string_view routine)
            (before[before.size() - routine.size() - 1] == ' ' || before[before.size() - routine.size() - 1] == '*');
 }
 
-}  // namespace
-
 // The comment of a declaration is the one directly above it.
-Declaration declaration_of(std::string_view chapter, std::string_view routine)
+Declaration declaration_in(std::string_view rest, std::string_view routine)
 {
-    const auto header = std::ranges::find(headers(), chapter, &Header::chapter);
-    if (header == headers().end()) return {};
-    std::string_view rest = header->text;
     const size_t opening = rest.find("\nTNTVT_BEGIN");
     if (opening != std::string_view::npos) rest.remove_prefix(opening + 12);
 
@@ -77,6 +72,18 @@ Declaration declaration_of(std::string_view chapter, std::string_view routine)
         }
         comment = in_comment ? piece : std::string_view();
     }
+}
+
+}  // namespace
+
+Declaration declaration_of(std::string_view chapter, std::string_view routine)
+{
+    for (const Header& header : headers()) {
+        if (header.chapter != chapter) continue;
+        Declaration found = declaration_in(header.text, routine);
+        if (!found.prototype.empty()) return found;
+    }
+    return {};
 }
 
 }  // namespace tintvert::core

@@ -8,7 +8,8 @@
 
 namespace tintvert::core {
 
-// One header of include/tintvert/; filled in when the tool is built.
+// One header of include/tintvert/; filled in when the tool is built. The headers rgb.h and rgb_8bit.h are both of the
+// chapter rgb.
 struct Header {
     std::string_view chapter, text;
 };
@@ -19,7 +20,7 @@ struct Declaration {
     std::string documentation;  // the comment above it, without the comment marks
 };
 
-// Empty strings if the header declares no such routine.
+// Empty strings if no header of the chapter declares the routine.
 Declaration declaration_of(std::string_view chapter, std::string_view routine);
 
 }  // namespace tintvert::core

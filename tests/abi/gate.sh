@@ -25,7 +25,7 @@ variant() {
   cp -P "$project"/build/abi/lib/*.so* "$folder"
   sed -i "$2" "$folder/include/tintvert/frame.h"
   sed "$2" "$project/src/frame/scratch.cpp" >"$folder/scratch.cpp"
-  c++ -std=c++20 -O0 -g -fPIC -I"$folder/include" -I"$project/src" -I"$project"/companions/{zkutil,kmrutil,ycbcr} \
+  c++ -std=c++20 -O0 -g -fPIC -I"$folder/include" -I"$project/src" -I"$project" -I"$project"/companions/{zkutil,kmrutil,ycbcr} \
     -c "$folder/scratch.cpp" -o "$folder/scratch.o"
   local others
   mapfile -t others < <(find "$objects" -name '*.o' ! -path '*/frame/scratch.cpp.o' | sort)

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
-#include "reference/2vuy_rgb.h"
-#include "reference/v210_decoders.h"
+#include "reference/decode/2vuy_rgb.h"
+#include "reference/decode/v210_decoders.h"
 #include "support/strided.h"
 
 namespace tintvert::test {

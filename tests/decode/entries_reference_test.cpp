@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
-#include "reference/v210_decoders.h"
+#include "reference/decode/v210_decoders.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

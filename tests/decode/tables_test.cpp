@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <functional>
 
-#include "reference/decoding_tables.h"
+#include "reference/decode/decoding_tables.h"
 #include "support/library_memory.h"
 #include "support/v210.h"
 

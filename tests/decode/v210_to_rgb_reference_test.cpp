@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <ostream>
 
-#include "reference/v210_decoders.h"
+#include "reference/decode/v210_decoders.h"
 #include "support/arena.h"
 #include "support/strided.h"
 

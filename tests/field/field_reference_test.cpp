@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "reference/field.h"
+#include "reference/field/field.h"
 #include "support/arena.h"
 #include "support/field_calls.h"
 

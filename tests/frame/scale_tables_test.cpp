@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "reference/scale.h"
+#include "reference/ycbcr8/scale.h"
 
 namespace tintvert::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
-#include "reference/st2084.h"
+#include "reference/hdr/st2084.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "recorder.h"
-#include "reference/decoding_tables.h"
+#include "reference/decode/decoding_tables.h"
 #include "support/library_memory.h"
 #include "support/sanitized.h"
 

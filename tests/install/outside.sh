@@ -104,7 +104,7 @@ looks() {
     same "lib$library.so.1.0.0" "where lib$library.so.1 leads" "$(readlink "$lib/lib$library.so.1")"
     readelf -d "$lib/lib$library.so" | grep -qF "soname: [lib$library.so.1]" || fail "lib$library has another soname"
   done
-  for file in include/tintvert.h include/tintvert/rgb.h include/tintvert/companions/zkutil.h \
+  for file in include/tintvert.h include/tintvert/rgb{,_8bit,_deep,_rle}.h include/tintvert/companions/zkutil.h \
     include/tintvert_checked.h include/tintvert/checked{,_routines,_c_routines}.h \
     share/doc/tintvert/LICENSE share/doc/tintvert/README.md share/doc/tintvert/examples/bars.cpp; do
     [ -f "$1/$file" ] || fail "$file is missing"

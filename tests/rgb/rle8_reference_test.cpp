@@ -1,4 +1,4 @@
-#include "reference/rle8.h"
+#include "reference/rgb/rle8.h"
 
 #include <gtest/gtest.h>
 #include <tintvert.h>

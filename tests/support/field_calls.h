@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "reference/field.h"
+#include "reference/field/field.h"
 #include "support/random.h"
 
 namespace tintvert::test {

@@ -1,59 +1,12 @@
-#include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mman.h>
-#include <sys/ptrace.h>
-#include <sys/wait.h>
-#include <tintvert.h>
-#include <unistd.h>
-
 #include <climits>
-#include <csignal>
 #include <cstring>
 
-#include "reference/rfc4175.h"
+#include "reference/ycbcr10/rfc4175.h"
+#include "rfc4175_former.h"
 #include "support/fence.h"
-#include "v210_bytes.h"
 
 namespace tintvert::test {
 namespace {
-
-constexpr unsigned timestamp = 0xAABBCCDD, ssrc = 0x01020304;
-constexpr unsigned short ext_seq = 0x5566;
-
-struct Former {
-    unsigned short seq = 0x1234;
-    long packetSize = 1395;
-    unsigned ignored = 0xDEADBEEF, outA = 7, outB = 9;
-
-    void form(uint8_t* frame, unsigned width, unsigned height)
-    {
-        EXPECT_EQ(tntvt_v210_frame_to_rtp_4175(frame, packetSize, &seq, timestamp, ssrc, ext_seq, &ignored, width,
-                                               height, &outA, &outB),
-                  0);
-        EXPECT_EQ(ignored, 0xDEADBEEF);
-        EXPECT_EQ(outA, 0u);
-        EXPECT_EQ(outB, 0u);
-    }
-};
-
-size_t line_bytes(unsigned width) { return (width + 47) / 48 * 128; }
-
-Bytes frame_of(unsigned width, unsigned height, uint8_t filling = 0)
-{
-    return Bytes(std::max<size_t>(1395, line_bytes(width) * height) + 64, filling);
-}
-
-Bytes part(const Bytes& bytes, size_t begin, size_t end)
-{
-    return Bytes(bytes.begin() + static_cast<long>(begin), bytes.begin() + static_cast<long>(end));
-}
-
-Bytes repeated(const Bytes& pgroup, int times)
-{
-    Bytes payload;
-    for (int i = 0; i < times; ++i) payload.insert(payload.end(), pgroup.begin(), pgroup.end());
-    return payload;
-}
 
 TEST(Rfc4175Packet, one_line_of_two_pixels)
 {
@@ -232,66 +185,6 @@ TEST(Rfc4175Packet, payload_is_read_back_by_the_reader)
         EXPECT_EQ(tntvt_4175_to_v210(group.data(), payload.data(), 10, 0, 2 * place), 0);
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(load_place(group.data(), i), i < place ? reference::Pgroup{} : load_place(their_group.data(), i));
-    }
-}
-
-// Whether a process of its own is still running after so many instructions, one at a time.
-bool runs_for(int instructions, pid_t child)
-{
-    int status = 0;
-    if (ptrace(PTRACE_SEIZE, child, nullptr, nullptr) != 0 || ptrace(PTRACE_INTERRUPT, child, nullptr, nullptr) != 0)
-        return false;
-    if (waitpid(child, &status, 0) != child || !WIFSTOPPED(status)) return false;
-    for (; instructions > 0; --instructions)
-        if (ptrace(PTRACE_SINGLESTEP, child, nullptr, nullptr) != 0 || waitpid(child, &status, 0) != child ||
-            !WIFSTOPPED(status) || WSTOPSIG(status) != SIGTRAP)
-            return false;
-    return true;
-}
-
-// The child works in shared memory. It stamps one header, fills the payload and goes on for ever: it is still
-// at it a while after the payload is complete, and has written nothing else.
-TEST(Rfc4175Packet, keeps_endless_odd_width)
-{
-    struct Shared {
-        uint8_t frame[16384];
-        unsigned short seq;
-        unsigned outA, outB;
-    };
-    for (const unsigned width : {1u, 5u, 549u, 551u, 1919u}) {
-        void* const map = mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-        ASSERT_NE(map, MAP_FAILED);
-        auto* const shared = static_cast<Shared*>(map);
-        std::memset(shared->frame, 0x5A, sizeof shared->frame);
-        shared->frame[16] = shared->frame[18] = 0;
-        shared->seq = 0x1234;
-        shared->outA = shared->outB = 7;
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            tntvt_v210_frame_to_rtp_4175(shared->frame, 1395, &shared->seq, timestamp, ssrc, ext_seq, nullptr, width, 2,
-                                         &shared->outA, &shared->outB);
-            _exit(0);
-        }
-        Bytes expected(sizeof shared->frame, 0x5A);
-        const uint8_t high = width > 550 ? 0x05 : 0x00, low = width > 550 ? 0x5F : 0xE0;
-        const Bytes packet = joined({{0x90, 0x60, 0x12, 0x34, 0xAA, 0xBB, 0xCC, 0xDD, 0x01, 0x02,
-                                      0x03, 0x04, 0x55, 0x66, high, low,  0x00, 0x01, 0x00, 0x00},
-                                     repeated({0x24, 0x09, 0x8D, 0x07, 0xAA}, 275)});
-        std::memcpy(expected.data(), packet.data(), packet.size());
-        // The packet is complete; a call that returns does so within a few hundred instructions.
-        int status = 0;
-        while (std::memcmp(shared->frame, packet.data(), packet.size()) != 0 && waitpid(child, &status, WNOHANG) == 0)
-            sched_yield();
-        EXPECT_TRUE(runs_for(3000, child)) << "returned at width " << width;
-        kill(child, SIGKILL);
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-        EXPECT_EQ(Bytes(shared->frame, shared->frame + sizeof shared->frame), expected) << width;
-        EXPECT_EQ(shared->seq, 0x1234);
-        EXPECT_EQ(shared->outA, 7u);
-        EXPECT_EQ(shared->outB, 7u);
-        munmap(map, sizeof(Shared));
     }
 }
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
-#include "reference/rfc4175.h"
+#include "reference/ycbcr10/rfc4175.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

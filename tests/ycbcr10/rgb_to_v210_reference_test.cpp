@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "reference/v210_encoders.h"
+#include "reference/ycbcr10/v210_encoders.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <tintvert.h>
 
-#include "reference/v210_encoders.h"
+#include "reference/ycbcr10/v210_encoders.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

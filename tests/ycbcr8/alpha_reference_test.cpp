@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "meeting.h"
-#include "reference/alpha.h"
+#include "reference/ycbcr8/alpha.h"
 
 namespace tintvert::test {
 namespace {

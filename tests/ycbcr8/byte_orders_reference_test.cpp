@@ -1,7 +1,7 @@
 #include <tintvert.h>
 
 #include "meeting.h"
-#include "reference/byte_orders.h"
+#include "reference/ycbcr8/byte_orders.h"
 
 namespace tintvert::test {
 namespace {

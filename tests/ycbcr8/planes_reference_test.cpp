@@ -1,7 +1,7 @@
 #include <tintvert.h>
 
 #include "meeting.h"
-#include "reference/planes.h"
+#include "reference/ycbcr8/planes.h"
 
 namespace tintvert::test {
 namespace {

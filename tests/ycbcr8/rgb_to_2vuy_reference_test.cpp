@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "reference/rgb_to_2vuy.h"
+#include "reference/ycbcr8/rgb_to_2vuy.h"
 #include "support/arena.h"
 
 namespace tintvert::test {

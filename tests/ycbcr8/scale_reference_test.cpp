@@ -1,4 +1,4 @@
-#include "reference/scale.h"
+#include "reference/ycbcr8/scale.h"
 
 #include <tintvert.h>
 

@@ -18,7 +18,7 @@ struct RleScan {
     size_t wanted;  // if it does not: the offset of the first byte behind the stream that it would read
 };
 
-// Walk the stream as the decoders do. One that runs out is told up to that point.
+// Walk the stream as the decoders do. One that runs out is described up to that point.
 RleScan scan_rle8_rgb32(std::span<const uint8_t> stream, int64_t dst_stride, int64_t height);
 RleScan scan_rle8_rgb24(std::span<const uint8_t> stream, int64_t height);
 

@@ -1,5 +1,5 @@
 // libswscale between the pixel formats that FFmpeg knows by our layouts' bytes, with libavcodec in front of it or
-// behind it for `v210`; and libavcodec followed by libyuv, the quickest road that a user can build.
+// behind it for `v210`; and libavcodec followed by libyuv, the fastest path that a user can build.
 #include "peers/peers.h"
 
 #ifdef TINTVERT_PEER_LIBAV
@@ -57,9 +57,9 @@ Owned<AVCodecContext> open(const AVCodec* codec, int width, int height)
     return avcodec_open2(context.get(), codec, nullptr) == 0 ? context : nullptr;
 }
 
-class Road {
+class Conversion {
 public:
-    Road(const Side& from, const Side& to, const Measured& measured)
+    Conversion(const Side& from, const Side& to, const Measured& measured)
         : src_(measured.buffer(Arg::src)),
           dst_(measured.buffer(Arg::dst)),
           width_(static_cast<int>(measured.size.width)),
@@ -132,16 +132,16 @@ void offer_libav(const Routine& routine, const Measured& measured, std::vector<P
     const Side from(routine.from->name), to(routine.to->name);
     if (from.format == AV_PIX_FMT_NONE || to.format == AV_PIX_FMT_NONE || from.format == to.format) return;
     if (measured.buffer(Arg::src) == nullptr || measured.buffer(Arg::dst) == nullptr) return;
-    const auto road = std::make_shared<Road>(from, to, measured);
-    if (!road->usable()) return;
+    const auto conversion = std::make_shared<Conversion>(from, to, measured);
+    if (!conversion->usable()) return;
     const std::string name = from.coded ? "libavcodec + swscale" : to.coded ? "swscale + libavcodec" : "swscale";
-    peers->push_back({name, [road] { (*road)(); }});
+    peers->push_back({name, [conversion] { (*conversion)(); }});
 #ifdef TINTVERT_PEER_LIBYUV
     if (!from.coded || !routine.to->name.starts_with("rgb")) return;
     const auto argb = std::make_shared<std::vector<uint8_t>>(measured.size.width * measured.size.height * 4);
-    peers->push_back({"libavcodec + libyuv I210ToARGB", [road, argb] {
-                          road->decode();
-                          const AVFrame& f = road->decoded();
+    peers->push_back({"libavcodec + libyuv I210ToARGB", [conversion, argb] {
+                          conversion->decode();
+                          const AVFrame& f = conversion->decoded();
                           const auto plane = [&](int n) { return reinterpret_cast<const uint16_t*>(f.data[n]); };
                           libyuv::I210ToARGB(plane(0), f.linesize[0] / 2, plane(1), f.linesize[1] / 2, plane(2),
                                              f.linesize[2] / 2, argb->data(), f.width * 4, f.width, f.height);

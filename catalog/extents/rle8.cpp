@@ -1,4 +1,4 @@
-// What these routines touch is told by the stream and not by the arguments: the rules read it, `streamSize`
+// The stream, not the arguments, decides which bytes these routines access: the rules read it, `streamSize`
 // bytes at `src`. A stream that runs on behind them needs at least the next byte that its decoder would read.
 #include "extents.h"
 #include "rle_scan.h"

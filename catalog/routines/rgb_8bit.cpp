@@ -8,7 +8,7 @@ constinit const Routine records::tntvt_rgba_full = record<RoutineId::tntvt_rgba_
     .in_place = {as_apart, in_place_rules::equal_strides},
     .quirks = {"keeps_block_of_pixels", "keeps_division_first", "keeps_words_for_other_sizes"},
     .companions = {"CopyMemoryFast"},
-    .summary = "Copies a frame of 3-byte or 4-byte pixels, the size told by each stride."});
+    .summary = "Copies a frame of 3-byte or 4-byte pixels, the pixel size given by each stride."});
 
 constinit const Routine records::tntvt_rgba32_rgb24_inplace =
     record<RoutineId::tntvt_rgba32_rgb24_inplace, shapes::strided>({

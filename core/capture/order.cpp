@@ -29,7 +29,7 @@ void Order::finish()
 }
 
 // A large step back is not one that a packet takes on its way; then the upper half is not counted, and the
-// lower tells.
+// lower half decides.
 int64_t Order::distance(uint32_t number) const
 {
     const uint32_t highest = static_cast<uint32_t>(highest_);

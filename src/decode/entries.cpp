@@ -11,7 +11,7 @@ namespace {
 
 using FrameDecoder = decltype(&cycbcr_uyvy_to_rgb32);
 
-// The sign of `height` is handed on, and told again in the flags.
+// The sign of `height` is passed on, and also sets a flag.
 int decode_by_matrix(FrameDecoder decode, void* dst, long dst_stride, void* src, long src_stride, long width,
                      long height)
 {

@@ -1,4 +1,4 @@
-// Every routine touches exactly the bytes that its extents rule tells, over random geometry.
+// Every routine touches exactly the bytes that its extents function computes, over random geometry.
 #include <gtest/gtest.h>
 
 #include "catalog.h"

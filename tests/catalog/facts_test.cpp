@@ -134,23 +134,23 @@ std::map<std::string, Row> rows_of_docs()
 
 TEST(Facts, quirks_are_those_of_the_docs)
 {
-    std::map<std::string, std::set<std::string>> told;
+    std::map<std::string, std::set<std::string>> recorded;
     for (const Routine& routine : catalog::routines())
         for (const std::string_view name : quirks_of(routine)) {
-            EXPECT_TRUE(told[std::string{name}].insert(std::string{routine.name}).second)
+            EXPECT_TRUE(recorded[std::string{name}].insert(std::string{routine.name}).second)
                 << name << ' ' << routine.name;
         }
     const std::map<std::string, Row> rows = rows_of_docs();
     EXPECT_GT(rows.size(), 100u);
     for (const auto& [name, row] : rows) {
-        ASSERT_TRUE(told.contains(name)) << name << " is not in the catalogue";
+        ASSERT_TRUE(recorded.contains(name)) << name << " is not in the catalogue";
         for (const std::string& routine : row.routines)
-            EXPECT_TRUE(told[name].contains(routine)) << name << " is not told of " << routine;
+            EXPECT_TRUE(recorded[name].contains(routine)) << name << " is not recorded for " << routine;
         if (row.names_all) {
-            EXPECT_EQ(told[name], row.routines) << name;
+            EXPECT_EQ(recorded[name], row.routines) << name;
         }
     }
-    for (const auto& [name, routines] : told) EXPECT_TRUE(rows.contains(name)) << name << " is not in the docs";
+    for (const auto& [name, routines] : recorded) EXPECT_TRUE(rows.contains(name)) << name << " is not in the docs";
 }
 
 TEST(Facts, peers_are_one_command_each)

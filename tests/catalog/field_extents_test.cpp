@@ -136,7 +136,7 @@ TEST(Extents, copy_dissolve)
 }  // namespace
 }  // namespace tintvert::test
 
-// The program's own copy touches every byte that it is told to, those of a line onto itself too, which a
+// The program's own copy touches every byte that it is asked to, those of a line onto itself too, which a
 // memmove may leave alone.
 void CopyMemoryFast(void* destination, const void* source, unsigned int bytes)
 {

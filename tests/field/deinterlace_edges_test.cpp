@@ -167,7 +167,7 @@ TEST(DeinterlaceEdges, replaced_channels)
               (Bytes{100, 100, 100, 0, 0, 0, 0, 0}));
 }
 
-// Combed even lines: mended in mode 2, left in every other.
+// Combed even lines: replaced in mode 2, left in every other.
 TEST(DeinterlaceEdges, even_lines_are_repaired_in_mode_2_only)
 {
     const Line dark{10, 10, 10}, light{200, 200, 200};
@@ -192,7 +192,7 @@ TEST(DeinterlaceEdges, keeps_eight_byte_elements)
               (Bytes{10, 10, 10, 200, 200, 200, 200, 200, 10, 105, 10, 0, 0, 0, 0, 0}));
 }
 
-// A mended line reaches as far as its elements; the slack of `dst` stays.
+// A replaced line reaches as far as its elements; the slack of `dst` stays.
 TEST(DeinterlaceEdges, slack_stays)
 {
     Bytes src = counted(60, 3), dst(60, 0xEE);

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and installs libtintvert over a site's own companions, which can be told from ours, and runs one program
+# Builds and installs libtintvert over a site's own companions, which differ visibly from ours, and runs one program
 # with each set.
 #   site_companions.sh BUILD CC CXX
 . "$(dirname "$0")/expect.sh"

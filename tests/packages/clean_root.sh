@@ -48,7 +48,7 @@ apt install g++ pkg-config
 files >"$root/tmp/before"
 mapfile -t rest < <(debs libtintvert-dev libtintvert-doc)
 apt install "${rest[@]}"
-# build EXAMPLE PACKAGE: with the flags that pkg-config tells.
+# build EXAMPLE PACKAGE: with the flags that pkg-config prints.
 build() {
   in_root sh -c "g++ -std=c++20 /usr/share/doc/libtintvert-doc/examples/$1.cpp -o /tmp/$1 \$(pkg-config --cflags --libs $2)" ||
     fail "$1.cpp does not build"

@@ -56,7 +56,7 @@ protected:
     }
 };
 
-bool tells(const std::string& report, const std::string& key, unsigned value)
+bool reports(const std::string& report, const std::string& key, unsigned value)
 {
     return report.find("\"" + key + "\": " + std::to_string(value) + ",") != std::string::npos;
 }
@@ -71,7 +71,7 @@ TEST_F(CapturePeer, framed_1080_lines)
         << load("log");
     const std::string report = expect_same("in.rtps", 1920, 1080);
     for (const auto& [key, value] : {std::pair{"phase_0", 4676u}, {"phase_2", 2498u}, {"phase_4", 2494u}})
-        EXPECT_TRUE(tells(report, key, value)) << report;
+        EXPECT_TRUE(reports(report, key, value)) << report;
 }
 
 // Widths of 4 and 2 pixels beyond a whole group, and with less than a packet to a frame.

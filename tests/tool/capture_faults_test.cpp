@@ -188,7 +188,7 @@ TEST_F(CaptureFaults, lying_headers)
     }
 }
 
-// The last packet of a frame that only holds its last pgroup, told to stand behind every edge.
+// The last packet of a frame that only holds its last pgroup, sent to positions past every edge.
 TEST_F(CaptureFaults, nothing_lands_behind_the_last_line)
 {
     for (const unsigned width : {2u, 4u, 6u, 46u, 48u}) {

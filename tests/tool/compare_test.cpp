@@ -49,14 +49,14 @@ TEST_F(Compare, finds_the_one_sample_that_differs)
                 save("other", raw_frame(layout, 12, 4, changed));
                 const Result result = compare(layout, {"--json"});
                 EXPECT_EQ(result.code, 1) << result.err;
-                const Json told = Json::parse(result.out);
-                EXPECT_EQ(told["equal"], false);
-                EXPECT_EQ(told["first"]["frame"], 0);
-                EXPECT_EQ(told["first"]["line"], y) << layout;
-                EXPECT_EQ(told["first"]["pixel"], x) << layout;
-                EXPECT_EQ(told["first"]["component"], field.component) << layout;
-                EXPECT_EQ(told["first"]["one"].get<int>() + 1, told["first"]["other"].get<int>());
-                for (const Json& component : told["components"]) {
+                const Json shown = Json::parse(result.out);
+                EXPECT_EQ(shown["equal"], false);
+                EXPECT_EQ(shown["first"]["frame"], 0);
+                EXPECT_EQ(shown["first"]["line"], y) << layout;
+                EXPECT_EQ(shown["first"]["pixel"], x) << layout;
+                EXPECT_EQ(shown["first"]["component"], field.component) << layout;
+                EXPECT_EQ(shown["first"]["one"].get<int>() + 1, shown["first"]["other"].get<int>());
+                for (const Json& component : shown["components"]) {
                     const bool own = component["component"] == field.component;
                     EXPECT_EQ(component["different"], own ? 1 : 0);
                     EXPECT_EQ(component["largest"], own ? 1 : 0);
@@ -100,10 +100,10 @@ TEST_F(Compare, signed_chroma)
 {
     save("one", std::string(96, '\xFF'));
     save("other", std::string(96, '\x01'));
-    const Json told = Json::parse(compare("yuv2", {"--json"}).out);
-    EXPECT_EQ(told["components"][0]["largest"], 254);
-    EXPECT_EQ(told["components"][1]["largest"], 2);
-    EXPECT_EQ(told["first"]["component"], "Y");
+    const Json shown = Json::parse(compare("yuv2", {"--json"}).out);
+    EXPECT_EQ(shown["components"][0]["largest"], 254);
+    EXPECT_EQ(shown["components"][1]["largest"], 2);
+    EXPECT_EQ(shown["first"]["component"], "Y");
 }
 
 TEST_F(Compare, bits_without_a_sample_count_with_exact_alone)
@@ -115,10 +115,10 @@ TEST_F(Compare, bits_without_a_sample_count_with_exact_alone)
     EXPECT_EQ(compare("v210").code, 0);
     EXPECT_EQ(compare("v210").out, "no sample of 1 frame differs\n1 bytes differ, the first at 3\n");
     EXPECT_EQ(compare("v210", {"--exact"}).code, 1);
-    const Json told = Json::parse(compare("v210", {"--exact", "--json"}).out);
-    EXPECT_EQ(told["first"], nullptr);
-    EXPECT_EQ(told["first_byte"], 3);
-    EXPECT_EQ(told["equal"], false);
+    const Json shown = Json::parse(compare("v210", {"--exact", "--json"}).out);
+    EXPECT_EQ(shown["first"], nullptr);
+    EXPECT_EQ(shown["first_byte"], 3);
+    EXPECT_EQ(shown["equal"], false);
 }
 
 TEST_F(Compare, tells_the_frame)
@@ -128,9 +128,9 @@ TEST_F(Compare, tells_the_frame)
     std::string other = frame + frame + frame;
     other[frame.size() * 2 + 1] = 99;
     save("other", other);
-    const Json told = Json::parse(compare("2vuy", {"--json"}).out);
-    EXPECT_EQ(told["frames"], 3);
-    EXPECT_EQ(told["first"],
+    const Json shown = Json::parse(compare("2vuy", {"--json"}).out);
+    EXPECT_EQ(shown["frames"], 3);
+    EXPECT_EQ(shown["first"],
               (Json{{"frame", 2}, {"line", 0}, {"pixel", 0}, {"component", "Y"}, {"one", 20}, {"other", 99}}));
 }
 

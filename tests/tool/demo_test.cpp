@@ -108,7 +108,7 @@ TEST_F(Demo, small_and_odd_sizes)
     }
 }
 
-// The numbers after "1/<scale>" in the lower table, told again from the files.
+// The numbers after "1/<scale>" in the lower table, computed again from the files.
 TEST_F(Demo, tells_the_differences_of_its_files)
 {
     const PngKind kind;

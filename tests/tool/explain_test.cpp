@@ -38,11 +38,11 @@ TEST_F(Explain, extents_are_those_of_the_catalogue)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
         if (routine.from->name == "rle8") continue;  // as far as the stream says
-        const Json told = explained({std::string(routine.name), "--size", "96x6"});
+        const Json shown = explained({std::string(routine.name), "--size", "96x6"});
         const catalog::Arguments call = catalog::plain_call(routine, {96, 6});
         for (const catalog::Touch& touch : routine.extents(call)) {
             Json own;
-            for (const Json& buffer : told["buffers"])
+            for (const Json& buffer : shown["buffers"])
                 if (buffer["name"] == catalog::describe(touch.buffer).name) own = buffer;
             const auto range = [](catalog::Range r) { return r.empty() ? Json() : Json{r.begin, r.end}; };
             EXPECT_EQ(own["read"], range(touch.read)) << routine.name;
@@ -53,22 +53,22 @@ TEST_F(Explain, extents_are_those_of_the_catalogue)
 
 TEST_F(Explain, arguments_of_the_routine)
 {
-    const Json told = explained({"tntvt_yuv422_rgb24", "-s", "64x8", "--scale", "2", "--dstStride", "128"});
-    EXPECT_EQ(told["arguments"]["dstStride"], 128);
-    EXPECT_EQ(told["arguments"]["scale"], 2);
-    EXPECT_EQ(told["bytes_out"], 128 * 4);
+    const Json shown = explained({"tntvt_yuv422_rgb24", "-s", "64x8", "--scale", "2", "--dstStride", "128"});
+    EXPECT_EQ(shown["arguments"]["dstStride"], 128);
+    EXPECT_EQ(shown["arguments"]["scale"], 2);
+    EXPECT_EQ(shown["bytes_out"], 128 * 4);
     EXPECT_EQ(run({"explain", "tntvt_2vuy_v210", "-s", "64x8", "--scale", "2"}).code, 2);
 }
 
 TEST_F(Explain, quirks_are_those_of_the_catalogue_in_the_words_of_the_page)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
-        const Json told = explained({std::string(routine.name), "--size", "96x6"})["deliberate"];
+        const Json shown = explained({std::string(routine.name), "--size", "96x6"})["quirks"];
         const auto names = catalog::quirks_of(routine);
-        ASSERT_EQ(told.size(), names.size()) << routine.name;
+        ASSERT_EQ(shown.size(), names.size()) << routine.name;
         for (size_t i = 0; i < names.size(); ++i) {
-            EXPECT_EQ(told[i]["name"], names[i]);
-            const std::string what = told[i]["what"];
+            EXPECT_EQ(shown[i]["name"], names[i]);
+            const std::string what = shown[i]["what"];
             EXPECT_TRUE(what.size() > 10 && what.ends_with('.') && what.find('|') == std::string::npos) << what;
         }
     }
@@ -77,8 +77,8 @@ TEST_F(Explain, quirks_are_those_of_the_catalogue_in_the_words_of_the_page)
 TEST_F(Explain, says_which_quirks_a_call_meets)
 {
     const auto here = [](std::vector<std::string> call, const std::string& name) {
-        const Json told = explained(std::move(call));
-        for (const Json& quirk : told["deliberate"])
+        const Json shown = explained(std::move(call));
+        for (const Json& quirk : shown["quirks"])
             if (quirk["name"] == name) return quirk["here"];
         return Json("there is none");
     };

@@ -95,12 +95,12 @@ TEST(Layouts, line_lengths)
 
 TEST(St2084, json_holds_every_entry)
 {
-    const Json told = Json::parse(run({"st2084", "--table", "RGB_to_SMPTE2048_10Bit", "--json"}).out);
-    EXPECT_EQ(told["schema"], 1);
-    ASSERT_EQ(told["entries"].size(), 1024u);
+    const Json shown = Json::parse(run({"st2084", "--table", "RGB_to_SMPTE2048_10Bit", "--json"}).out);
+    EXPECT_EQ(shown["schema"], 1);
+    ASSERT_EQ(shown["entries"].size(), 1024u);
     for (size_t i = 0; i < 1024; ++i) {
-        EXPECT_EQ(told["entries"][i], get_ardwRGB_to_SMPTE2048_10Bit()[i]);
-        EXPECT_NEAR(told["curve"][i].get<double>(), told["entries"][i].get<double>() + 0.5, 0.5 + 1e-9);
+        EXPECT_EQ(shown["entries"][i], get_ardwRGB_to_SMPTE2048_10Bit()[i]);
+        EXPECT_NEAR(shown["curve"][i].get<double>(), shown["entries"][i].get<double>() + 0.5, 0.5 + 1e-9);
     }
 }
 

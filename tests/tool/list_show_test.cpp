@@ -23,39 +23,39 @@ json json_of(std::vector<std::string> arguments)
 
 json layout(std::string_view name) { return name == "none" ? json() : json(name); }
 
-void expect_same(const json& told, const catalog::Routine& routine)
+void expect_same(const json& shown, const catalog::Routine& routine)
 {
-    EXPECT_EQ(told["name"], routine.name);
-    EXPECT_EQ(told["chapter"], routine.chapter);
-    EXPECT_EQ(told["summary"], routine.summary);
-    EXPECT_EQ(told["reads"], layout(routine.from->name));
-    EXPECT_EQ(told["writes"], layout(routine.to->name));
+    EXPECT_EQ(shown["name"], routine.name);
+    EXPECT_EQ(shown["chapter"], routine.chapter);
+    EXPECT_EQ(shown["summary"], routine.summary);
+    EXPECT_EQ(shown["reads"], layout(routine.from->name));
+    EXPECT_EQ(shown["writes"], layout(routine.to->name));
     const catalog::Routine* const alias = catalog::alias_of(routine);
-    EXPECT_EQ(told["alias_of"], alias == nullptr ? json() : json(alias->name));
-    EXPECT_EQ(told["empty"], catalog::is_empty_entry(routine));
-    EXPECT_EQ(told["deliberate"], json(catalog::quirks_of(routine)));
-    EXPECT_EQ(told["companions"], json(catalog::companions_of(routine)));
+    EXPECT_EQ(shown["alias_of"], alias == nullptr ? json() : json(alias->name));
+    EXPECT_EQ(shown["empty"], catalog::is_empty_entry(routine));
+    EXPECT_EQ(shown["quirks"], json(catalog::quirks_of(routine)));
+    EXPECT_EQ(shown["companions"], json(catalog::companions_of(routine)));
     const auto peer = catalog::peer_of(routine);
-    EXPECT_EQ(told["peer"].is_null(), !peer);
+    EXPECT_EQ(shown["peer"].is_null(), !peer);
     if (peer) {
-        EXPECT_EQ(told["peer"]["command"], peer->command);
+        EXPECT_EQ(shown["peer"]["command"], peer->command);
     }
-    constexpr const char* in_place[] = {"untold", "fails", "as_apart", "in_its_way"};
-    EXPECT_EQ(told["in_place"], in_place[static_cast<size_t>(catalog::in_place(routine))]);
+    constexpr const char* in_place[] = {"unspecified", "fails", "as_apart", "in_its_way"};
+    EXPECT_EQ(shown["in_place"], in_place[static_cast<size_t>(catalog::in_place(routine))]);
 }
 
 TEST(List, json_holds_every_routine_in_order)
 {
-    const json told = json_of({"list", "--json"});
-    ASSERT_EQ(told["routines"].size(), catalog::routines().size());
-    for (size_t i = 0; i < catalog::routines().size(); ++i) expect_same(told["routines"][i], catalog::routines()[i]);
+    const json shown = json_of({"list", "--json"});
+    ASSERT_EQ(shown["routines"].size(), catalog::routines().size());
+    for (size_t i = 0; i < catalog::routines().size(); ++i) expect_same(shown["routines"][i], catalog::routines()[i]);
 }
 
 TEST(List, a_chapter_holds_its_own)
 {
-    const json told = json_of({"list", "decode", "--json"});
-    EXPECT_FALSE(told["routines"].empty());
-    for (const json& routine : told["routines"]) EXPECT_EQ(routine["chapter"], "decode");
+    const json shown = json_of({"list", "decode", "--json"});
+    EXPECT_FALSE(shown["routines"].empty());
+    for (const json& routine : shown["routines"]) EXPECT_EQ(routine["chapter"], "decode");
 }
 
 TEST(List, text_names_every_routine)
@@ -70,20 +70,20 @@ TEST(List, text_names_every_routine)
 TEST(Show, json_holds_prototype_arguments_and_documentation)
 {
     for (const catalog::Routine& routine : catalog::routines()) {
-        const json told = json_of({"show", std::string(routine.name), "--json"})["routine"];
-        expect_same(told, routine);
-        const std::string prototype = told["prototype"];
+        const json shown = json_of({"show", std::string(routine.name), "--json"})["routine"];
+        expect_same(shown, routine);
+        const std::string prototype = shown["prototype"];
         EXPECT_NE(prototype.find(std::string(routine.name) + "("), std::string::npos) << routine.name;
         EXPECT_TRUE(prototype.ends_with(");")) << prototype;
-        const std::string documentation = told["documentation"];
+        const std::string documentation = shown["documentation"];
         EXPECT_GT(documentation.size(), 20u) << routine.name;
         for (const std::string_view quirk : catalog::quirks_of(routine))
             EXPECT_NE(documentation.find(quirk), std::string::npos) << routine.name << ' ' << quirk;
-        ASSERT_EQ(told["arguments"].size(), routine.arguments.size());
+        ASSERT_EQ(shown["arguments"].size(), routine.arguments.size());
         for (size_t i = 0; i < routine.arguments.size(); ++i) {
             const catalog::Argument& argument = catalog::describe(routine.arguments[i]);
             const char* kind = argument.kind == catalog::Argument::buffer ? "buffer" : "number";
-            EXPECT_EQ(told["arguments"][i],
+            EXPECT_EQ(shown["arguments"][i],
                       (json{{"name", argument.name}, {"kind", kind}, {"meaning", argument.meaning}}));
         }
     }
@@ -107,7 +107,7 @@ TEST(Show, text_tells_what_the_catalogue_knows)
 {
     const std::string alias = run({"show", "tntvt_rgb24_rgb32"}).out;
     for (const char* line : {"\nthe same    tntvt_rgb24_rgba32, under a second name\n",
-                             "\ndeliberate  keeps_ascending_writes_in_place\n", "\npeer        exact: ffmpeg "})
+                             "\nquirks      keeps_ascending_writes_in_place\n", "\npeer        exact: ffmpeg "})
         EXPECT_NE(alias.find(line), std::string::npos) << line << alias;
     EXPECT_NE(run({"show", "tntvt_rle4_rgb24"}).out.find("\nempty       takes its arguments and does nothing\n"),
               std::string::npos);

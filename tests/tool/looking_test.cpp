@@ -56,9 +56,9 @@ TEST_F(Looking, y4m_tells_layout_and_size)
     frame[6 + 5] = '\x52';
     save("other.y4m", load("one.y4m").substr(0, load("one.y4m").size() - frame.size()) + frame);
     EXPECT_TRUE(run({"bits", path("one.y4m"), "--at", "1,1"}).out.ends_with("\npixel 1,1: Y 81, Cb 90, Cr 240\n"));
-    const Json told = Json::parse(run({"compare", path("one.y4m"), path("other.y4m"), "--json"}).out);
-    EXPECT_EQ(told["frames"], 2);
-    EXPECT_EQ(told["first"],
+    const Json shown = Json::parse(run({"compare", path("one.y4m"), path("other.y4m"), "--json"}).out);
+    EXPECT_EQ(shown["frames"], 2);
+    EXPECT_EQ(shown["first"],
               (Json{{"frame", 1}, {"line", 1}, {"pixel", 1}, {"component", "Y"}, {"one", 81}, {"other", 82}}));
     EXPECT_EQ(run({"compare", path("one.y4m"), path("other.y4m"), "--frames", "0"}).code, 0);
     EXPECT_EQ(run({"view", path("one.y4m"), "-l", "planar422"}).code, 2);
@@ -104,9 +104,9 @@ TEST_F(Looking, strides_by_name)
         const Result bits =
             run({"bits", path(file), "--at", "0,1", "-l", "v210", "-s", "10x2", "--stride", stride, "--json"});
         ASSERT_EQ(bits.code, 0) << bits.err;
-        const Json told = Json::parse(bits.out);
-        EXPECT_EQ(told["samples"][0]["byte"], line) << file;
-        EXPECT_EQ(told["samples"][0]["value"], 20) << file;
+        const Json shown = Json::parse(bits.out);
+        EXPECT_EQ(shown["samples"][0]["byte"], line) << file;
+        EXPECT_EQ(shown["samples"][0]["value"], 20) << file;
         EXPECT_EQ(run({"view", path(file), "-l", "v210", "-s", "10x2", "--stride", stride}).code, 0);
         EXPECT_EQ(run({"compare", path(file), path(file), "-l", "v210", "-s", "10x2", "--stride", stride}).code, 0);
     }
@@ -120,12 +120,12 @@ TEST_F(Looking, first_byte_is_that_of_the_file)
     save("one", frames);
     frames[4 + 2 * 24 + 5] = static_cast<char>(frames[4 + 2 * 24 + 5] + 1);
     save("other", frames);
-    const Json told = Json::parse(run({"compare", path("one"), path("other"), "-l", "rgb24", "-s", "4x2", "--offset",
-                                       "4", "--frames", "1:3", "--json"})
-                                      .out);
-    EXPECT_EQ(told["frames"], 2);
-    EXPECT_EQ(told["first"]["frame"], 2);
-    EXPECT_EQ(told["first_byte"], 4 + 2 * 24 + 5);
+    const Json shown = Json::parse(run({"compare", path("one"), path("other"), "-l", "rgb24", "-s", "4x2", "--offset",
+                                        "4", "--frames", "1:3", "--json"})
+                                       .out);
+    EXPECT_EQ(shown["frames"], 2);
+    EXPECT_EQ(shown["first"]["frame"], 2);
+    EXPECT_EQ(shown["first_byte"], 4 + 2 * 24 + 5);
 }
 
 TEST_F(Looking, what_does_not_fit)

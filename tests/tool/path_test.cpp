@@ -34,7 +34,7 @@ const std::map<std::string, RgbLayout> rgb_layouts = {
     {"rgb48", {16, false}}, {"bgr48", {16, false}}, {"rgba64", {16, true}},  {"bgra64", {16, true}},
     {"argb64", {16, true}}, {"abgr64", {16, true}}, {"argb64be", {16, true}}};
 
-// A picture put into one layout and taken out of the other has kept the bits that the road says it keeps, in every
+// A picture put into one layout and taken out of the other has kept the bits that the path says it keeps, in every
 // channel: each step leads where it claims to.
 TEST_F(PathTest, of_rgb_keeps_every_channel)
 {

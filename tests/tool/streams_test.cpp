@@ -97,7 +97,7 @@ TEST_F(Streams, stdout_needs_to_know_what)
     EXPECT_EQ(run(raw).code, 2);
 }
 
-// Output that nobody reads is a failed write, told in one line.
+// Output that nobody reads is a failed write, reported in one line.
 TEST_F(Streams, a_broken_pipe)
 {
     save("in.2vuy", noise(6, 64 * 64 * 2 * 40));
@@ -132,7 +132,7 @@ TEST_F(Streams, progress_stays_off_files)
     EXPECT_EQ(run({"convert", "tntvt_2vuy_v210", path("in.2vuy"), path("out"), "-s", "8x4"}).err, "");
 }
 
-// On a terminal a bar tells frames, frames a second and the time left; not for --quiet.
+// On a terminal a bar shows frames, frames a second and the time left; not for --quiet.
 TEST_F(Streams, progress_on_a_terminal)
 {
     save("in.2vuy", noise(14, 64 * 20));

@@ -33,9 +33,9 @@ TEST_F(Verify, no_peer_differs)
 {
     const Result result = run({"verify", "--json"});
     EXPECT_EQ(result.code, 0) << result.out;
-    const Json told = Json::parse(result.out);
+    const Json shown = Json::parse(result.out);
     std::map<std::string, int> counts;
-    for (const Json& check : told["checks"]) {
+    for (const Json& check : shown["checks"]) {
         ++counts[check["peer"]];
         EXPECT_NE(catalog::find(check["routine"].get<std::string>()), nullptr);
         EXPECT_NE(check["result"], "differs") << check;
@@ -48,11 +48,11 @@ TEST_F(Verify, no_peer_differs)
 TEST_F(Verify, asks_the_libraries_that_it_has)
 {
     const std::string version = run({"--version"}).out;
-    const Json told = Json::parse(verify({"--json"}).out);
+    const Json shown = Json::parse(verify({"--json"}).out);
     for (const std::string library : {"libyuv", "zimg"}) {
         const bool has = version.find("with " + library) != std::string::npos;
         EXPECT_NE(has, version.find("without " + library) != std::string::npos);
-        for (const Json& check : told["checks"]) {
+        for (const Json& check : shown["checks"]) {
             if (check["peer"] != library) continue;
             EXPECT_EQ(check["result"] == "skipped", !has) << check;
             EXPECT_EQ(check["why"] == library + " not built in", !has) << check;
@@ -63,8 +63,8 @@ TEST_F(Verify, asks_the_libraries_that_it_has)
 // The catalogue's own commands are run.
 TEST_F(Verify, asks_what_the_catalogue_tells)
 {
-    const Json told = Json::parse(verify({"tntvt_2vuy_planar", "--json"}).out);
-    EXPECT_EQ(told["checks"][0]["asked"], catalog::peer_of(*catalog::find("tntvt_2vuy_planar"))->command);
+    const Json shown = Json::parse(verify({"tntvt_2vuy_planar", "--json"}).out);
+    EXPECT_EQ(shown["checks"][0]["asked"], catalog::peer_of(*catalog::find("tntvt_2vuy_planar"))->command);
 }
 
 TEST_F(Verify, says_what_is_missing)
@@ -174,9 +174,9 @@ TEST(Names, whole_words_before_parts)
 // One name for two layouts, by who says it.
 TEST(Names, json_tells_who)
 {
-    const Json told = Json::parse(run({"names", "BGRA", "--json"}).out);
+    const Json shown = Json::parse(run({"names", "BGRA", "--json"}).out);
     const auto holds = [&](const Json& name) {
-        return std::find(told["names"].begin(), told["names"].end(), name) != told["names"].end();
+        return std::find(shown["names"].begin(), shown["names"].end(), name) != shown["names"].end();
     };
     EXPECT_TRUE(holds({{"layout", "rgb32"}, {"who", "GStreamer"}, {"name", "BGRA"}}));
     EXPECT_TRUE(holds({{"layout", "abgr32"}, {"who", "libyuv"}, {"name", "BGRA"}}));

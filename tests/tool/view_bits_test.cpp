@@ -132,8 +132,8 @@ TEST_F(Bits, json_of_every_layout)
             run({"bits", path("frame"), "--at", "8,2", "-l", std::string(form.layout), "-s", "12x4", "--json"});
         EXPECT_EQ(result.code, 0) << result.err;
         size_t own = 0;
-        const Json told = Json::parse(result.out);
-        for (const Json& sample : told["samples"]) {
+        const Json shown = Json::parse(result.out);
+        for (const Json& sample : shown["samples"]) {
             const int64_t x = sample["pixel"];
             EXPECT_EQ(sample["value"], x % 2 + sample["component"].get<std::string>().front() % 4 * 4) << form.layout;
             if (!sample["own"].get<bool>()) continue;

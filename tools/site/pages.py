@@ -258,7 +258,7 @@ def extents(routine):
 
 
 def quirks(routine, links):
-    rows = routine["call"]["deliberate"]
+    rows = routine["call"]["quirks"]
     lines = [f"- `{row['name']}`: {links.mark(row['what'], routine['name'])}" for row in rows]
     title = "## Quirks\n\n"
     return title + "\n".join(lines) + "\n\n[What these names are](../quirks.md)" if lines else ""

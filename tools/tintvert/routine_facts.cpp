@@ -24,7 +24,7 @@ InPlaceWords in_place_of(const catalog::Routine& routine)
         case catalog::InPlace::unspecified:
             break;
     }
-    return {"untold", ""};
+    return {"unspecified", ""};
 }
 
 void replace_all(std::string& text, std::string_view what, const std::string& by)
@@ -61,7 +61,7 @@ Json facts_to_json(const catalog::Routine& routine)
     return {{"alias_of", alias == nullptr ? Json() : Json(alias->name)},
             {"empty", catalog::is_empty_entry(routine)},
             {"in_place", in_place_of(routine).name},
-            {"deliberate", catalog::quirks_of(routine)},
+            {"quirks", catalog::quirks_of(routine)},
             {"companions", catalog::companions_of(routine)},
             {"peer", peer_to_json(routine, 0, 0)}};
 }
@@ -76,7 +76,7 @@ std::string facts_to_text(const catalog::Routine& routine)
         add("the same", fmt::format("{}, under a second name", alias->name));
     if (catalog::is_empty_entry(routine)) add("empty", "takes its arguments and does nothing");
     add("in place", in_place_of(routine).sentence);
-    add("deliberate", fmt::format("{}", fmt::join(catalog::quirks_of(routine), ", ")));
+    add("quirks", fmt::format("{}", fmt::join(catalog::quirks_of(routine), ", ")));
     add("calls", fmt::format("{}", fmt::join(catalog::companions_of(routine), ", ")));
     if (const auto peer = catalog::peer_of(routine))
         add("peer", fmt::format("{}: {}", name_of(peer->agreement), peer_command_at(*peer, 0, 0)));

@@ -11,7 +11,7 @@ std::string peer_command_at(const catalog::Peer& peer, int64_t width, int64_t he
 
 Json peer_to_json(const catalog::Routine& routine, int64_t width, int64_t height);
 
-// alias_of, empty, in_place, deliberate, companions, peer.
+// alias_of, empty, in_place, quirks, companions, peer.
 Json facts_to_json(const catalog::Routine& routine);
 
 // A line for each that there is.

@@ -378,7 +378,7 @@ tntvt_checked_result checked_tntvt_rle4_rgba32(tntvt_checked_buffer, long, tntvt
 tntvt_checked_result checked_tntvt_rle4_rgb32(tntvt_checked_buffer, long, tntvt_checked_buffer, long, long, long,
                                               tntvt_checked_buffer, const tntvt_checked_options* options);
 
-/* Copies a frame of 3-byte or 4-byte pixels, the size told by each stride. */
+/* Copies a frame of 3-byte or 4-byte pixels, the pixel size given by each stride. */
 tntvt_checked_result checked_tntvt_rgba_full(tntvt_checked_buffer dst, long dstStride, tntvt_checked_buffer src,
                                              long srcStride, long width, long height,
                                              const tntvt_checked_options* options);

@@ -301,7 +301,7 @@ Result<void> tntvt_rle4_rgba32(Buffer, long, Buffer, long, long, long, Buffer, c
 // Does nothing.
 Result<void> tntvt_rle4_rgb32(Buffer, long, Buffer, long, long, long, Buffer, const Options& options = {});
 
-// Copies a frame of 3-byte or 4-byte pixels, the size told by each stride.
+// Copies a frame of 3-byte or 4-byte pixels, the pixel size given by each stride.
 Result<void> tntvt_rgba_full(Buffer dst, long dstStride, Buffer src, long srcStride, long width, long height,
                              const Options& options = {});
 

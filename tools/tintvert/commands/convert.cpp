@@ -136,7 +136,7 @@ Json to_json(const paths::Path& path)
     for (const paths::Step& step : path.steps)
         steps.push_back(
             {{"routine", step.routine->name}, {"from", step.from}, {"to", step.to}, {"losses", step.losses}});
-    return {{"schema", json_schema}, {"from", path.from}, {"to", path.to}, {"road", steps}, {"losses", path.losses()}};
+    return {{"schema", json_schema}, {"from", path.from}, {"to", path.to}, {"path", steps}, {"losses", path.losses()}};
 }
 
 void report(const Options& options, const paths::Path& path)

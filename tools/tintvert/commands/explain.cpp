@@ -110,7 +110,7 @@ void print_text(const RoutineCall& plan, Size size)
         print_range("written", buffer.written, buffer);
     }
     const std::vector<Quirk> quirks = quirks_at(routine, plan.arguments);
-    if (!quirks.empty()) fmt::print("\ndeliberate\n");
+    if (!quirks.empty()) fmt::print("\nquirks\n");
     for (const Quirk& quirk : quirks)
         fmt::print("  {}{}{}\n    {}\n", quirk.name, quirk.here.empty() ? "" : ", ", quirk.here, quirk.what);
     if (const auto peer = catalog::peer_of(routine))
@@ -141,7 +141,7 @@ void print_json(const RoutineCall& plan, Size size)
                 {"bytes_in", bytes_of(plan, &PlannedBuffer::in)},
                 {"bytes_out", bytes_of(plan, &PlannedBuffer::out)},
                 {"buffers", buffers},
-                {"deliberate", quirks},
+                {"quirks", quirks},
                 {"peer", peer_to_json(*plan.routine, size.width, size.height)},
                 {"call", c_program(plan)}});
 }

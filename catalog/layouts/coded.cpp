@@ -20,10 +20,8 @@ constinit const Layout layout::rle8 = {
     .line_rule = no_lines,
     .note = R"(c v        c pixels of palette entry v, for c from 1 to 255
 0 0        end of line
-0 1        end of "
-        "bitmap
+0 1        end of bitmap
 0 2        end of bitmap: no movement exists
-0 v ...    v index bytes and a pad byte if v is odd, for "
-        "v from 3 to 255)"};
+0 v ...    v index bytes and a pad byte if v is odd, for v from 3 to 255)"};
 
 }  // namespace tintvert::catalog

@@ -33,6 +33,6 @@ constinit const Layout layout::planar420 = {
     .name = "planar420", .summary = "8-bit 4:2:0 in three planes: what YUY2toYV12 writes", .ffmpeg = "yuv420p",
     .gstreamer = "I420", .libyuv = "I420",
     .samples = {{.fields = "Y"}, {.fields = "Cb", .across = 2, .down = 2}, {.fields = "Cr", .across = 2, .down = 2}},
-    .same_bytes_as = &layout::i420, .note = "Luma lines stand `dstPitch` apart, chroma lines half of that."};
+    .same_bytes_as = &layout::i420, .note = "Luma lines are `dstPitch` bytes apart, chroma lines half of that."};
 
 }  // namespace tintvert::catalog

@@ -28,7 +28,7 @@ constinit const Routine records::tntvt_deinterlace_rgb =
     .chapter = "field", .extents = extents::deinterlace, .in_place = {in_its_way, in_place_rules::always},
     .quirks = {"keeps_eight_byte_elements", "keeps_next_line_for_first_two", "keeps_changed_line_above",
         "keeps_wrapping_squares", "keeps_plain_copy_of_mode_17"}, .companions = {"CopyMemoryFast"},
-    .summary = "Replaces what stands out from the lines above and below."});
+    .summary = "Replaces combing against the lines above and below."});
 
 constinit const Routine records::tntvt_deinterlace_yuv =
     record<RoutineId::tntvt_deinterlace_yuv, shapes::comb_ignored>({

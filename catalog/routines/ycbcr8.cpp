@@ -111,7 +111,7 @@ constinit const Routine records::tntvt_2yuv_strip_chroma =
 constinit const Routine records::tntvt_2yuv_average_2y = record<RoutineId::tntvt_2yuv_average_2y, shapes::line_mode>({
     .chapter = "ycbcr8", .from = &layout::_2yuv, .to = &layout::_2yuv, .extents = extents::average_2y,
     .quirks = {"keeps_round_past_the_end"},
-    .summary = "Second luma samples that stand out of a line, pulled back in place."});
+    .summary = "Isolated errors in the second luma of pairs, removed in place."});
 
 constinit const Routine records::tntvt_2vuy_scale = record<RoutineId::tntvt_2vuy_scale, shapes::buffer_up>({
     .chapter = "ycbcr8", .from = &layout::_2vuy, .to = &layout::_2vuy, .extents = extents::scaled_groups,

@@ -169,7 +169,7 @@ tntvt_checked_result checked_tntvt_rgba_addalpha(tntvt_checked_buffer src, tntvt
                                                  long dstStride, unsigned int alpha, int width, int height,
                                                  const tntvt_checked_options* options);
 
-/* Second luma samples that stand out of a line, pulled back in place. */
+/* Isolated errors in the second luma of pairs, removed in place. */
 tntvt_checked_result checked_tntvt_2yuv_average_2y(tntvt_checked_buffer buf, unsigned int bytes, int mode,
                                                    const tntvt_checked_options* options);
 
@@ -670,7 +670,7 @@ tntvt_checked_result checked_tntvt_change_field_yuv(tntvt_checked_buffer dst, un
                                                     tntvt_checked_buffer src, unsigned int srcStride,
                                                     const tntvt_checked_options* options);
 
-/* Replaces what stands out from the lines above and below. */
+/* Replaces combing against the lines above and below. */
 tntvt_checked_result checked_tntvt_deinterlace_rgb(tntvt_checked_buffer dst, tntvt_checked_buffer src,
                                                    unsigned int width, unsigned int height, unsigned int stride,
                                                    int threshold, int softness, long, int mode,

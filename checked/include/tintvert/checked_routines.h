@@ -136,7 +136,7 @@ Result<int> tntvt_rgba_setalpha(Buffer dst, long dstStride, unsigned int alpha, 
 Result<int> tntvt_rgba_addalpha(Buffer src, Buffer dst, long srcStride, long dstStride, unsigned int alpha, int width,
                                 int height, const Options& options = {});
 
-// Second luma samples that stand out of a line, pulled back in place.
+// Isolated errors in the second luma of pairs, removed in place.
 Result<int> tntvt_2yuv_average_2y(Buffer buf, unsigned int bytes, int mode, const Options& options = {});
 
 // 4:2:2 between video and full range by tables, in place.
@@ -531,7 +531,7 @@ Result<int> tntvt_change_field_yuv(Buffer dst, unsigned int mode, unsigned int w
                                    unsigned int dstStride, Buffer src, unsigned int srcStride,
                                    const Options& options = {});
 
-// Replaces what stands out from the lines above and below.
+// Replaces combing against the lines above and below.
 Result<int> tntvt_deinterlace_rgb(Buffer dst, Buffer src, unsigned int width, unsigned int height, unsigned int stride,
                                   int threshold, int softness, long, int mode, const Options& options = {});
 

@@ -56,14 +56,15 @@ TNTVT_AVX512 inline __m512i mean_avx512(__m512i one, __m512i other)
 }
 
 struct AveragePairs {
-    // Sixteen pairs a step. Registers of 32 bytes have no store of single bytes.
+    // Sixteen pairs a step; byte 3 of a word is the second luma, and the first is moved there. Registers of 32 bytes
+    // have no store of single bytes.
     TNTVT_AVX512 static long avx512(uint8_t* buf, long pairs)
     {
         long pair = 0;
-        for (; pairs - pair > 16; pair += 16) {
-            uint8_t* const at = buf + 4 * pair + 1;
-            const __m512i t = _mm512_loadu_si512(at);
-            _mm512_mask_storeu_epi8(at, 0x4444444444444444, mean_avx512(t, _mm512_slli_epi32(t, 16)));
+        for (; pairs - pair >= 16; pair += 16) {
+            uint8_t* const at = buf + 4 * pair;
+            const __m512i lumas = _mm512_maskz_loadu_epi8(0xAAAAAAAAAAAAAAAA, at);
+            _mm512_mask_storeu_epi8(at, 0x8888888888888888, mean_avx512(lumas, _mm512_slli_epi32(lumas, 16)));
         }
         return pair;
     }

@@ -14,29 +14,29 @@ using Memory = std::vector<uint8_t>;
 using Words = std::vector<uint16_t>;
 using Decoder = void (*)(void*, long, void*, long, long, long, long);
 
-struct Geometry {
+struct DecodeCall {
     long dstStride, srcStride, width, height, scale;
 };
 
 // What a call leaves of `bytes` bytes of 0xEE; as many before them and after them stay as they are.
-inline Memory decode(Decoder decoder, Memory src, size_t bytes, const Geometry& g)
+inline Memory decode(Decoder decoder, Memory src, size_t bytes, const DecodeCall& c)
 {
     const auto size = static_cast<ptrdiff_t>(bytes);
     Memory dst(3 * bytes, 0xEE);
-    decoder(dst.data() + size, g.dstStride, src.data(), g.srcStride, g.width, g.height, g.scale);
+    decoder(dst.data() + size, c.dstStride, src.data(), c.srcStride, c.width, c.height, c.scale);
     EXPECT_EQ(Memory(dst.begin(), dst.begin() + size), Memory(bytes, 0xEE));
     EXPECT_EQ(Memory(dst.end() - size, dst.end()), Memory(bytes, 0xEE));
     return {dst.begin() + size, dst.end() - size};
 }
 
-inline Memory rgb24(const Memory& src, size_t bytes, const Geometry& g)
+inline Memory rgb24(const Memory& src, size_t bytes, const DecodeCall& c)
 {
-    return decode(tntvt_yuv422_rgb24, src, bytes, g);
+    return decode(tntvt_yuv422_rgb24, src, bytes, c);
 }
 
-inline Words rgb16(const Memory& src, size_t words, const Geometry& g)
+inline Words rgb16(const Memory& src, size_t words, const DecodeCall& c)
 {
-    const Memory bytes = decode(tntvt_yuv422_rgb16, src, 2 * words, g);
+    const Memory bytes = decode(tntvt_yuv422_rgb16, src, 2 * words, c);
     Words result(words);
     std::memcpy(result.data(), bytes.data(), bytes.size());
     return result;

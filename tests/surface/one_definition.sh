@@ -29,10 +29,10 @@ together() {
 }
 
 programs() {
-  local product=(include src catalog checked core tools/tintvert) folder
+  local product=(include src simd catalog checked core tools/tintvert) folder
   for folder in tests/*/; do together "${product[@]}" tests/support tests/reference "$folder"; done
   for folder in fuzz bench; do together "${product[@]}" $folder; done
-  for folder in companions/*/; do together "$folder"; done
+  for folder in companions/*/; do together simd "$folder"; done
 }
 
 work=$(mktemp -d)

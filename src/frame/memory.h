@@ -10,18 +10,19 @@
 
 namespace tintvert {
 
+// The built-in copy: clang vectorizes no loop with the fortified memcpy of the C library.
 template <class Word>
 inline Word load(const void* address)
 {
     Word word;
-    std::memcpy(&word, address, sizeof word);
+    __builtin_memcpy(&word, address, sizeof word);
     return word;
 }
 
 template <class Word>
 inline void store(void* address, Word word)
 {
-    std::memcpy(address, &word, sizeof word);
+    __builtin_memcpy(address, &word, sizeof word);
 }
 
 // The same for integers, also while compiling.

@@ -93,7 +93,7 @@ constexpr Routine record(const Facts& facts)
             Declared<id>::name,
             &shape,
             shape.arguments,
-            refusals::fits_in_memory<shape.arguments>,
+            refusals::fits_in_memory<shape>,
             call<Declared<id>::function, shape>,
             Types::result,
             Types::parameters};

@@ -61,15 +61,15 @@ struct Size {
     bool fits_in_memory() const { return longest * lines <= memory; }
 };
 
-template <auto& arguments>
+template <auto& shape>
 bool fits_in_memory(const Arguments& call)
 {
     Size size;
     return [&]<size_t... place>(std::index_sequence<place...>)
     {
-        return (size.takes<arguments[place]>(call[arguments[place]]) && ...) && size.fits_in_memory();
+        return (size.takes<shape.arguments[place]>(call[shape.arguments[place]]) && ...) && size.fits_in_memory();
     }
-    (std::make_index_sequence<arguments.size()>{});
+    (std::make_index_sequence<shape.arguments.size()>{});
 }
 
 }  // namespace tintvert::catalog::refusals

@@ -65,7 +65,7 @@ TEST_F(Ycbcr8NumberWidths, planes_of_2_to_the_31_samples_are_work)
     }
     // 0x7FFFFFFF / 0x7FFFFFFF is a pair of lines. As signed numbers -1 / 0x7FFFFFFF is none.
     for (const auto& [groups, total] : {std::pair{0x7FFFFFFFu, 0xFFFFFFFEu}, {1u, 0xFFFFFFFFu}, {1u, 0x80000000u}})
-        expect_work("tntvt_planarfields_2vuy", [&](uint8_t* to, uint8_t* from) {
+        expect_work("tntvt_planarfields_2vuy", [groups = groups, total = total](uint8_t* to, uint8_t* from) {
             tntvt_planarfields_2vuy(to, from, from, from, from, from, from, 0, 0, 0, groups, total);
         });
 }

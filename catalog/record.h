@@ -40,29 +40,29 @@ int64_t call(const Arguments& values)
 template <class Type>
 constexpr std::string_view type_name = {};
 template <>
-constexpr std::string_view type_name<void> = "void";
+inline constexpr std::string_view type_name<void> = "void";
 template <>
-constexpr std::string_view type_name<int> = "int";
+inline constexpr std::string_view type_name<int> = "int";
 template <>
-constexpr std::string_view type_name<long> = "long";
+inline constexpr std::string_view type_name<long> = "long";
 template <>
-constexpr std::string_view type_name<unsigned char> = "unsigned char";
+inline constexpr std::string_view type_name<unsigned char> = "unsigned char";
 template <>
-constexpr std::string_view type_name<unsigned short> = "unsigned short";
+inline constexpr std::string_view type_name<unsigned short> = "unsigned short";
 template <>
-constexpr std::string_view type_name<unsigned int> = "unsigned int";
+inline constexpr std::string_view type_name<unsigned int> = "unsigned int";
 template <>
-constexpr std::string_view type_name<void*> = "void*";
+inline constexpr std::string_view type_name<void*> = "void*";
 template <>
-constexpr std::string_view type_name<void**> = "void**";
+inline constexpr std::string_view type_name<void**> = "void**";
 template <>
-constexpr std::string_view type_name<unsigned char*> = "unsigned char*";
+inline constexpr std::string_view type_name<unsigned char*> = "unsigned char*";
 template <>
-constexpr std::string_view type_name<unsigned short*> = "unsigned short*";
+inline constexpr std::string_view type_name<unsigned short*> = "unsigned short*";
 template <>
-constexpr std::string_view type_name<unsigned int*> = "unsigned int*";
+inline constexpr std::string_view type_name<unsigned int*> = "unsigned int*";
 template <>
-constexpr std::string_view type_name<v210FourWords*> = "v210FourWords*";
+inline constexpr std::string_view type_name<v210FourWords*> = "v210FourWords*";
 
 template <class Signature>
 struct Types;

@@ -127,7 +127,7 @@ void decode_frame_by_stride(const Frame& frame, long width, long height, long sc
 {
     need_tables();
     const long reduced = width / scale;
-    if (reduced * 4 <= frame.dst_stride)
+    if (line_offset(reduced, 4) <= frame.dst_stride)
         decode_frame<Source, Rgb32>(frame, width, height, scale);
     else
         decode_frame<Source, Rgb24>(frame, width, height, scale);

@@ -55,8 +55,9 @@ void CallMemory::copy_stream(const catalog::Routine& routine, const catalog::Arg
 {
     if (!takes(routine, Arg::palette)) return;
     for (Place& place : places_)
-        if (place.argument == Arg::src && !place.accessed.empty())
-            std::memcpy(place.buffer.pointer(), call.as<const uint8_t*>(Arg::src), call.as<size_t>(Arg::streamSize));
+        if (place.argument == Arg::src && !place.accessed.empty())  // a stream may go on after its end code
+            std::memcpy(place.buffer.pointer(), call.as<const uint8_t*>(Arg::src),
+                        static_cast<size_t>(std::min(place.accessed.end, call[Arg::streamSize])));
 }
 
 void CallMemory::point(catalog::Arguments& call)

@@ -200,7 +200,7 @@ TEST(KeptBytesHarness, sees_a_store_of_what_was_there)
     auto* const word = reinterpret_cast<volatile uint32_t*>(pixel);
     volatile uint8_t* const alpha = pixel + 3;
     EXPECT_TRUE(loses([&] {
-        const uint32_t held = *word;
+        volatile uint32_t held = *word;  // so that load and store are two instructions
         *word = held | 0xFF000000;
     }));
     EXPECT_FALSE(loses([&] { *alpha = 0xFF; }));

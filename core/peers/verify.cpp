@@ -55,23 +55,24 @@ PeerAnswer answer_to(const PeerQuestion& question)
     return question.peer == "oiiotool" ? answer_of_oiiotool(question) : answer_of_program(question);
 }
 
-PeerVerdict compared(const PeerQuestion& question, const Bytes& ours, const Bytes& theirs, PeerCheck::Depth depth)
+PeerVerdict compare(const PeerQuestion& question, const Bytes& ours, const Bytes& theirs,
+                    catalog::Peer::Compared compared)
 {
     using enum PeerVerdict::Kind;
     if (ours.size() != theirs.size())
         return {differs, fmt::format("{} bytes, and ours are {}", theirs.size(), ours.size())};
-    if (question.to == "none" || depth == PeerCheck::bytes) {
+    if (question.to == "none" || compared == catalog::Peer::bytes) {
         const auto [a, b] = std::ranges::mismatch(ours, theirs);
         if (a == ours.end()) return {equal, ""};
         return {differs, fmt::format("byte {} is {}, and ours {}", a - ours.begin(), *b, *a)};
     }
-    const int64_t most = depth == PeerCheck::within1 ? 1 : 0;
+    const int64_t most = compared == catalog::Peer::within1 ? 1 : 0;
     int64_t off = 0;
     std::string where;
     catalog::each_sample(
         question.planes(question.to), noise_width,
         [&](const catalog::PlacedPlane& placed, const catalog::Sample& sample, int64_t x, int64_t y, int64_t offset) {
-            const int drop = depth == PeerCheck::upper8 ? sample.bits - 8 : 0;
+            const int drop = compared == catalog::Peer::upper8 ? sample.bits - 8 : 0;
             const int64_t a = catalog::load_sample(*placed.plane, sample, &ours[static_cast<size_t>(offset)]);
             const int64_t b = catalog::load_sample(*placed.plane, sample, &theirs[static_cast<size_t>(offset)]);
             const int64_t distance = std::abs((a >> drop) - (b >> drop));
@@ -91,18 +92,29 @@ std::vector<catalog::PlacedPlane> PeerQuestion::planes(std::string_view layout) 
     return catalog::place_planes(*catalog::find_samples(layout), width, height, line);
 }
 
+std::vector<PeerCheck> peer_checks()
+{
+    std::vector<PeerCheck> checks;
+    for (const catalog::Routine& routine : catalog::routines())
+        for (const catalog::Peer& peer : routine.peers)
+            if (peer.compared != catalog::Peer::nothing) checks.push_back({&routine, &peer});
+    return checks;
+}
+
 PeerVerdict verify_by_peer(const PeerCheck& check)
 {
-    const catalog::Routine& routine = *catalog::find(check.routine);
-    PeerQuestion question{check.peer, check.asked, routine.from->name, routine.to->name, {}, noise_width, noise_height};
+    const catalog::Routine& routine = *check.routine;
+    const catalog::Peer& peer = *check.peer;
+    PeerQuestion question{peer.program, peer.command, routine.from->name, routine.to->name,
+                          {},           noise_width,  noise_height};
     Bytes ours = through_routine(routine, &question);
-    if (check.direction == PeerCheck::back) {
+    if (peer.direction == catalog::Peer::back) {
         std::swap(question.from, question.to);
         std::swap(question.frame, ours);
     }
     const PeerAnswer answer = answer_to(question);
     if (!answer.frame) return {PeerVerdict::skipped, answer.why_none};
-    return compared(question, ours, *answer.frame, check.depth);
+    return compare(question, ours, *answer.frame, peer.compared);
 }
 
 }  // namespace tintvert::core

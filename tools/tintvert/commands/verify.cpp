@@ -25,17 +25,18 @@ Exit run(const Options& options)
     std::array<int, words.size()> counts{};
     Json list = Json::array();
     for (const PeerCheck& check : peer_checks()) {
-        if (!options.routine.empty() && check.routine != options.routine) continue;
+        const std::string_view routine = check.routine->name, peer = check.peer->program;
+        if (!options.routine.empty() && routine != options.routine) continue;
         const PeerVerdict verdict = verify_by_peer(check);
         ++counts[verdict.kind];
         const char* const word = words[verdict.kind];
-        list.push_back({{"routine", check.routine},
-                        {"peer", check.peer},
-                        {"asked", check.asked},
+        list.push_back({{"routine", routine},
+                        {"peer", peer},
+                        {"asked", check.peer->command},
                         {"result", word},
                         {"why", verdict.why}});
         if (options.json) continue;
-        fmt::print("{:<34}  {:<15}  {}{}{}\n", check.routine, check.peer, word, verdict.why.empty() ? "" : ": ",
+        fmt::print("{:<34}  {:<15}  {}{}{}\n", routine, peer, word, verdict.why.empty() ? "" : ": ",
                    printable(verdict.why));
         std::fflush(stdout);
     }

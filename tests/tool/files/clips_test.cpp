@@ -16,7 +16,7 @@ protected:
         if (std::system("command -v ffmpeg >/dev/null") != 0) GTEST_SKIP() << "there is no ffmpeg";
     }
 
-    // Three frames of a test picture in `file`, and in `file`.raw as they stand in the packets.
+    // Three frames of a test picture in `file`, and in `file`.raw as they are in the packets.
     void make(const std::string& file, const std::string& size, const std::string& coding) const
     {
         shell("-f lavfi -i testsrc=s=" + size + ":r=30000/1001 -frames:v 3 " + coding + " " + path(file));

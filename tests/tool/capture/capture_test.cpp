@@ -49,7 +49,7 @@ TEST_F(Capture, every_phase_length_and_width)
     }
 }
 
-// Sent from the frame's end to its start, so that a segment comes after the one behind it in the same group.
+// Sent from the frame's end to its start, so that a segment arrives after the one that follows it in the same group.
 TEST_F(Capture, segments_leave_their_neighbours_alone)
 {
     for (const unsigned pgroups : {1u, 2u, 4u, 5u}) {

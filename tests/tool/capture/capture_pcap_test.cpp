@@ -148,8 +148,8 @@ TEST_F(CapturePcap, finds_the_video_among_others)
     EXPECT_TRUE(none.report["stream"].is_null());
 }
 
-// Of 12 + 2 + 6 or 12 bytes of headers and 35 of data, behind 42 bytes of Ethernet, IP and UDP: 88 bytes hold
-// 26 of data, or 20 behind two headers.
+// Of 12 + 2 + 6 or 12 bytes of headers and 35 of data, after 42 bytes of Ethernet, IP and UDP: 88 bytes contain
+// 26 of data, or 20 after two headers.
 TEST_F(CapturePcap, cut_by_the_snap_length)
 {
     Pcap pcap;
@@ -163,7 +163,7 @@ TEST_F(CapturePcap, cut_by_the_snap_length)
     const Json segments = got.report["segments"];
     EXPECT_EQ(segments["refused"]["cut"], segments["refused"]["all"]);
     EXPECT_GE(segments["refused"]["cut"], 7);
-    EXPECT_GT(segments["taken"], 1);  // whole segments of cut packets
+    EXPECT_GT(segments["taken"], 1);  // whole segments of truncated packets
     EXPECT_EQ(got.frames.size(), size.frame_bytes());
 
     // Too short for the payload header, or for RTP's.

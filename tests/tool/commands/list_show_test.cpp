@@ -1,4 +1,4 @@
-// list and show tell everything that the catalogue and the headers hold.
+// list and show print everything that the catalogue and the headers contain.
 #include <nlohmann/json.hpp>
 
 #include "facts.h"

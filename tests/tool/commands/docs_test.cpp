@@ -1,4 +1,4 @@
-// Every example of the docs is run as it stands: the commands of a fence end well, and print what the fence behind
+// Every example of the docs is run as it is written: the commands of a fence succeed, and print what the fence after
 // them shows.
 #include <sys/wait.h>
 

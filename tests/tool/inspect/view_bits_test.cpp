@@ -1,4 +1,4 @@
-// view and bits: what stands in a frame, as a picture and field by field.
+// view and bits: the contents of a frame, as a picture and field by field.
 #include <nlohmann/json.hpp>
 
 #include "tool/raw_frames.h"
@@ -145,7 +145,7 @@ TEST_F(Bits, json_of_every_layout)
     }
 }
 
-// Chroma of the pixel that it stands with, luma of its own.
+// Chroma of the pixel that it shares it with, luma of its own.
 TEST_F(Bits, of_subsampled_planes)
 {
     save("frame", raw_frame("i420", 4, 4, [](std::string_view component, int64_t x, int64_t y) {

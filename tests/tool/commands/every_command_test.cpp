@@ -20,18 +20,18 @@ protected:
     {
         save("empty", "");
         save("frame", noise(1, 64));
-        save("cut", noise(2, 63));
+        save("truncated", noise(2, 63));
         save("two", noise(3, 128));
         save("empty.png", "");
-        save("cut.png", "\x89PNG\r\n\x1A\n\0\0\0\rIHDR");
-        save("cut.ppm", "P6\n4 2\n255\nabc");
+        save("truncated.png", "\x89PNG\r\n\x1A\n\0\0\0\rIHDR");
+        save("truncated.ppm", "P6\n4 2\n255\nabc");
         save("huge.ppm", "P6\n2147483648 2147483648\n255\n");
-        save("cut.bmp", "BM");
-        save("cut.y4m", "YUV4MPEG2 W4 H2 F25:1\nFRAME\nabc");
+        save("truncated.bmp", "BM");
+        save("truncated.y4m", "YUV4MPEG2 W4 H2 F25:1\nFRAME\nabc");
         save("huge.y4m", "YUV4MPEG2 W4294967297 H4294967297 F25:1\n");
-        save("cut.mov", std::string("\0\0\0\x14"
-                                    "ftypqt  ",
-                                    12));
+        save("truncated.mov", std::string("\0\0\0\x14"
+                                          "ftypqt  ",
+                                          12));
         std::filesystem::create_directory(path("folder"));
         save("huge", "");
         std::filesystem::resize_file(path("huge"), uintmax_t{1} << 40);
@@ -88,8 +88,8 @@ TEST_F(EveryCommand, wrong_names)
 TEST_F(EveryCommand, files_that_cannot_be_read)
 {
     std::vector<Wrong> table;
-    for (const char* file : {"@missing", "@folder", "@empty.png", "@cut.png", "@cut.ppm", "@cut.bmp", "@cut.y4m",
-                             "@cut.mov", "@frame/below"}) {
+    for (const char* file : {"@missing", "@folder", "@empty.png", "@truncated.png", "@truncated.ppm", "@truncated.bmp",
+                             "@truncated.y4m", "@truncated.mov", "@frame/below"}) {
         for (const std::vector<std::string>& command :
              {std::vector<std::string>{"view", file, "-l", "rgb32", "-o", "@out.png"},
               {"bits", file, "--at", "0,0", "-l", "rgb32"},
@@ -105,9 +105,9 @@ TEST_F(EveryCommand, files_that_cannot_be_read)
     table.push_back({{"guess", "@empty"}, 3});
     table.push_back({{"guess", "@folder"}, 3});
     table.push_back({{"demo", "--input", "@missing.png", "--output", "@out"}, 3});
-    table.push_back({{"demo", "--input", "@cut.png", "--output", "@out"}, 3});
-    for (Wrong& wrong : table)  // it is cut in a frame, and holds no RGB
-        if (wrong.words[1] == "@cut.y4m") wrong.code = wrong.words[0] == "convert" ? 4 : 2;
+    table.push_back({{"demo", "--input", "@truncated.png", "--output", "@out"}, 3});
+    for (Wrong& wrong : table)  // it is truncated within a frame, and has no RGB
+        if (wrong.words[1] == "@truncated.y4m") wrong.code = wrong.words[0] == "convert" ? 4 : 2;
     expect_all(table);
 }
 
@@ -121,7 +121,7 @@ TEST_F(EveryCommand, files_of_another_length_and_absurd_sizes)
         table.push_back({{"convert", "--from", "2vuy", "--to", "v210", file, "@out", "-s", size, "-q"}, code});
         table.push_back({{"convert", "tntvt_2vuy_v210", file, "@out", "-s", size, "-q"}, code});
     };
-    for (const char* file : {"@empty", "@cut", "@huge"}) each(file, "12x5", 4);
+    for (const char* file : {"@empty", "@truncated", "@huge"}) each(file, "12x5", 4);
     for (const char* size : {"0x4", "-8x4", "2147483648x1", "1x2147483648", "65536x65536", "4294967296x4294967296",
                              "99999999999999999999x4"}) {
         each("@frame", size, 4);

@@ -1,4 +1,4 @@
-// view in a terminal: what libchafa draws, and what stands without it.
+// view in a terminal: what libchafa draws, and what is printed without it.
 #include <algorithm>
 
 #include "tool/raw_frames.h"
@@ -42,7 +42,7 @@ protected:
     }
 };
 
-// Characters of a line, without what lies between ESC and m.
+// Characters of a line, without those from ESC to m.
 size_t characters(const std::string& line)
 {
     size_t count = 0;

@@ -18,7 +18,7 @@ TEST(Layouts, page_in_the_docs_is_the_one_that_the_tool_makes)
     EXPECT_EQ(run({"layouts", "--markdown"}).out, std::string(std::istreambuf_iterator<char>(page), {}));
 }
 
-// Every layout that a routine names is drawn, but for the packet that stands over a frame.
+// Every layout that a routine names is drawn, except the RTP packet.
 TEST(Layouts, hold_every_name_of_the_catalogue)
 {
     for (const catalog::Routine& routine : catalog::routines())

@@ -60,8 +60,9 @@ void convert_pair(uint8_t* dst, const uint8_t* src, ChromaBefore& before)
 template <class Matrix, const Channels& at>
 void convert_run(uint8_t* dst, const uint8_t* src, int pixels)
 {
+    if (pixels < 1) return;
     ChromaBefore before{0.25 * 128.0, 0.25 * 128.0};
-    if (pixels > 0) convert_pair<Matrix, at>(dst, src, before);
+    convert_pair<Matrix, at>(dst, src, before);
     const long inner = pixels / 2 - 2;
     const long made = run_simd<ConvertPairs<Matrix, at>>(instruction_set(), {{dst + 4, inner * 4}},
                                                          {{src + 4, inner * 8 + 4}}, dst + 4, src + 8, inner);

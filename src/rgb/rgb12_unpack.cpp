@@ -120,8 +120,8 @@ void tntvt_rgb12_bgr48(void* dst, long dstStride, void* src, long srcStride, lon
 }
 
 // QUIRK (keeps_triple_rounds): rounds are counted as eight samples and take 24, so a line handles about
-// three times `width` pixels. The next line overwrites the surplus and the last line's lands behind the
-// frame, where callers leave room.
+// three times `width` pixels. The next line overwrites the surplus and the last line's lands past the
+// end of the frame, where callers leave room.
 void tntvt_rgb12_rgb48(void* dst, long dstStride, void* src, long srcStride, long width, long height)
 {
     walk_forward<ToRgb48>({dst, dstStride, src, srcStride}, rounds_of_samples(width), magnitude(height));

@@ -1,12 +1,6 @@
 #include "support/store_watch.h"
 
-#if defined(__SANITIZE_THREAD__)
-#define TINTVERT_TEST_TSAN 1
-#elif defined(__has_feature)
-#if __has_feature(thread_sanitizer)
-#define TINTVERT_TEST_TSAN 1
-#endif
-#endif
+#include "support/sanitized.h"
 
 #if defined(__x86_64__) && !defined(TINTVERT_TEST_TSAN)
 
